@@ -1,0 +1,39 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "tools/Export.h"
+#include "tools/QVBasicString.h"
+
+namespace qv {
+
+/// One argument of `Format`: a text or a whole number.
+class QVTOOLS_EXPORT FormatArgument {
+ public:
+  FormatArgument(const wchar_t* text);       // NOLINT(google-explicit-constructor)
+  FormatArgument(const QVWideString& text);  // NOLINT(google-explicit-constructor)
+  FormatArgument(std::wstring_view text);    // NOLINT(google-explicit-constructor)
+  FormatArgument(int number);                // NOLINT(google-explicit-constructor)
+  FormatArgument(unsigned number);           // NOLINT(google-explicit-constructor)
+
+  /// The argument under a conversion character `s`, `d`, `u` or `X`, with at least `width`
+  /// characters, filled with `fill` on the left.
+  std::wstring Converted(wchar_t conversion, std::size_t width, wchar_t fill) const;
+
+ private:
+  std::wstring_view m_text;
+  long long m_number = 0;
+  bool m_isText = false;
+};
+
+/// The text that `format` makes of `arguments`. Conversions: `%s` a wide text, `%d` and `%u` a
+/// decimal number, `%X` an upper-case hexadecimal one (of 32 bits), each with an optional width and
+/// leading zeros as in `%02d` and `%06X`, and `%%`. An argument of the other kind is shown in its
+/// own form. A conversion without an argument, or one that isn't listed, stands as it is. No text
+/// from a file is ever used as a format by the C library.
+QVTOOLS_EXPORT std::wstring Format(std::wstring_view format,
+                                   std::initializer_list<FormatArgument> arguments);
+
+}  // namespace qv

@@ -1,0 +1,64 @@
+#include "tools/Names.h"
+
+#include <utf8proc.h>
+
+#include <algorithm>
+
+#include "tools/CharTraits.h"
+#include "tools/Utf8.h"
+#include "tools/XmlText.h"
+
+namespace {
+
+#ifdef _WIN32
+constexpr std::wstring_view refusedInFileNames = L"\"\\";
+#else
+constexpr std::wstring_view refusedInFileNames;
+#endif
+
+/// What a file name may hold less the GUID, the two dots and the extension "xdctI", in bytes.
+constexpr std::size_t longestName = 255 - 36 - 1 - 6;
+
+bool FitsFileName(std::wstring_view name) {
+  const auto bytes = qv::ToUtf8(name);
+  return bytes && bytes->size() <= longestName &&
+         name.find_first_of(refusedInFileNames) == std::wstring_view::npos;
+}
+
+bool IsControl(wchar_t character) {
+  return character < 0x20 || (character >= 0x7F && character < 0xA0);
+}
+
+wchar_t Lowered(wchar_t character) {
+  return static_cast<wchar_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(character)));
+}
+
+wchar_t Uppered(wchar_t character) {
+  return static_cast<wchar_t>(QVWideChar::ToUpper(static_cast<int>(character)));
+}
+
+}  // namespace
+
+bool IsValidId(const wchar_t* text, bool asFileName) {
+  const std::wstring_view name(text ? text : L"");
+  return !name.empty() && name.find_first_of(L".?=/<>:|*") == std::wstring_view::npos &&
+         std::none_of(name.begin(), name.end(), IsControl) && qv::IsXmlText(name) &&
+         (!asFileName || FitsFileName(name));
+}
+
+namespace qv {
+
+int CompareLowered(std::wstring_view a, std::wstring_view b) {
+  const auto before = [](wchar_t x, wchar_t y) { return Lowered(x) < Lowered(y); };
+  if (std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), before)) {
+    return -1;
+  }
+  return std::lexicographical_compare(b.begin(), b.end(), a.begin(), a.end(), before) ? 1 : 0;
+}
+
+bool EqualUppered(std::wstring_view a, std::wstring_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](wchar_t x, wchar_t y) { return Uppered(x) == Uppered(y); });
+}
+
+}  // namespace qv
