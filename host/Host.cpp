@@ -1,0 +1,53 @@
+#include "host/Host.h"
+
+template <class Service>
+static Service*& Installed() {
+  static Service* installed = nullptr;
+  return installed;
+}
+
+template <class Service>
+Service* HostService<Service>::Get() {
+  return Installed<Service>();
+}
+
+template <class Service>
+Service* HostService<Service>::Install(Service* service) {
+  Service* before = Installed<Service>();
+  Installed<Service>() = service;
+  return before;
+}
+
+template class HostService<QVVornelSetup>;
+template class HostService<QVMainCfg>;
+template class HostService<QVVornelGuids>;
+template class HostService<QVLoadString>;
+template class HostService<CreateDiscriminatorIndex>;
+template class HostService<QVClipboard>;
+
+QVMainCfg::QVMainCfg() = default;
+QVMainCfg::~QVMainCfg() = default;
+
+bool QVLoadString::Has(unsigned /*id*/) const { return false; }
+
+QVWideString QVLoadString::Load(Text id) const {
+  QVWideString text;
+  return (*this)(Number(id), text);
+}
+
+namespace qv {
+
+std::optional<Host> InstalledHost() {
+  const auto* setup = QVVornelSetup::Get();
+  auto* mainCfg = QVMainCfg::Get();
+  auto* guids = QVVornelGuids::get();
+  const auto* loadString = QVLoadString::Get();
+  auto* createIndex = CreateDiscriminatorIndex::Get();
+  auto* clipboard = QVClipboard::Get();
+  if (!setup || !mainCfg || !guids || !loadString || !createIndex || !clipboard) {
+    return std::nullopt;
+  }
+  return Host{*setup, *mainCfg, *guids, *loadString, *createIndex, *clipboard};
+}
+
+}  // namespace qv

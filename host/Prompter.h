@@ -1,0 +1,27 @@
+#pragma once
+
+#include <initializer_list>
+
+#include "host/Export.h"
+#include "host/Text.h"
+#include "tools/Format.h"
+
+namespace qv {
+
+/// How the rules speak to the user: texts by number, shown and answered before the call returns.
+/// The dialogs show modal boxes, the command line writes, tests follow a script.
+class QVHOST_EXPORT Prompter {
+ public:
+  using Arguments = std::initializer_list<FormatArgument>;
+
+  virtual ~Prompter() = default;
+
+  /// Shows the text, with its placeholders filled in.
+  virtual void Show(Text text, Arguments arguments = {}) = 0;
+  /// Asks the text as a question; true for Yes.
+  virtual bool Ask(Text text, Arguments arguments = {}) = 0;
+  /// Shows a text that has no number, as it stands.
+  virtual void ShowText(std::wstring_view text) = 0;
+};
+
+}  // namespace qv

@@ -1,0 +1,147 @@
+#pragma once
+
+/// The texts that the dialogs show, by number.
+///
+/// The numbers are the vocabulary between the library and the language files of its host: the
+/// library asks for a number, the host answers with the wording in the language of its user.
+/// Numbers of 60000 and up are the library's own additions. A host may lack them, and what they
+/// label then stays mute.
+enum class Text : unsigned {
+  // Several dialogs
+  Name = 355,               ///< label of a name, heading of the column of names
+  Description = 284,        ///< label in the discriminator editor, column of the list
+  Add = 415,                ///< button Add of the lists and of the time slot editor
+  Modify = 416,             ///< button Modify of the lists
+  Remove = 420,             ///< button Remove of the lists
+  Ok = 428,                 ///< button OK: discriminator, time structure and calendar dialogs
+  Cancel = 429,             ///< button Cancel: discriminator, time structure and calendar dialogs
+  ConfirmOk = 311,          ///< button OK: condition dialogs and variable selection
+  ConfirmCancel = 312,      ///< button Cancel: condition dialogs and variable selection
+  DayTypes = 431,           ///< box of day types: their list, calendar, variable selection
+  HourTypes = 472,          ///< box of hour types: their list, variables; label of a slot's type
+  Conditions = 36424,       ///< discriminator editor: type and button; variable selection: box
+  TimeSlots = 461,          ///< discriminator editor: type; day type editor: box of the slots
+  From = 462,               ///< start of a slot: column in the day type, label in the slot editor
+  To = 463,                 ///< end of a slot: column in the day type, label in the slot editor
+  Diagram = 339,            ///< box of the dial (day type editor) and of the grid (slot editor)
+  Colour = 411,             ///< label of the swatch in the day and hour type editors
+  NameNotAllowed = 32764,   ///< message: a discriminator, day or hour type can't be named so
+  TypeNameTaken = 466,      ///< message: another day type, or hour type, has this name
+  TypeColourTaken = 465,    ///< question: another day type, or hour type, has this colour
+  SlotStartAfterEnd = 469,  ///< message of the day type and the time slot editor
+
+  // Discriminator list
+  DiscriminatorListTitle = 32367,        ///< title
+  Discriminators = 32370,                ///< box around the list
+  Exit = 419,                            ///< button that leaves the dialog
+  Copy = 732,                            ///< context menu; the shortcut is appended
+  Paste = 742,                           ///< context menu; the shortcut is appended
+  RemoveDiscriminatorsQuestion = 32368,  ///< question before the selected rows are removed
+  DiscriminatorFileNotDeleted = 32369,   ///< message: the file can't be deleted, removal stops
+  ReadingDiscriminators = 60000,         ///< progress of a long first reading: label
+  ReadingProgress = 60004,               ///< progress of a long first reading: %d files of %d
+
+  // Discriminator editor
+  AddDiscriminatorTitle = 32359,     ///< title, for a new discriminator
+  ModifyDiscriminatorTitle = 32360,  ///< title, for an existing discriminator
+  DiscriminatorType = 544,           ///< label of the choice of type
+  CalendarLink = 424,                ///< big button that opens the calendar
+  DayTypesLink = 426,                ///< big button that opens the day types
+  HourTypesLink = 427,               ///< big button that opens the hour types
+  SetZeroOutsideSlot = 35235,        ///< check box
+  DiscriminatorNameMissing = 32363,  ///< message: the name is empty
+  DiscriminatorNameTaken = 32365,    ///< message: another discriminator has this name
+  DescriptionWithQuote = 32366,      ///< message: the description holds a double quote
+  LinkNotReady = 60005,              ///< tooltip of a big button that can't open its part yet
+  DiscriminatorNotSaved = 32362,     ///< message: the file can't be written
+
+  // Hour type list and hour type editor
+  HourTypeListTitle = 478,      ///< list: title
+  AddHourTypeTitle = 476,       ///< editor: title, while the hour type has no name
+  ModifyHourTypeTitle = 475,    ///< editor: title, when the hour type has a name
+  HourTypeValue = 38293,        ///< editor: label of the value
+  HourTypeNameMissing = 477,    ///< editor, message: the name is empty
+  HourTypeNameForbidden = 483,  ///< editor, message: double quote, backslash or comma in it
+
+  // Day type list and day type editor
+  DayTypeListTitle = 479,       ///< list: title
+  AddDayTypeTitle = 459,        ///< editor: title, while the day type has no name
+  ModifyDayTypeTitle = 460,     ///< editor: title, when the day type has a name
+  DayTypeNameMissing = 464,     ///< editor, message: the name is empty
+  DayTypeNameForbidden = 484,   ///< editor, message: double quote, backslash or comma in it
+  SlotHourOutOfRange = 467,     ///< editor, message: an hour above 24, or 24 with minutes
+  SlotMinuteOutOfRange = 468,   ///< editor, message: a minute above 59
+  SlotsOverlap = 470,           ///< editor, message: two slots overlap
+  DayNotCoveredQuestion = 471,  ///< editor, question: accept a day with gaps?
+
+  // Time slot editor
+  AddSlotTitle = 473,     ///< title, for a new slot
+  ModifySlotTitle = 474,  ///< title, for an existing slot
+  NoHourType = 480,       ///< message: there is no hour type to choose
+
+  // Calendar; the names of its months are those of the fast selection
+  CalendarTitle = 919,        ///< title
+  FastSelectionButton = 433,  ///< button that opens the fast selection
+  UnmarkDates = 457,          ///< label of the brush while no day type is selected
+  CalendarMonday = 34857,     ///< heading of a column of days, short form
+  CalendarTuesday = 34858,    ///< heading of a column of days, short form
+  CalendarWednesday = 34859,  ///< heading of a column of days, short form
+  CalendarThursday = 34860,   ///< heading of a column of days, short form
+  CalendarFriday = 34861,     ///< heading of a column of days, short form
+  CalendarSaturday = 34862,   ///< heading of a column of days, short form
+  CalendarSunday = 34863,     ///< heading of a column of days, short form
+
+  // Fast selection
+  FastSelectionTitle = 456,  ///< title
+  Year = 432,                ///< label; a colon and the year are appended
+  Weekdays = 434,            ///< box of the weekdays
+  Months = 435,              ///< box of the months
+  DayType = 455,             ///< label of the choice of day type
+  Monday = 449,              ///< check box
+  Tuesday = 450,             ///< check box
+  Wednesday = 451,           ///< check box
+  Thursday = 452,            ///< check box
+  Friday = 453,              ///< check box
+  Saturday = 454,            ///< check box
+  Sunday = 448,              ///< check box; the numbers count the week from Sunday
+  January = 436,             ///< check box; name of the month in the calendar
+  February = 437,            ///< check box; name of the month in the calendar
+  March = 438,               ///< check box; name of the month in the calendar
+  April = 439,               ///< check box; name of the month in the calendar
+  May = 440,                 ///< check box; name of the month in the calendar
+  June = 441,                ///< check box; name of the month in the calendar
+  July = 442,                ///< check box; name of the month in the calendar
+  August = 443,              ///< check box; name of the month in the calendar
+  September = 444,           ///< check box; name of the month in the calendar
+  October = 445,             ///< check box; name of the month in the calendar
+  November = 446,            ///< check box; name of the month in the calendar
+  December = 447,            ///< check box; name of the month in the calendar
+
+  // Condition list and condition editor
+  ConditionListTitle = 36422,        ///< list: title
+  ConditionBox = 32478,              ///< list: box around the list
+  RemoveConditionsQuestion = 36423,  ///< list: question before the selected rows are removed
+  AddConditionTitle = 32018,         ///< editor: title, while the condition has no name
+  ModifyConditionTitle = 32010,      ///< editor: title, when the condition has a name
+  Condition = 32008,                 ///< list: column; editor: label, a status may be appended
+  ExpressionMissing = 32449,         ///< editor, status: the expression is empty
+  ExpressionInvalid = 32446,         ///< editor, status and message: it can't be a condition
+  ResultNotLogical = 32485,          ///< editor, status: it gives neither true nor false
+  ExpressionUsesModule = 37540,      ///< editor, status: a module can't be evaluated here
+  ConditionNameMissing = 37014,      ///< editor, message: the name is empty
+  ConditionNameTaken = 37013,        ///< editor, message: another condition has this name
+
+  // Variable selection
+  VariableSelection = 196,    ///< first part of the title
+  Discriminator = 32355,      ///< second part of the title; the device's name may follow
+  OneVariableAtMost = 32336,  ///< message: more than the one variable allowed
+  VariablesAtMost = 197,      ///< message: more than the %d variables allowed
+
+  // Message boxes
+  MessageYes = 60001,  ///< button Yes of a question
+  MessageNo = 60002,   ///< button No of a question
+  MessageOk = 60003,   ///< button OK of a message
+};
+
+/// The number under which a language file holds the text.
+constexpr unsigned Number(Text text) { return static_cast<unsigned>(text); }

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/Host.h"
+
+namespace qv {
+
+/// Directories that a test can set.
+class FakeSetup : public QVVornelSetup {
+ public:
+  QVWideString cfgPath = L"/cfg/";
+  QVWideString imagePath = L"/images/";
+  unsigned programIcon = 1;
+
+  const QVWideString& CfgPath() const override { return cfgPath; }
+  QVWideString getImageFilePath() const override { return imagePath; }
+  unsigned ProgramIDResource() const override { return programIcon; }
+};
+
+/// Keeps the notices, in order.
+class RecordingGuids : public QVVornelGuids {
+ public:
+  std::vector<int> notices;
+
+  /// Fails the test if the flag isn't set.
+  void invalidateGuid(int id, bool stale) override;
+};
+
+/// Gives "[n]" as the text of the number n.
+class NumberTexts : public QVLoadString {
+ public:
+  /// The additions that the host's language has.
+  std::set<unsigned> additions;
+
+  QVWideString& operator()(unsigned id, QVWideString& text) const override;
+  bool Has(unsigned id) const override { return additions.contains(id); }
+
+  using QVLoadString::Load;
+};
+
+/// Keeps what an index was asked for, in order, and makes none.
+class RecordingIndex : public CreateDiscriminatorIndex {
+ public:
+  /// Directory and file name of each call.
+  std::vector<std::pair<std::wstring, std::wstring>> calls;
+  bool result = true;
+
+  bool operator()(const QVWideString& directory, const QVWideString& fileName) override;
+};
+
+/// A clipboard of text in memory.
+class FakeClipboard : public QVClipboard {
+ public:
+  /// What is on it, without the block's terminator; nothing if it holds no text.
+  std::optional<std::string> text;
+
+  bool PutToClipboard(const char* bytes, int size, int format) override;
+  int GetFromClipboard(std::unique_ptr<char[]>& bytes, int format) const override;
+};
+
+/// A host made of fakes. It is not in the registry: rules take `Services()`, and
+/// `InstalledFakeHost` is for what asks the registry.
+struct FakeHost {
+  FakeSetup setup;
+  QVMainCfg mainCfg;  ///< with a root that has no children
+  RecordingGuids guids;
+  NumberTexts loadString;
+  RecordingIndex createIndex;
+  FakeClipboard clipboard;
+
+  FakeHost();
+
+  /// The fakes as the rules take them. They must not outlive this host.
+  Host Services();
+
+  /// Adds a device with this driver to the main configuration and returns it.
+  XmlNode* AddDevice(const wchar_t* driver);
+};
+
+/// A fake host that is in the registry as long as it lives. Afterwards the services that were there
+/// before are back.
+class InstalledFakeHost {
+ public:
+  InstalledFakeHost();
+  InstalledFakeHost(const InstalledFakeHost&) = delete;
+  InstalledFakeHost& operator=(const InstalledFakeHost&) = delete;
+  ~InstalledFakeHost();
+
+  FakeHost& operator*() { return m_host; }
+  FakeHost* operator->() { return &m_host; }
+
+ private:
+  FakeHost m_host;
+  QVVornelSetup* m_setupBefore;
+  QVMainCfg* m_mainCfgBefore;
+  QVVornelGuids* m_guidsBefore;
+  QVLoadString* m_loadStringBefore;
+  CreateDiscriminatorIndex* m_createIndexBefore;
+  QVClipboard* m_clipboardBefore;
+};
+
+}  // namespace qv
