@@ -1,0 +1,54 @@
+#include "discriminator/ClipboardPayload.h"
+
+#include "discriminator/Fields.h"
+#include "tools/XmlReader.h"
+
+namespace qv {
+namespace {
+
+constexpr wchar_t payloadTag[] = L"discriminatorClipboard";
+constexpr wchar_t itemTag[] = L"discriminator";
+
+}  // namespace
+
+QVNarrowString ComposePayload(const std::vector<QVWideString>& paths, Files& files) {
+  QVNarrowString payload(QVNarrowString::GrowSmall);
+  payload += "<discriminatorClipboard>";
+  XmlDocument document;
+  for (const QVWideString& path : paths) {
+    QVNarrowString code;
+    if (document.Load(path, files) && document.CreateXmlCode(code, false)) {
+      payload += "<discriminator>";
+      payload += code;
+      payload += "</discriminator>";
+    }
+  }
+  payload += "</discriminatorClipboard>";
+  return payload;
+}
+
+std::unique_ptr<XmlDocument> ParsePayload(const char* text) {
+  XmlReader reader(payloadTag);
+  reader.Feed(std::string_view(text));
+  const auto root = reader.Finish();
+  return root ? std::make_unique<XmlDocument>(*root) : nullptr;
+}
+
+std::vector<const XmlNode*> ItemsOfPayload(const XmlDocument& payload) {
+  std::vector<const XmlNode*> items;
+  const XmlNode& root = *payload.Root();
+  for (auto child = root.ChildsBegin(); child != root.ChildsEnd(); ++child) {
+    const XmlNode& wrapper = **child;
+    if (wrapper.Tag() != itemTag) {
+      continue;
+    }
+    const XmlNode* item = wrapper.Node(tag::Main);
+    item = item ? item : wrapper.Node(tag::Root);
+    if (item) {
+      items.push_back(item);
+    }
+  }
+  return items;
+}
+
+}  // namespace qv

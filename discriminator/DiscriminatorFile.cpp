@@ -1,0 +1,37 @@
+#include "discriminator/DiscriminatorFile.h"
+
+#include "discriminator/Fields.h"
+#include "discriminator/FileNames.h"
+
+namespace qv {
+namespace {
+
+QVWideString StemOfFields(const XmlNode& root) {
+  return FileStem(root.Value(tag::Id, L""), root.Value(tag::Name, L""));
+}
+
+}  // namespace
+
+bool LoadDiscriminator(XmlDocument& document, const QVWideString& directory,
+                       std::wstring_view fileName, Files& files) {
+  return document.Load(directory + QVWideString(fileName), files) &&
+         StemOfFields(*document.Root()) + discriminatorExtension == fileName;
+}
+
+std::optional<DiscriminatorSummary> GetDiscriminatorIdNameDescription(const QVWideString& directory,
+                                                                      std::wstring_view fileName,
+                                                                      ShowConditions showConditions,
+                                                                      Files& files) {
+  XmlDocument document;
+  if (!LoadDiscriminator(document, directory, fileName, files)) {
+    return std::nullopt;
+  }
+  const XmlNode& root = *document.Root();
+  if (root.Value(tag::Type, L"") == word::Conditions && showConditions == ShowConditions::No) {
+    return std::nullopt;
+  }
+  return DiscriminatorSummary{StemOfFields(root), root.Value(tag::Name, L""),
+                              root.Value(tag::Description, L"")};
+}
+
+}  // namespace qv

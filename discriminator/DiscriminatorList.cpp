@@ -1,0 +1,216 @@
+#include "discriminator/DiscriminatorList.h"
+
+#include <algorithm>
+
+#include "discriminator/ClipboardPayload.h"
+#include "discriminator/DeviceLinks.h"
+#include "discriminator/Fields.h"
+#include "discriminator/FileNames.h"
+#include "discriminator/IndexDocument.h"
+#include "host/Installation.h"
+#include "tools/Format.h"
+#include "tools/Guid.h"
+#include "tools/Names.h"
+
+namespace qv {
+namespace {
+
+bool SortsBefore(const STagDiscriminatorRow& a, const STagDiscriminatorRow& b) {
+  const int order = CompareLowered(a.shown.name.ToView(), b.shown.name.ToView());
+  return order != 0 ? order < 0 : a.ordinal < b.ordinal;
+}
+
+}  // namespace
+
+DiscriminatorList::DiscriminatorList(const Host& host, Files& files, Prompter& prompter,
+                                     XmlNode* deviceGroups)
+    : m_host(host), m_files(files), m_prompter(prompter), m_deviceGroups(deviceGroups) {}
+
+void DiscriminatorList::ReadInstallation() {
+  m_showConditions = IsEmbedded(m_host.mainCfg) ? ShowConditions::No : ShowConditions::Yes;
+}
+
+bool DiscriminatorList::Refresh(Progress& progress) {
+  m_rows.clear();
+  const QVWideString& directory = m_host.setup.CfgPath();
+  const auto names = m_files.Walk((directory + discriminatorPattern).ToView());
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (!progress.Advance(i, names.size())) {
+      m_rows.clear();
+      return false;
+    }
+    auto shown = GetDiscriminatorIdNameDescription(directory, names[i], m_showConditions, m_files);
+    if (shown) {
+      m_rows.push_back({static_cast<int>(m_rows.size()), *std::move(shown)});
+    }
+  }
+  std::sort(m_rows.begin(), m_rows.end(), SortsBefore);
+  return true;
+}
+
+void DiscriminatorList::EnsureDeviceGroups() {
+  XmlNode* root = m_host.mainCfg.Root();
+  if (!m_deviceGroups && root) {
+    m_deviceGroups = root->NewChild(tag::DeviceGroups, nullptr);
+  }
+}
+
+std::unique_ptr<XmlDocument> DiscriminatorList::CopyOfDeviceGroups() const {
+  return m_deviceGroups ? std::make_unique<XmlDocument>(*m_deviceGroups)
+                        : std::make_unique<XmlDocument>();
+}
+
+void DiscriminatorList::OnAdd(const RunEditor& runEditor, const std::function<void()>& refresh) {
+  EnsureDeviceGroups();
+  const auto copy = CopyOfDeviceGroups();
+  if (!runEditor(copy->Root(), nullptr).saved) {
+    return;
+  }
+  m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
+  refresh();
+  if (m_deviceGroups) {
+    *m_deviceGroups = *copy->Root();
+  }
+  m_host.guids.invalidateGuid(QVVornelGuids::DeviceGroups, true);
+  m_changed = true;
+}
+
+void DiscriminatorList::OnModify(const std::vector<int>& selectedRows, const RunEditor& runEditor,
+                                 const std::function<void()>& refresh) {
+  EnsureDeviceGroups();
+  const auto copy = CopyOfDeviceGroups();
+  if (selectedRows.empty()) {
+    return;
+  }
+  const QVWideString path = PathOf(selectedRows.front());
+  const EditorEnd end = runEditor(copy->Root(), &path);
+  if (!end.saved) {
+    return;
+  }
+  if (end.modified) {
+    m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
+  }
+  refresh();
+  m_changed = true;
+}
+
+RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows,
+                                       const std::function<void(int row)>& rowRemoved) {
+  if (selectedRows.empty()) {
+    return {RemovalOutcome::NothingSelected, std::nullopt};
+  }
+  if (!m_prompter.Ask(Text::RemoveDiscriminatorsQuestion)) {
+    return {RemovalOutcome::Refused, std::nullopt};
+  }
+  int last = 0;
+  for (std::size_t removed = 0; removed < selectedRows.size(); ++removed) {
+    last = selectedRows[removed] - static_cast<int>(removed);
+    if (!RemoveRow(last)) {
+      return {RemovalOutcome::Stopped, std::nullopt};
+    }
+    rowRemoved(last);
+    m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
+    m_changed = true;
+  }
+  const int lowest = static_cast<int>(m_rows.size()) - 1;
+  return {RemovalOutcome::Done,
+          m_rows.empty() ? std::nullopt : std::optional(std::min(last, lowest))};
+}
+
+bool DiscriminatorList::RemoveRow(int row) {
+  const QVWideString path = PathOf(row);
+  if (m_files.Remove(path.ToView()) == Removal::Refused) {
+    m_prompter.Show(Text::DiscriminatorFileNotDeleted);
+    return false;
+  }
+  m_files.Remove(IndexPath(path).ToView());
+  const auto found = m_rows.begin() + row;
+  RemoveDiscriminatorFromDeviceGroupsNode(m_deviceGroups, IdOfStem(found->shown.fileStem));
+  m_host.guids.invalidateGuid(QVVornelGuids::DeviceGroups, true);
+  m_rows.erase(found);
+  return true;
+}
+
+void DiscriminatorList::CopyToClipboard(const std::vector<int>& selectedRows) const {
+  if (selectedRows.empty()) {
+    return;
+  }
+  std::vector<QVWideString> paths;
+  for (const int row : selectedRows) {
+    paths.push_back(PathOf(row));
+  }
+  const QVNarrowString payload = ComposePayload(paths, m_files);
+  m_host.clipboard.PutToClipboard(payload, static_cast<int>(payload.Length() + 1),
+                                  QVClipboard::TextFormat);
+}
+
+void DiscriminatorList::PasteFromClipboard(const std::function<void()>& refresh) {
+  const auto payload = ReadClipboard();
+  if (!payload) {
+    return;
+  }
+  for (const XmlNode* item : ItemsOfPayload(*payload)) {
+    PasteItem(*item);
+  }
+  refresh();
+}
+
+std::unique_ptr<XmlDocument> DiscriminatorList::ReadClipboard() const {
+  std::unique_ptr<char[]> bytes;
+  const int size = m_host.clipboard.GetFromClipboard(bytes, QVClipboard::TextFormat);
+  return size > 0 ? ParsePayload(bytes.get()) : nullptr;
+}
+
+void DiscriminatorList::PasteItem(const XmlNode& item) {
+  const QVWideString name = item.Value(tag::Name, L"");
+  if (name.Empty()) {
+    return;
+  }
+  XmlDocument document(item);
+  XmlNode& root = *document.Root();
+  root.SetValue(tag::Id, NewGuidText());
+  root.SetValue(tag::Revision, NewGuidText());
+  root.SetValue(tag::Name, FreeName(name));
+  const auto stem = FileStem(root.Value(tag::Id, L""), root.Value(tag::Name, L""));
+  // A name that would lead to another place is as good as one that can't be written.
+  if (IsFileStem(stem)) {
+    const auto path = DiscriminatorPath(m_host.setup.CfgPath(), stem);
+    document.SaveAs(path, m_files);
+    if (const XmlNode* hourTypes = root.Node(tag::HourTypes)) {
+      MakeIndexDocument(*hourTypes)->SaveAs(IndexPath(path), m_files);
+    }
+  }
+  AddDiscriminatorToDeviceGroupsNode(m_deviceGroups, root);
+  m_changed = true;
+  m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
+  m_host.guids.invalidateGuid(QVVornelGuids::DeviceGroups, true);
+}
+
+QVWideString DiscriminatorList::FreeName(const QVWideString& name) const {
+  QVWideString candidate(name);
+  for (int counter = 1; IsShown(candidate); ++counter) {
+    candidate.Assign(Format(L"%s_%d", {name, counter}));
+  }
+  return candidate;
+}
+
+bool DiscriminatorList::IsShown(const QVWideString& name) const {
+  return std::any_of(m_rows.begin(), m_rows.end(), [&](const STagDiscriminatorRow& row) {
+    return EqualUppered(row.shown.name.ToView(), name.ToView());
+  });
+}
+
+ClipboardOffer DiscriminatorList::Offer(std::size_t selectedRows) const {
+  return {selectedRows > 0, ReadClipboard() != nullptr};
+}
+
+QVWideString DiscriminatorList::PathOf(int row) const {
+  const auto& stem = m_rows.at(static_cast<std::size_t>(row)).shown.fileStem;
+  return DiscriminatorPath(m_host.setup.CfgPath(), stem);
+}
+
+ListButtons DiscriminatorList::Buttons(std::size_t selectedRows) {
+  return {true, selectedRows == 1, selectedRows >= 1};
+}
+
+}  // namespace qv

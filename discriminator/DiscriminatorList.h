@@ -1,0 +1,132 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "discriminator/DiscriminatorFile.h"
+#include "host/Host.h"
+#include "host/Progress.h"
+#include "host/Prompter.h"
+#include "tools/Files.h"
+
+namespace qv {
+
+/// A row of the list.
+struct STagDiscriminatorRow {
+  int ordinal = -1;  ///< place in the order in which the files were found, from 0
+  DiscriminatorSummary shown;
+};
+
+/// Which buttons of the list are enabled.
+struct ListButtons {
+  bool add = true;
+  bool modify = false;
+  bool remove = false;
+
+  friend bool operator==(const ListButtons&, const ListButtons&) = default;
+};
+
+/// How the editor of a discriminator ended.
+struct EditorEnd {
+  bool saved = false;     ///< the file was written
+  bool modified = false;  ///< its content differs from what was opened
+};
+
+/// How a removal ended.
+enum class RemovalOutcome {
+  NothingSelected,
+  Refused,  ///< the user said No
+  Stopped,  ///< a file could not be deleted
+  Done
+};
+
+struct RemovalEnd {
+  RemovalOutcome outcome = RemovalOutcome::NothingSelected;
+  std::optional<int> rowToSelect;  ///< after `Done`, unless no row is left
+};
+
+/// Which commands the context menu of the list offers.
+struct ClipboardOffer {
+  bool copy = false;
+  bool paste = false;
+
+  friend bool operator==(const ClipboardOffer&, const ClipboardOffer&) = default;
+};
+
+/// The discriminators of the configuration directory, as the manager dialog lists them. The files
+/// are read at each refresh; between two of them the rows are a snapshot.
+class DiscriminatorList {
+ public:
+  /// `deviceGroups` is the host's node, or null; it isn't owned.
+  DiscriminatorList(const Host& host, Files& files, Prompter& prompter, XmlNode* deviceGroups);
+
+  /// Looks up once whether discriminators of type CONDITIONS are listed: not on embedded
+  /// installations.
+  void ReadInstallation();
+
+  /// Rebuilds the rows from the files, sorted by name without regard to case. False, with no rows,
+  /// if `progress` asked to stop.
+  bool Refresh(Progress& progress);
+
+  const std::vector<STagDiscriminatorRow>& Rows() const { return m_rows; }
+
+  /// Which buttons are enabled while `selectedRows` rows are selected.
+  static ListButtons Buttons(std::size_t selectedRows);
+
+  /// What the editor is run with: the root of a copy of the device groups (null if the host has no
+  /// place for any), and the path of the file, or null for a new discriminator.
+  using RunEditor = std::function<EditorEnd(XmlNode* deviceGroups, const QVWideString* filePath)>;
+
+  /// Runs the editor for a new discriminator. If it was saved: notice, `refresh`, the copy of the
+  /// device groups becomes the host's, notice. `refresh` has to read and show the rows.
+  void OnAdd(const RunEditor& runEditor, const std::function<void()>& refresh);
+
+  /// Runs the editor for the first of the selected rows, if there is one. If it was saved: a notice
+  /// if the content has changed, and `refresh`. The device groups stay as they are.
+  void OnModify(const std::vector<int>& selectedRows, const RunEditor& runEditor,
+                const std::function<void()>& refresh);
+
+  /// Asks, and removes the discriminators of the selected rows (in ascending order): files, index
+  /// files, entries in the device groups, rows, with two notices for each. After each row
+  /// `rowRemoved` is told its number at that moment. It stops with a message at the first file that
+  /// can't be deleted, and leaves that row and those after it.
+  RemovalEnd OnRemove(const std::vector<int>& selectedRows,
+                      const std::function<void(int row)>& rowRemoved);
+
+  /// Puts the files of the selected rows on the clipboard. Does nothing without a row.
+  void CopyToClipboard(const std::vector<int>& selectedRows) const;
+
+  /// Makes a new discriminator of each one on the clipboard, under new ids and free names, with two
+  /// notices for each, and then calls `refresh`. Anything else on the clipboard is passed over in
+  /// silence, without a refresh.
+  void PasteFromClipboard(const std::function<void()>& refresh);
+
+  /// What the context menu offers.
+  ClipboardOffer Offer(std::size_t selectedRows) const;
+
+  /// Whether something was saved, removed or pasted since the dialog was made, so that the host has
+  /// to save its configuration.
+  bool Changed() const { return m_changed; }
+
+ private:
+  void EnsureDeviceGroups();
+  std::unique_ptr<XmlDocument> CopyOfDeviceGroups() const;
+  bool RemoveRow(int row);
+  std::unique_ptr<XmlDocument> ReadClipboard() const;
+  void PasteItem(const XmlNode& item);
+  QVWideString FreeName(const QVWideString& name) const;
+  bool IsShown(const QVWideString& name) const;
+  QVWideString PathOf(int row) const;
+
+  Host m_host;
+  Files& m_files;
+  Prompter& m_prompter;
+  XmlNode* m_deviceGroups;
+  ShowConditions m_showConditions = ShowConditions::Yes;
+  bool m_changed = false;
+  std::vector<STagDiscriminatorRow> m_rows;
+};
+
+}  // namespace qv

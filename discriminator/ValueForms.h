@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "tools/QVBasicString.h"
+
+/// The forms in which values stand in a discriminator's document, in the one place that writes and
+/// reads them.
+namespace qv {
+
+/// A colour with red in the lowest byte as "%06X": blue, green, red.
+QVWideString ColorText(std::uint32_t color);
+
+/// The colour that `text` writes, in letters of either case; an empty or wrong text gives what its
+/// first hexadecimal digits write, which may be 0.
+std::uint32_t ColorOf(const QVWideString& text);
+
+/// A time of day, 00:00 to 24:00. What comes from a file may be any numbers.
+struct TimeOfDay {
+  int hours = 0;
+  int minutes = 0;
+
+  int Minutes() const { return hours * 60 + minutes; }
+  friend bool operator==(const TimeOfDay&, const TimeOfDay&) = default;
+};
+
+/// "%02d:%02d".
+QVWideString TimeText(TimeOfDay time);
+
+/// Hours from the first two characters and minutes from the last two, as far as they are decimal
+/// numbers.
+TimeOfDay TimeOf(const QVWideString& text);
+
+/// "T" or "F".
+const wchar_t* FlagText(bool set);
+
+/// Whether `text` is "T".
+bool IsFlagSet(const QVWideString& text);
+
+}  // namespace qv

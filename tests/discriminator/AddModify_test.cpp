@@ -1,0 +1,162 @@
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "discriminator/DiscriminatorList.h"
+#include "tests/support/CountingProgress.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ScriptedFiles.h"
+#include "tests/support/ScriptedPrompter.h"
+
+namespace qv {
+namespace {
+
+/// Writes down what happens, in order: notices as their numbers, "refresh", "editor".
+class AddModify : public testing::Test {
+ protected:
+  class Guids : public QVVornelGuids {
+   public:
+    explicit Guids(std::vector<std::string>& events) : m_events(events) {}
+    void invalidateGuid(int id, bool) override { m_events.push_back(std::to_string(id)); }
+
+   private:
+    std::vector<std::string>& m_events;
+  };
+
+  void SetUp() override {
+    files.contents[L"/cfg/1.alpha.xdct"] = "<main><id>1</id><name>alpha</name></main>";
+    files.contents[L"/cfg/2.beta.xdct"] = "<main><id>2</id><name>beta</name></main>";
+    deviceGroups.Create(L"deviceGroups");
+  }
+
+  std::unique_ptr<DiscriminatorList> ListWith(XmlNode* node) {
+    auto list = std::make_unique<DiscriminatorList>(services, files, prompter, node);
+    CountingProgress progress;
+    list->Refresh(progress);
+    return list;
+  }
+
+  /// An editor that ends like this, after having added an entry to the copy.
+  DiscriminatorList::RunEditor Editor(EditorEnd end) {
+    return [this, end](XmlNode* copy, const QVWideString* filePath) {
+      events.emplace_back("editor");
+      opened = filePath ? std::optional(std::wstring(filePath->ToView())) : std::nullopt;
+      if (copy) {
+        copy->NewChild(L"touched", nullptr);
+      }
+      return end;
+    };
+  }
+
+  /// What stands in the host's tree when the list is refreshed shows where the assignment comes.
+  std::function<void()> Refresh() {
+    return [this] {
+      const bool assigned = deviceGroups.Root()->Node(L"touched") != nullptr;
+      events.emplace_back(assigned ? "refresh after assignment" : "refresh");
+    };
+  }
+
+  using Events = std::vector<std::string>;
+
+  FakeHost host;
+  ScriptedFiles files;
+  ScriptedPrompter prompter;
+  XmlDocument deviceGroups;
+  Events events;
+  Guids guids{events};
+  Host services{host.setup, host.mainCfg, guids, host.loadString, host.createIndex, host.clipboard};
+  std::optional<std::wstring> opened;
+};
+
+constexpr EditorEnd cancelled = {false, true};
+constexpr EditorEnd savedWithChange = {true, true};
+constexpr EditorEnd savedWithoutChange = {true, false};
+
+TEST_F(AddModify, AConfirmedAddTellsRefreshesAssignsAndTellsAgain) {
+  const auto list = ListWith(deviceGroups.Root());
+  list->OnAdd(Editor(savedWithChange), Refresh());
+  EXPECT_EQ(events, (Events{"editor", "8", "refresh", "5"}));
+  EXPECT_EQ(opened, std::nullopt);
+  EXPECT_TRUE(deviceGroups.Root()->Node(L"touched"));
+  EXPECT_TRUE(list->Changed());
+}
+
+TEST_F(AddModify, ACancelledAddLeavesNoTrace) {
+  const auto list = ListWith(deviceGroups.Root());
+  list->OnAdd(Editor(cancelled), Refresh());
+  EXPECT_EQ(events, Events{"editor"});
+  EXPECT_FALSE(deviceGroups.Root()->Node(L"touched"));
+  EXPECT_FALSE(list->Changed());
+}
+
+TEST_F(AddModify, AnEditorThatThrowsLeavesTheDocumentAsItWas) {
+  const auto list = ListWith(deviceGroups.Root());
+  const XmlNode before(*deviceGroups.Root());
+  const DiscriminatorList::RunEditor thrower = [](XmlNode* copy, const QVWideString*) -> EditorEnd {
+    copy->NewChild(L"touched", nullptr);
+    throw std::runtime_error("editor");
+  };
+  EXPECT_THROW(list->OnAdd(thrower, Refresh()), std::runtime_error);
+  EXPECT_THROW(list->OnModify({0}, thrower, Refresh()), std::runtime_error);
+  EXPECT_EQ(*deviceGroups.Root(), before);
+  EXPECT_FALSE(list->Changed());
+}
+
+TEST_F(AddModify, WithoutANodeTheFirstAddMakesOneEvenIfCancelled) {
+  const auto list = ListWith(nullptr);
+  list->OnAdd(Editor(cancelled), Refresh());
+  const XmlNode* made = host.mainCfg.Root()->Node(L"deviceGroups");
+  ASSERT_TRUE(made);
+  EXPECT_FALSE(made->Node(L"touched"));
+  list->OnAdd(Editor(savedWithChange), Refresh());
+  EXPECT_EQ(host.mainCfg.Root()->Node(L"deviceGroups"), made);
+  EXPECT_TRUE(made->Node(L"touched"));
+  EXPECT_EQ(std::distance(host.mainCfg.Root()->ChildsBegin(), host.mainCfg.Root()->ChildsEnd()), 1);
+}
+
+TEST_F(AddModify, WithoutAnyDocumentAnAddStillWritesItsFile) {
+  host.mainCfg.Reset();
+  const auto list = ListWith(nullptr);
+  list->OnAdd(Editor(savedWithChange), Refresh());
+  EXPECT_EQ(events, (Events{"editor", "8", "refresh", "5"}));
+}
+
+TEST_F(AddModify, AModifyWithAChangeTellsAndRefreshes) {
+  const auto list = ListWith(deviceGroups.Root());
+  list->OnModify({1}, Editor(savedWithChange), Refresh());
+  EXPECT_EQ(events, (Events{"editor", "8", "refresh"}));
+  EXPECT_EQ(opened, L"/cfg/2.beta.xdct");
+  EXPECT_FALSE(deviceGroups.Root()->Node(L"touched")) << "modifying never changes the entries";
+  EXPECT_TRUE(list->Changed());
+}
+
+TEST_F(AddModify, AModifyThatChangedNothingStillCountsAsAChange) {
+  const auto list = ListWith(deviceGroups.Root());
+  list->OnModify({0}, Editor(savedWithoutChange), Refresh());
+  EXPECT_EQ(events, (Events{"editor", "refresh"}));
+  EXPECT_TRUE(list->Changed());
+}
+
+TEST_F(AddModify, ACancelledModifyDoesNothing) {
+  const auto list = ListWith(deviceGroups.Root());
+  list->OnModify({0}, Editor(cancelled), Refresh());
+  EXPECT_EQ(events, Events{"editor"});
+  EXPECT_FALSE(list->Changed());
+}
+
+TEST_F(AddModify, OfSeveralRowsTheFirstIsOpened) {
+  const auto list = ListWith(deviceGroups.Root());
+  list->OnModify({0, 1}, Editor(cancelled), Refresh());
+  EXPECT_EQ(opened, L"/cfg/1.alpha.xdct");
+}
+
+TEST_F(AddModify, AModifyWithoutARowOpensNothingButMayMakeTheNode) {
+  const auto list = ListWith(nullptr);
+  list->OnModify({}, Editor(savedWithChange), Refresh());
+  EXPECT_TRUE(events.empty());
+  EXPECT_FALSE(list->Changed());
+  EXPECT_TRUE(host.mainCfg.Root()->Node(L"deviceGroups"));
+}
+
+}  // namespace
+}  // namespace qv

@@ -1,0 +1,260 @@
+#include <gtest/gtest.h>
+
+#include "discriminator/ClipboardPayload.h"
+#include "discriminator/DiscriminatorList.h"
+#include "tests/support/CountingProgress.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ScriptedFiles.h"
+#include "tests/support/ScriptedPrompter.h"
+
+namespace qv {
+namespace {
+
+const std::string alphaFile =
+    "<main><id>a</id><name>alpha</name><revision>r</revision><hourTypes><hour><id>h</id>"
+    "<name>P1</name><color>0000FF</color><value>1</value></hour></hourTypes></main>";
+const std::string betaFile = "<root><id>b</id><name>beta</name><type>CONDITIONS</type></root>";
+
+class ClipboardTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    files.contents[L"/cfg/a.alpha.xdct"] = alphaFile;
+    files.contents[L"/cfg/b.beta.xdct"] = betaFile;
+    deviceGroups.Create(L"deviceGroups");
+    list =
+        std::make_unique<DiscriminatorList>(host.Services(), files, prompter, deviceGroups.Root());
+    Refresh();
+    files.log.clear();
+  }
+
+  void Refresh() {
+    CountingProgress progress;
+    list->Refresh(progress);
+    ++refreshes;
+  }
+
+  void Paste() {
+    list->PasteFromClipboard([this] { Refresh(); });
+  }
+
+  void PasteText(const std::string& text) {
+    host.clipboard.text = text;
+    Paste();
+  }
+
+  static std::string Payload(const std::string& items) {
+    return "<discriminatorClipboard>" + items + "</discriminatorClipboard>";
+  }
+  static std::string Item(const std::string& document) {
+    return "<discriminator>" + document + "</discriminator>";
+  }
+
+  std::vector<std::wstring> Names() const {
+    std::vector<std::wstring> names;
+    for (const auto& row : list->Rows()) {
+      names.emplace_back(row.shown.name.ToView());
+    }
+    return names;
+  }
+
+  /// The row with this name; the test fails if there is none.
+  const STagDiscriminatorRow& Row(const wchar_t* name) const {
+    for (const auto& row : list->Rows()) {
+      if (row.shown.name == name) {
+        return row;
+      }
+    }
+    ADD_FAILURE() << "no such row";
+    return list->Rows().front();
+  }
+
+  std::wstring PathOf(const wchar_t* name) const {
+    return L"/cfg/" + std::wstring(Row(name).shown.fileStem.ToView()) + L".xdct";
+  }
+
+  std::size_t Entries() const {
+    const XmlNode* devices = deviceGroups.Root()->Node(L"devices");
+    return devices ? static_cast<std::size_t>(
+                         std::distance(devices->ChildsBegin(), devices->ChildsEnd()))
+                   : 0;
+  }
+
+  using Names_ = std::vector<std::wstring>;
+
+  FakeHost host;
+  ScriptedFiles files;
+  ScriptedPrompter prompter;
+  XmlDocument deviceGroups;
+  std::unique_ptr<DiscriminatorList> list;
+  int refreshes = 0;
+};
+
+TEST_F(ClipboardTest, ThePayloadHoldsTheDocumentsAsTheyStand) {
+  list->CopyToClipboard({0, 1});
+  XmlDocument payload;
+  ASSERT_TRUE(payload.Parse(host.clipboard.text->c_str()));
+  XmlDocument expected;
+  ASSERT_TRUE(expected.Parse(Payload(Item(alphaFile) + Item(betaFile)).c_str()));
+  EXPECT_EQ(*payload.Root(), *expected.Root());
+  EXPECT_TRUE(host.clipboard.text->starts_with("<discriminatorClipboard><discriminator><main>"));
+  EXPECT_TRUE(host.clipboard.text->ends_with("</root></discriminator></discriminatorClipboard>"));
+}
+
+TEST_F(ClipboardTest, WithoutARowTheClipboardStaysAsItIs) {
+  host.clipboard.text = "before";
+  list->CopyToClipboard({});
+  EXPECT_EQ(host.clipboard.text, "before");
+}
+
+TEST_F(ClipboardTest, FilesThatCannotBeLoadedArePassedOver) {
+  files.contents[L"/cfg/a.alpha.xdct"] = "<main>";
+  list->CopyToClipboard({0, 1});
+  EXPECT_EQ(host.clipboard.text->find("alpha"), std::string::npos);
+  files.contents.clear();
+  list->CopyToClipboard({0, 1});
+  EXPECT_EQ(host.clipboard.text, Payload(""));
+}
+
+TEST_F(ClipboardTest, PastingMakesNewDiscriminators) {
+  list->CopyToClipboard({0, 1});
+  Paste();
+  EXPECT_EQ(Names(), (Names_{L"alpha", L"alpha_1", L"beta", L"beta_1"}));
+  XmlDocument pasted;
+  ASSERT_TRUE(pasted.Load(PathOf(L"alpha_1").c_str(), files));
+  EXPECT_EQ(pasted.Root()->Value(L"id", L"").Length(), 36U);
+  EXPECT_EQ(pasted.Root()->Value(L"revision", L"").Length(), 36U);
+  EXPECT_NE(pasted.Root()->Value(L"revision", L""), pasted.Root()->Value(L"id", L""));
+  EXPECT_EQ(pasted.Root()->Node(L"hourTypes")->Node(L"hour")->Value(L"id", L""), L"h");
+  EXPECT_EQ(Entries(), 2U);
+  EXPECT_EQ(host.guids.notices, (std::vector<int>{8, 5, 8, 5}));
+  EXPECT_TRUE(list->Changed());
+  EXPECT_TRUE(host.createIndex.calls.empty());
+}
+
+TEST_F(ClipboardTest, PastingTwiceCountsOn) {
+  list->CopyToClipboard({0});
+  Paste();
+  Paste();
+  EXPECT_EQ(Names(), (Names_{L"alpha", L"alpha_1", L"alpha_2", L"beta"}));
+  list->CopyToClipboard({1});
+  Paste();
+  EXPECT_EQ(Row(L"alpha_1_1").shown.name, L"alpha_1_1") << "the name as it came is alpha_1";
+}
+
+TEST_F(ClipboardTest, TheIndexFileIsWrittenBesideWithoutIdsAndColours) {
+  list->CopyToClipboard({0});
+  Paste();
+  XmlDocument index;
+  ASSERT_TRUE(index.Load((PathOf(L"alpha_1") + L"I").c_str(), files));
+  XmlDocument expected;
+  ASSERT_TRUE(
+      expected.Parse("<hourTypes><hour><name>P1</name><value>1</value></hour></hourTypes>"));
+  EXPECT_EQ(*index.Root(), *expected.Root());
+}
+
+TEST_F(ClipboardTest, WithoutHourTypesThereIsNoIndexFile) {
+  list->CopyToClipboard({1});
+  Paste();
+  EXPECT_FALSE(files.contents.contains(PathOf(L"beta_1") + L"I"));
+}
+
+TEST_F(ClipboardTest, TheRootTagIsKept) {
+  list->CopyToClipboard({1});
+  Paste();
+  EXPECT_NE(files.contents[PathOf(L"beta_1")].find("<root>"), std::string::npos);
+}
+
+TEST_F(ClipboardTest, TheNameSearchIgnoresCase) {
+  PasteText(Payload(Item("<main><name>ALPHA</name></main>")));
+  EXPECT_EQ(Row(L"ALPHA_1").shown.name, L"ALPHA_1");
+}
+
+TEST_F(ClipboardTest, EqualNamesInOnePayloadStayEqual) {
+  PasteText(Payload(Item("<main><name>n</name></main>") + Item("<main><name>n</name></main>")));
+  EXPECT_EQ(Names(), (Names_{L"alpha", L"beta", L"n", L"n"}));
+  EXPECT_NE(list->Rows()[2].shown.fileStem, list->Rows()[3].shown.fileStem);
+}
+
+TEST_F(ClipboardTest, ANameOfAFileThatIsNotListedCountsAsFree) {
+  files.contents[L"/cfg/x.hidden.xdct"] = "<";
+  PasteText(Payload(Item("<main><name>hidden</name></main>")));
+  EXPECT_EQ(Row(L"hidden").shown.name, L"hidden");
+}
+
+TEST_F(ClipboardTest, ItemsOfOtherKindsArePassedOver) {
+  PasteText(Payload("<other><main><name>x</name></main></other>" + Item("<body/>") +
+                    Item("<main><name/></main>") + Item("<main/>")));
+  EXPECT_EQ(Names(), (Names_{L"alpha", L"beta"}));
+  EXPECT_EQ(Entries(), 0U);
+  EXPECT_FALSE(list->Changed());
+  EXPECT_EQ(refreshes, 2) << "a payload is always followed by a refresh";
+}
+
+TEST_F(ClipboardTest, OfAMainAndARootTheMainCounts) {
+  PasteText(Payload(Item("<root><name>r</name></root><main><name>m</name></main>")));
+  EXPECT_EQ(Names(), (Names_{L"alpha", L"beta", L"m"}));
+}
+
+TEST_F(ClipboardTest, AnythingElseOnTheClipboardDoesNothing) {
+  for (const char* text : {"", "hello", "<main/>", "<discriminator/>", "<discriminatorClipboard>",
+                           "<DiscriminatorClipboard/>"}) {
+    PasteText(text);
+    EXPECT_EQ(refreshes, 1) << text;
+    EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, false})) << text;
+  }
+  host.clipboard.text.reset();
+  Paste();
+  EXPECT_EQ(refreshes, 1);
+  EXPECT_TRUE(files.log.empty());
+}
+
+TEST_F(ClipboardTest, APayloadThatAMailProgramHasWrappedStillWorks) {
+  PasteText(
+      "\r\n<discriminatorClipboard>\r\n  <discriminator>\r\n<main>\r\n<name>mailed</name>\r\n"
+      "<hourTypes>\r\n</hourTypes></main>\r\n</discriminator>\r\n</discriminatorClipboard>\r\n");
+  EXPECT_EQ(Row(L"mailed").shown.name, L"mailed");
+}
+
+TEST_F(ClipboardTest, AFailedWriteStillMakesTheEntryAndTheNotices) {
+  files.diskSpace = 10;
+  PasteText(Payload(Item("<main><name>n</name><hourTypes/></main>")));
+  EXPECT_EQ(files.contents.size(), 2U);
+  EXPECT_EQ(Entries(), 1U);
+  EXPECT_EQ(host.guids.notices, (std::vector<int>{8, 5}));
+  EXPECT_TRUE(list->Changed());
+  EXPECT_EQ(Names(), (Names_{L"alpha", L"beta"}));
+}
+
+TEST_F(ClipboardTest, ANameThatLeadsElsewhereIsNeverWrittenTo) {
+  PasteText(Payload(Item("<main><name>/../../etc/passwd</name><hourTypes/></main>")));
+  EXPECT_EQ(files.contents.size(), 2U);
+  EXPECT_EQ(Entries(), 1U);
+  EXPECT_EQ(host.guids.notices, (std::vector<int>{8, 5}));
+}
+
+TEST_F(ClipboardTest, OnAnEmbeddedInstallationConditionsAreWrittenButNotShown) {
+  host.AddDevice(L"KORVAXEMBEDDED");
+  list->ReadInstallation();
+  PasteText(Payload(Item("<main><name>c</name><type>CONDITIONS</type></main>")));
+  EXPECT_EQ(files.contents.size(), 3U);
+  EXPECT_EQ(Entries(), 1U);
+  EXPECT_EQ(Names(), Names_{L"alpha"});
+}
+
+TEST_F(ClipboardTest, WithoutATreeAPasteMakesFilesAndNoEntries) {
+  list = std::make_unique<DiscriminatorList>(host.Services(), files, prompter, nullptr);
+  PasteText(Payload(Item("<main><name>n</name></main>")));
+  EXPECT_EQ(files.contents.size(), 3U);
+  EXPECT_FALSE(host.mainCfg.Root()->Node(L"deviceGroups"));
+}
+
+TEST_F(ClipboardTest, TheMenuOffersWhatCanBeDone) {
+  EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, false}));
+  EXPECT_EQ(list->Offer(2), (ClipboardOffer{true, false}));
+  host.clipboard.text = Payload("");
+  EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, true}));
+  EXPECT_EQ(list->Offer(1), (ClipboardOffer{true, true}));
+}
+
+}  // namespace
+}  // namespace qv

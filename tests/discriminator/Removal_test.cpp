@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include "discriminator/DeviceLinks.h"
+#include "discriminator/DiscriminatorList.h"
+#include "tests/support/CountingProgress.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ScriptedFiles.h"
+#include "tests/support/ScriptedPrompter.h"
+
+namespace qv {
+namespace {
+
+/// Four discriminators with index files, and an entry for each in the device groups.
+class RemovalTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    for (const wchar_t* name : {L"alpha", L"beta", L"delta", L"gamma"}) {
+      const std::wstring id = std::wstring(1, name[0]);
+      const std::string narrow(name, name + std::wcslen(name));
+      files.contents[Path(name)] =
+          "<main><id>" + narrow.substr(0, 1) + "</id><name>" + narrow + "</name></main>";
+      files.contents[Path(name) + L"I"] = "<hourTypes/>";
+      AddEntry(*deviceGroups.Root(), id.c_str());
+    }
+    CountingProgress progress;
+    list.Refresh(progress);
+    files.log.clear();
+  }
+
+  static std::wstring Path(const std::wstring& name) {
+    return L"/cfg/" + name.substr(0, 1) + L"." + name + L".xdct";
+  }
+
+  static void AddEntry(XmlNode& group, const wchar_t* id, const wchar_t* type = L"R$DISC") {
+    XmlNode* devices = group.Node(L"devices");
+    devices = devices ? devices : group.NewChild(L"devices", nullptr);
+    XmlNode* device = devices->NewChild(L"device", nullptr);
+    device->SetValue(L"id", id);
+    device->SetValue(L"type", type);
+  }
+
+  /// Removes the rows; the numbers that were told are kept in `told`.
+  RemovalEnd Remove(const std::vector<int>& rows, bool answer = true) {
+    prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, answer);
+    return list.OnRemove(rows, [this](int row) { told.push_back(row); });
+  }
+
+  std::wstring Names() const {
+    std::wstring names;
+    for (const auto& row : list.Rows()) {
+      names += std::wstring(row.shown.name.ToView()) + L" ";
+    }
+    return names;
+  }
+
+  bool HasEntry(const wchar_t* id) const {
+    return deviceGroups.Root()->Node(L"devices")->NodeV(L"device?id=%s?", id) != nullptr;
+  }
+
+  XmlDocument& Prepared() {
+    deviceGroups.Create(L"deviceGroups");
+    return deviceGroups;
+  }
+
+  FakeHost host;
+  ScriptedFiles files;
+  ScriptedPrompter prompter;
+  XmlDocument deviceGroups;
+  DiscriminatorList list{host.Services(), files, prompter, Prepared().Root()};
+  std::vector<int> told;
+};
+
+using Log = std::vector<std::wstring>;
+
+TEST_F(RemovalTest, WithoutARowNothingIsAsked) {
+  EXPECT_EQ(list.OnRemove({}, [](int) {}).outcome, RemovalOutcome::NothingSelected);
+}
+
+TEST_F(RemovalTest, NoChangesNothing) {
+  EXPECT_EQ(Remove({0, 1}, false).outcome, RemovalOutcome::Refused);
+  EXPECT_EQ(Names(), L"alpha beta delta gamma ");
+  EXPECT_TRUE(files.log.empty());
+  EXPECT_TRUE(host.guids.notices.empty());
+  EXPECT_FALSE(list.Changed());
+}
+
+TEST_F(RemovalTest, SeveralRowsGoFromTheTopWithOneQuestion) {
+  const auto end = Remove({0, 1, 3});
+  EXPECT_EQ(end.outcome, RemovalOutcome::Done);
+  EXPECT_EQ(files.log, (Log{L"remove " + Path(L"alpha"), L"remove " + Path(L"alpha") + L"I",
+                            L"remove " + Path(L"beta"), L"remove " + Path(L"beta") + L"I",
+                            L"remove " + Path(L"gamma"), L"remove " + Path(L"gamma") + L"I"}));
+  EXPECT_EQ(host.guids.notices, (std::vector<int>{5, 8, 5, 8, 5, 8}));
+  EXPECT_EQ(told, (std::vector<int>{0, 0, 1}));
+  EXPECT_EQ(Names(), L"delta ");
+  EXPECT_FALSE(HasEntry(L"a"));
+  EXPECT_TRUE(HasEntry(L"d"));
+  EXPECT_TRUE(list.Changed());
+}
+
+TEST_F(RemovalTest, TheRowThatMovedUpIsSelectedOrElseTheNewLastOne) {
+  EXPECT_EQ(Remove({1}).rowToSelect, 1);
+  EXPECT_EQ(Remove({2}).rowToSelect, 1);
+  EXPECT_EQ(Remove({0}).rowToSelect, 0);
+  EXPECT_EQ(Remove({0}).rowToSelect, std::nullopt);
+  EXPECT_TRUE(list.Rows().empty());
+}
+
+TEST_F(RemovalTest, AMissingFileCountsAsDeleted) {
+  files.contents.erase(Path(L"alpha"));
+  EXPECT_EQ(Remove({0}).outcome, RemovalOutcome::Done);
+  EXPECT_EQ(Names(), L"beta delta gamma ");
+  EXPECT_FALSE(HasEntry(L"a"));
+}
+
+TEST_F(RemovalTest, AFileThatCannotBeDeletedStopsTheRemoval) {
+  files.writeProtected.insert(Path(L"beta"));
+  prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
+  prompter.ExpectShow(Text::DiscriminatorFileNotDeleted);
+  const auto end = list.OnRemove({0, 1, 2}, [this](int row) { told.push_back(row); });
+  EXPECT_EQ(end.outcome, RemovalOutcome::Stopped);
+  EXPECT_EQ(end.rowToSelect, std::nullopt);
+  EXPECT_EQ(Names(), L"beta delta gamma ");
+  EXPECT_TRUE(files.contents.contains(Path(L"beta") + L"I"));
+  EXPECT_TRUE(HasEntry(L"b"));
+  EXPECT_EQ(host.guids.notices, (std::vector<int>{5, 8}));
+  EXPECT_TRUE(list.Changed());
+}
+
+TEST_F(RemovalTest, AFirstFileThatCannotBeDeletedChangesNothing) {
+  files.writeProtected.insert(Path(L"alpha"));
+  prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
+  prompter.ExpectShow(Text::DiscriminatorFileNotDeleted);
+  list.OnRemove({0}, [this](int row) { told.push_back(row); });
+  EXPECT_TRUE(told.empty());
+  EXPECT_FALSE(list.Changed());
+}
+
+TEST_F(RemovalTest, AnIndexFileThatStaysIsPassedOver) {
+  files.writeProtected.insert(Path(L"alpha") + L"I");
+  files.contents.erase(Path(L"beta") + L"I");
+  EXPECT_EQ(Remove({0, 1}).outcome, RemovalOutcome::Done);
+  EXPECT_EQ(Names(), L"delta gamma ");
+}
+
+TEST_F(RemovalTest, WithoutATreeTheFilesGoAndBothNoticesCome) {
+  DiscriminatorList alone(host.Services(), files, prompter, nullptr);
+  CountingProgress progress;
+  alone.Refresh(progress);
+  prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
+  alone.OnRemove({0}, [](int) {});
+  EXPECT_FALSE(files.contents.contains(Path(L"alpha")));
+  EXPECT_EQ(host.guids.notices, (std::vector<int>{5, 8}));
+}
+
+TEST_F(RemovalTest, EveryEntryOfTheIdGoesAtEveryLevelAndOfAnyType) {
+  ASSERT_TRUE(deviceGroups.Parse(
+      "<g><devices><device><id>1</id></device><device><id>2</id></device>"
+      "<device><type>METER</type><id>1</id></device><other><id>1</id></other></devices>"
+      "<groups><any><devices><device><id>1</id></device></devices>"
+      "<groups><deep><devices><device><id>1</id></device></devices></deep></groups></any>"
+      "<empty/></groups></g>"));
+  RemoveDiscriminatorFromDeviceGroupsNode(deviceGroups.Root(), L"1");
+  XmlDocument expected;
+  ASSERT_TRUE(
+      expected.Parse("<g><devices><device><id>2</id></device><other><id>1</id></other></devices>"
+                     "<groups><any><devices/><groups><deep><devices/></deep></groups></any>"
+                     "<empty/></groups></g>"));
+  EXPECT_EQ(*deviceGroups.Root(), *expected.Root());
+}
+
+TEST_F(RemovalTest, ANullTreeIsPassedOver) {
+  RemoveDiscriminatorFromDeviceGroupsNode(nullptr, L"1");
+}
+
+}  // namespace
+}  // namespace qv
