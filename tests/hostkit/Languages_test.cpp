@@ -1,0 +1,223 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "hostkit/LanguageFile.h"
+#include "tests/support/TemporaryDirectory.h"
+#include "tools/Utf8.h"
+
+namespace qv {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path ProjectFile(const char* name) { return fs::path(QV_PROJECT_DIR) / name; }
+
+/// The placeholders of a text, in order, as in "%d".
+std::vector<std::string> Placeholders(const std::string& text) {
+  static const std::regex placeholder("%[0-9]*[sduX%]");
+  return {std::sregex_token_iterator(text.begin(), text.end(), placeholder),
+          std::sregex_token_iterator()};
+}
+
+/// An enumerator of `Text` as the header writes it.
+struct Enumerator {
+  std::string name;
+  std::string comment;
+};
+
+/// The lines between the braces of `enum class Text`.
+std::vector<std::string> EnumLines() {
+  const std::string header = FileBytes(ProjectFile("host/Text.h"));
+  const std::size_t head = header.find("enum class Text");
+  const std::size_t begin = header.find("{\n", head) + 2;
+  const std::size_t end = header.find("\n};", begin);
+  std::istringstream body(header.substr(begin, end - begin));
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(body, line);) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+/// The enumerators by number. A line that is neither an enumerator with its number and comment nor
+/// a heading fails the test, so that none is passed over.
+std::map<unsigned, Enumerator> ReadEnum() {
+  static const std::regex enumerator(R"(\s*(\w+)\s*=\s*(\d+),\s*///<\s*(\S.*))");
+  static const std::regex heading(R"(\s*(//.*)?)");
+  std::map<unsigned, Enumerator> found;
+  for (const std::string& line : EnumLines()) {
+    std::smatch parts;
+    if (std::regex_match(line, parts, enumerator)) {
+      const auto number = static_cast<unsigned>(std::stoul(parts[2]));
+      EXPECT_TRUE(found.insert({number, {parts[1], parts[3]}}).second) << "twice: " << line;
+    } else {
+      EXPECT_TRUE(std::regex_match(line, heading)) << "not understood: " << line;
+    }
+  }
+  return found;
+}
+
+/// The lines of a language file that aren't empty and no comment.
+std::vector<std::string> EntryLines(const std::string& content) {
+  std::istringstream stream(content);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(stream, line);) {
+    if (!line.empty() && line.front() != '#') {
+      lines.push_back(line);
+    }
+  }
+  return lines;
+}
+
+TEST(TextNumbers, HeaderIsReadWhole) {
+  const auto texts = ReadEnum();
+  EXPECT_GT(texts.size(), 100U);
+  EXPECT_TRUE(texts.contains(Number(Text::Name)));
+  EXPECT_TRUE(texts.contains(Number(Text::MessageOk)));
+  EXPECT_EQ(Placeholders(texts.at(Number(Text::ReadingProgress)).comment),
+            (std::vector<std::string>{"%d", "%d"}));
+}
+
+/// A language by the name of its file.
+class Language : public testing::TestWithParam<const char*> {
+ protected:
+  Language() : path(ProjectFile("languages") / (std::string(GetParam()) + ".txt")) {
+    EXPECT_TRUE(language.Load(path.wstring()));
+  }
+
+  std::string TextOf(unsigned number) const {
+    QVWideString text;
+    return ToUtf8(language(number, text).ToView()).value_or("");
+  }
+
+  fs::path path;
+  LanguageFile language;
+};
+
+TEST_P(Language, HasEveryText) {
+  for (const auto& [number, enumerator] : ReadEnum()) {
+    EXPECT_TRUE(language.Has(number)) << number << " " << enumerator.name;
+  }
+}
+
+TEST_P(Language, HasTextsThatAreNotEmpty) {
+  for (const auto& [number, enumerator] : ReadEnum()) {
+    EXPECT_NE(TextOf(number).find_first_not_of(" \t\n"), std::string::npos)
+        << number << " " << enumerator.name;
+  }
+}
+
+TEST_P(Language, HasThePlaceholdersThatTheHeaderNames) {
+  for (const auto& [number, enumerator] : ReadEnum()) {
+    EXPECT_EQ(Placeholders(TextOf(number)), Placeholders(enumerator.comment))
+        << number << " " << enumerator.name;
+  }
+}
+
+TEST_P(Language, HasEachNumberOnceInOrderAndNoOther) {
+  const auto texts = ReadEnum();
+  unsigned before = 0;
+  for (const std::string& line : EntryLines(FileBytes(path))) {
+    unsigned number = 0;
+    const auto result = std::from_chars(line.data(), line.data() + line.size(), number);
+    ASSERT_EQ(result.ec, std::errc()) << line;
+    EXPECT_TRUE(texts.contains(number)) << "not in the enumeration: " << line;
+    EXPECT_LT(before, number) << "twice, or out of order: " << line;
+    before = number;
+  }
+}
+
+TEST_P(Language, HasNoBlanksAroundATextAndNoUnknownEscape) {
+  static const std::regex entry(R"(\d+ [^\s\\]([^\\]|\\[nt\\])*)");
+  for (const std::string& line : EntryLines(FileBytes(path))) {
+    EXPECT_TRUE(std::regex_match(line, entry) && line.back() != ' ') << line;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, Language, testing::Values("es", "en"),
+                         [](const auto& test) { return std::string(test.param); });
+
+TEST(Languages, AreAllTested) {
+  std::set<std::string> names;
+  for (const auto& entry : fs::directory_iterator(ProjectFile("languages"))) {
+    if (entry.path().extension() == ".txt") {
+      names.insert(entry.path().stem().string());
+    }
+  }
+  EXPECT_EQ(names, (std::set<std::string>{"en", "es"}));
+}
+
+/// Whether a source asks for a text by a bare number, in place of an enumerator.
+bool CallsWithBareNumber(const std::string& source) {
+  static const std::string blanks = " \t\r\n";
+  static const std::string name = "oadString";
+  for (std::size_t at = source.find(name); at != std::string::npos; at = source.find(name, at)) {
+    at += name.size();
+    const std::size_t parenthesis = source.find_first_not_of(blanks, at);
+    if (parenthesis == std::string::npos || source[parenthesis] != '(') {
+      continue;
+    }
+    const std::size_t argument = source.find_first_not_of(blanks, parenthesis + 1);
+    if (argument != std::string::npos && source[argument] >= '0' && source[argument] <= '9') {
+      return true;
+    }
+  }
+  return false;
+}
+
+TEST(BareNumbers, AreRecognised) {
+  EXPECT_TRUE(CallsWithBareNumber("m_host.loadString(355, text)"));
+  EXPECT_TRUE(CallsWithBareNumber("QVLoadString (\n    355, text)"));
+  EXPECT_TRUE(CallsWithBareNumber("loadString(Number(Text::Name), a); loadString(355, b);"));
+  EXPECT_FALSE(CallsWithBareNumber("loadString(Number(Text::Name), text)"));
+  EXPECT_FALSE(CallsWithBareNumber("loadString.Load(Text::Name), 355"));
+  EXPECT_FALSE(CallsWithBareNumber("loadString(id355, text) loadString("));
+}
+
+/// The folders of the library: those with a build file, but the tests and what belongs to a host.
+std::vector<fs::path> LibraryFolders() {
+  static const std::set<std::string> others = {"tests", "bench", "hostkit", "apps"};
+  std::vector<fs::path> folders;
+  for (const auto& entry : fs::directory_iterator(QV_PROJECT_DIR)) {
+    const bool isOther = others.contains(entry.path().filename().string());
+    if (!isOther && fs::exists(entry.path() / "CMakeLists.txt")) {
+      folders.push_back(entry.path());
+    }
+  }
+  return folders;
+}
+
+std::vector<fs::path> LibrarySources() {
+  std::vector<fs::path> sources;
+  for (const fs::path& folder : LibraryFolders()) {
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+      const fs::path extension = entry.path().extension();
+      if (extension == ".cpp" || extension == ".h") {
+        sources.push_back(entry.path().lexically_relative(QV_PROJECT_DIR));
+      }
+    }
+  }
+  return sources;
+}
+
+TEST(BareNumbers, StandInNoSourceOfTheLibrary) {
+  const auto sources = LibrarySources();
+  for (const char* known : {"host/QVLoadString.h", "discriminator/DiscriminatorList.cpp"}) {
+    EXPECT_NE(std::find(sources.begin(), sources.end(), known), sources.end()) << known;
+  }
+  for (const fs::path& source : sources) {
+    EXPECT_FALSE(CallsWithBareNumber(FileBytes(fs::path(QV_PROJECT_DIR) / source))) << source;
+  }
+}
+
+}  // namespace
+}  // namespace qv
