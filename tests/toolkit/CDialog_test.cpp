@@ -1,0 +1,226 @@
+#include "toolkit/CDialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "tests/support/DialogDriver.h"
+#include "tests/support/FakeHost.h"
+#include "toolkit/CImageButton.h"
+#include "toolkit/Controls.h"
+#include "toolkit/Strings.h"
+
+namespace qv {
+namespace {
+
+constexpr int label = 10;
+constexpr int edit = 11;
+
+template <class Widget>
+void AddControl(QDialog* dialog, int id, const QRect& units) {
+  auto* control = new Widget(dialog);
+  control->setProperty(controlIdProperty, id);
+  control->setGeometry(units);
+}
+
+void BuildFixed(QDialog* dialog) {
+  dialog->resize(200, 100);
+  AddControl<QLabel>(dialog, label, {7, 7, 80, 8});
+  AddControl<QLineEdit>(dialog, edit, {7, 20, 80, 14});
+  AddControl<CImageButton>(dialog, IDOK, {7, 40, 50, 14});
+  AddControl<CImageButton>(dialog, IDCANCEL, {60, 40, 50, 14});
+}
+
+void BuildSizable(QDialog* dialog) {
+  BuildFixed(dialog);
+  dialog->setProperty("sizable", true);
+}
+
+/// Writes down what is called, in order.
+class TestDialog : public CDialog {
+ public:
+  explicit TestDialog(Template build = BuildFixed) : CDialog(build, nullptr) {}
+
+  QStringList calls;
+  int positionings = 0;
+  std::optional<int> refusal;
+  bool endAtOnce = false;
+  bool keepSize = false;
+
+ protected:
+  std::optional<int> OnCreate() override {
+    calls << "create";
+    const auto missing = CDialog::OnCreate();
+    return missing ? missing : refusal;
+  }
+  void OnInitDialog() override {
+    calls << "init";
+    SetText(0, Text::Discriminators);
+    SetLabel(label, edit, Text::Name);
+    SetButton(IDOK, Text::Ok, L"OK-16.png");
+    if (keepSize) {
+      KeepAsLeastSize();
+    }
+    if (endAtOnce) {
+      EndDialog(7);
+    }
+  }
+  void PositioningControls() override { ++positionings; }
+  void OnOK() override {
+    calls << "ok";
+    CDialog::OnOK();
+  }
+  void OnCancel() override {
+    calls << "cancel";
+    CDialog::OnCancel();
+  }
+  void OnDestroy() override { calls << "destroy"; }
+};
+
+class CDialogTest : public testing::Test {
+ protected:
+  static int Run(TestDialog& dialog, const std::function<void()>& script) {
+    return Drive([&] { return dialog.DoModal(); }, script);
+  }
+
+  InstalledFakeHost host;
+  TestDialog dialog;
+};
+
+TEST_F(CDialogTest, NothingIsShownByTheConstructor) { EXPECT_FALSE(dialog.isVisible()); }
+
+TEST_F(CDialogTest, ControlOneEndsWithOkAndControlTwoWithCancel) {
+  EXPECT_EQ(Run(dialog, [] { Click(IDOK); }), IDOK);
+  EXPECT_EQ(dialog.calls, QStringList({"create", "init", "ok", "destroy"}));
+  TestDialog second;
+  EXPECT_EQ(Run(second, [] { Click(IDCANCEL); }), IDCANCEL);
+  EXPECT_EQ(second.calls, QStringList({"create", "init", "cancel", "destroy"}));
+}
+
+TEST_F(CDialogTest, ReturnIsControlOneWhereverTheFocusIs) {
+  EXPECT_EQ(Run(dialog, [] { QTest::keyClick(TopControl(edit), Qt::Key_Return); }), IDOK);
+  TestDialog second;
+  EXPECT_EQ(Run(second,
+                [] {
+                  TopControl(edit)->setFocus();
+                  QTest::keyClick(TopWindow(), Qt::Key_Enter);
+                }),
+            IDOK);
+}
+
+TEST_F(CDialogTest, EscapeAndTheCloseBoxCancel) {
+  EXPECT_EQ(Run(dialog, [] { QTest::keyClick(TopWindow(), Qt::Key_Escape); }), IDCANCEL);
+  TestDialog second;
+  EXPECT_EQ(Run(second, [] { TopWindow()->close(); }), IDCANCEL);
+  EXPECT_EQ(second.calls, QStringList({"create", "init", "cancel", "destroy"}));
+}
+
+TEST_F(CDialogTest, ARefusalIsTheResultAndNothingIsShown) {
+  dialog.refusal = IDCANCEL;
+  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  EXPECT_EQ(dialog.calls, QStringList({"create"}));
+}
+
+TEST_F(CDialogTest, WithoutServicesTheResultIsMinusOne) {
+  QVLoadString::Install(nullptr);
+  EXPECT_EQ(dialog.DoModal(), -1);
+  EXPECT_EQ(dialog.calls, QStringList({"create"}));
+}
+
+TEST_F(CDialogTest, EndingDuringTheStartNeverShowsTheDialog) {
+  dialog.endAtOnce = true;
+  EXPECT_EQ(dialog.DoModal(), 7);
+  EXPECT_EQ(dialog.calls, QStringList({"create", "init", "destroy"}));
+}
+
+TEST_F(CDialogTest, DestroyingTheParentEndsTheLoop) {
+  auto* parent = new QWidget;
+  auto* child = new TestDialog;
+  child->setParent(parent, child->windowFlags());
+  EXPECT_EQ(Run(*child, [=] { delete parent; }), IDCANCEL);
+}
+
+TEST_F(CDialogTest, ADialogHasAFixedSizeUnlessItsTemplateIsSizable) {
+  Run(dialog, [] {
+    EXPECT_EQ(TopWindow()->minimumSize(), TopWindow()->maximumSize());
+    Click(IDOK);
+  });
+  TestDialog sizable(BuildSizable);
+  Run(sizable, [] {
+    const QSize size = TopWindow()->size();
+    TopWindow()->resize(size + QSize(50, 60));
+    EXPECT_EQ(TopWindow()->size(), size + QSize(50, 60));
+    EXPECT_TRUE(TopWindow()->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+    Click(IDOK);
+  });
+}
+
+TEST_F(CDialogTest, EachNewSizePlacesTheControlsAgain) {
+  TestDialog sizable(BuildSizable);
+  Run(sizable, [&] {
+    const int before = sizable.positionings;
+    TopWindow()->resize(600, 400);
+    Settle();
+    EXPECT_EQ(sizable.positionings, before + 1);
+    Click(IDOK);
+  });
+}
+
+TEST_F(CDialogTest, TheSizeThatIsKeptIsTheLeastOne) {
+  TestDialog sizable(BuildSizable);
+  sizable.keepSize = true;
+  Run(sizable, [] {
+    const QSize opening = TopWindow()->size();
+    TopWindow()->resize(10, 10);
+    EXPECT_EQ(TopWindow()->size(), opening);
+    Click(IDOK);
+  });
+}
+
+TEST_F(CDialogTest, TemplateUnitsFollowTheFont) {
+  const QFont before = QApplication::font();
+  QFont large = before;
+  large.setPixelSize(2 * QFontInfo(before).pixelSize());
+  QApplication::setFont(large);
+  const TestDialog big;
+  QApplication::setFont(before);
+  EXPECT_NEAR(big.width(), 2 * dialog.width(), dialog.width() / 10);
+  EXPECT_NEAR(big.Control(edit)->height(), 2 * dialog.Control(edit)->height(), 4);
+}
+
+TEST_F(CDialogTest, TextsComeByNumberAndImagesFromTheHostsDirectory) {
+  const QTemporaryDir images;
+  QImage picture(16, 16, QImage::Format_RGB32);
+  picture.fill(Qt::green);
+  ASSERT_TRUE(picture.save(images.filePath("OK-16.png")));
+  host->setup.imagePath = ToWide(images.path() + QLatin1Char('/'));
+  Run(dialog, [] {
+    EXPECT_EQ(TopWindow()->windowTitle(), "[32370]");
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(label))->text(), "[355]");
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(label))->textFormat(), Qt::PlainText);
+    EXPECT_EQ(TopControl(edit)->accessibleName(), "[355]");
+    EXPECT_FALSE(qobject_cast<CImageButton*>(TopControl(IDOK))->icon().isNull());
+    Click(IDOK);
+  });
+}
+
+TEST_F(CDialogTest, TheIconIsTheHostsPictureByTheLowSixteenBits) {
+  const QTemporaryDir images;
+  QImage picture(32, 32, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(images.filePath("PROGRAM-5.png")));
+  host->setup.imagePath = ToWide(images.path() + QLatin1Char('/'));
+  host->setup.programIcon = 0x70005;
+  Run(dialog, [] {
+    EXPECT_EQ(TopWindow()->windowIcon().pixmap(32, 32).toImage().pixelColor(3, 3), QColor(Qt::red));
+    Click(IDOK);
+  });
+}
+
+TEST_F(CDialogTest, AControlThatIsMissingIsNull) { EXPECT_EQ(dialog.Control(999), nullptr); }
+
+}  // namespace
+}  // namespace qv

@@ -1,0 +1,104 @@
+#include "toolkit/MessageBoxes.h"
+
+#include <gtest/gtest.h>
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include "tests/support/DialogDriver.h"
+#include "tests/support/FakeHost.h"
+
+namespace qv {
+namespace {
+
+/// Texts with what boxes have to cope with.
+class Wordings : public NumberTexts {
+ public:
+  QVWideString& operator()(unsigned id, QVWideString& text) const override {
+    const auto found = wordings.find(id);
+    return found == wordings.end() ? NumberTexts::operator()(id, text) : text = found->second;
+  }
+  std::map<unsigned, const wchar_t*> wordings;
+};
+
+class MessageBoxesTest : public testing::Test {
+ protected:
+  static QMessageBox* Box() { return qobject_cast<QMessageBox*>(TopWindow()); }
+
+  bool AskAnd(const std::function<void()>& script) {
+    return Drive([this] { return boxes.Ask(Text::RemoveDiscriminatorsQuestion); }, script) != 0;
+  }
+
+  void ShowAnd(Text text, Prompter::Arguments arguments, const std::function<void()>& script) {
+    Drive([&] { return boxes.Show(text, arguments), 0; }, script);
+  }
+
+  Wordings texts;
+  QWidget window;
+  MessageBoxes boxes{&window, texts};
+};
+
+TEST_F(MessageBoxesTest, ABoxShowsItsTextAndCarriesItsNumber) {
+  ShowAnd(Text::DiscriminatorNameMissing, {}, [] {
+    EXPECT_EQ(Box()->text(), "[32363]");
+    EXPECT_EQ(Box()->property("textNumber").toUInt(), 32363U);
+    QTest::keyClick(Box(), Qt::Key_Return);
+  });
+}
+
+TEST_F(MessageBoxesTest, PlaceholdersAreFilledIn) {
+  texts.wordings[32363] = L"%d of %s";
+  ShowAnd(Text::DiscriminatorNameMissing, {3, L"many"}, [] {
+    EXPECT_EQ(Box()->text(), "3 of many");
+    Box()->close();
+  });
+}
+
+TEST_F(MessageBoxesTest, WithoutArgumentsAPerCentSignStandsForItself) {
+  texts.wordings[32363] = L"100 %s <b>";
+  ShowAnd(Text::DiscriminatorNameMissing, {}, [] {
+    EXPECT_EQ(Box()->text(), "100 %s <b>");
+    EXPECT_EQ(Box()->textFormat(), Qt::PlainText);
+    Box()->close();
+  });
+}
+
+TEST_F(MessageBoxesTest, OnlyYesIsYes) {
+  EXPECT_TRUE(AskAnd([] { Box()->button(QMessageBox::Yes)->click(); }));
+  EXPECT_FALSE(AskAnd([] { Box()->button(QMessageBox::No)->click(); }));
+  EXPECT_FALSE(AskAnd([] { QTest::keyClick(Box(), Qt::Key_Escape); }));
+  EXPECT_FALSE(AskAnd([] { Box()->close(); }));
+}
+
+TEST_F(MessageBoxesTest, ButtonsTakeTheHostsCaptionsIfItHasThem) {
+  AskAnd([] {
+    EXPECT_NE(Box()->button(QMessageBox::Yes)->text(), "[60001]");
+    Box()->close();
+  });
+  texts.additions = {60001, 60002};
+  AskAnd([] {
+    EXPECT_EQ(Box()->button(QMessageBox::Yes)->text(), "[60001]");
+    EXPECT_EQ(Box()->button(QMessageBox::No)->text(), "[60002]");
+    Box()->close();
+  });
+}
+
+TEST_F(MessageBoxesTest, ATextWithoutNumberIsShownAsItStands) {
+  Drive([this] { return boxes.ShowText(L"50 % <i>"), 0; },
+        [] {
+          EXPECT_EQ(Box()->text(), "50 % <i>");
+          Box()->close();
+        });
+}
+
+TEST_F(MessageBoxesTest, TheTitleIsThatOfTheWindow) {
+  window.setWindowTitle(QStringLiteral("Manager"));
+  ShowAnd(Text::DiscriminatorNameMissing, {}, [] {
+    EXPECT_EQ(Box()->windowTitle(), "Manager");
+    Box()->close();
+  });
+}
+
+}  // namespace
+}  // namespace qv

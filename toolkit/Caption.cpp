@@ -1,0 +1,41 @@
+#include "toolkit/Caption.h"
+
+#include <QFontMetricsF>
+#include <QPixmap>
+#include <QtMath>
+
+#include "toolkit/Strings.h"
+
+namespace qv {
+
+QString LiteralText(const QString& caption) {
+  return QString(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString ElidedCaption(const QString& caption, const QFontMetrics& font, int width) {
+  return font.elidedText(caption, Qt::ElideRight, width);
+}
+
+void DescribeByCaption(QWidget* widget, const QString& caption, int width) {
+  const bool elided = ElidedCaption(caption, widget->fontMetrics(), width) != caption;
+  // Escaped in a pair of tags, since a tooltip takes a text with tags of its own for rich text.
+  widget->setToolTip(elided ? QStringLiteral("<p>%1</p>").arg(caption.toHtmlEscaped()) : QString());
+  widget->setAccessibleName(caption);
+}
+
+int CaptionWidth(const QString& caption, const QFontMetrics& font) {
+  return qCeil(QFontMetricsF(font).horizontalAdvance(caption));
+}
+
+QIcon PictureIcon(const QVWideString& path) {
+  const QString file = ToQString(path);
+  if (QPixmap(file).isNull()) {
+    return {};  // an icon of a file that can't be read isn't null and takes room
+  }
+  QIcon icon(file);
+  // By itself an icon looks for this form only if there is a dense screen at this moment.
+  icon.addFile(QString(file).replace(QLatin1String(".png"), QLatin1String("@2x.png")));
+  return icon;
+}
+
+}  // namespace qv

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QFontMetrics>
+#include <QIcon>
+#include <QString>
+#include <QWidget>
+
+#include "tools/QVBasicString.h"
+
+namespace qv {
+
+/// The button text that shows `caption` as it stands, without mnemonics.
+QString LiteralText(const QString& caption);
+
+/// `caption`, cut at the right with an ellipsis if it is wider than `width` pixels.
+QString ElidedCaption(const QString& caption, const QFontMetrics& font, int width);
+
+/// The least width in which `caption` isn't cut.
+int CaptionWidth(const QString& caption, const QFontMetrics& font);
+
+/// Gives `widget` the whole caption as its accessible name, and as its tooltip exactly if the
+/// caption is wider than `width` pixels.
+void DescribeByCaption(QWidget* widget, const QString& caption, int width);
+
+/// The picture at `path`, with its doubled form "<name>@2x.png" for dense screens if there is one.
+/// A file that is missing or holds no picture gives a null icon.
+QIcon PictureIcon(const QVWideString& path);
+
+}  // namespace qv

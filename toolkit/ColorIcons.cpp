@@ -1,0 +1,38 @@
+#include "toolkit/ColorIcons.h"
+
+#include <QApplication>
+#include <QStyle>
+
+#include "toolkit/PaintBox.h"
+
+namespace qv {
+
+namespace {
+
+constexpr COLORREF white = 0xFFFFFF;
+constexpr COLORREF black = 0;
+
+COLORREF MaskColour(COLORREF colour) { return colour == white ? black : white; }
+
+}  // namespace
+
+QSize SmallIconSize(const QWidget* widget) {
+  const QStyle* style = widget ? widget->style() : QApplication::style();
+  const int side = style->pixelMetric(QStyle::PM_SmallIconSize, nullptr, widget);
+  return {side, side};
+}
+
+QIcon ColorIcon(COLORREF colour, QSize size) {
+  QPixmap box;
+  if (!PaintBox(&box, colour, size.width(), size.height())) {
+    return {};
+  }
+  if (ColourOf(colour) == ColourOf(MaskColour(colour))) {
+    box.fill(Qt::transparent);
+  }
+  QIcon icon(box);
+  icon.addPixmap(box, QIcon::Selected);  // or the style would mix in the colour of the selection
+  return icon;
+}
+
+}  // namespace qv

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QIcon>
+#include <QSize>
+#include <QWidget>
+
+#include "toolkit/Types.h"
+
+namespace qv {
+
+/// The small icon size of the style of `widget`, in logical pixels.
+QSize SmallIconSize(const QWidget* widget);
+
+/// The colour box of a list row or combo entry. It is made with a mask colour, white, whose pixels
+/// are transparent; a box that is itself white (0xFFFFFF) has black for its mask colour and so
+/// stays visible. A selected row doesn't tint it. An empty size gives a null icon.
+QIcon ColorIcon(COLORREF colour, QSize size);
+
+}  // namespace qv

@@ -1,0 +1,63 @@
+#include "toolkit/LimitTyping.h"
+
+#include <QLineEdit>
+#include <QValidator>
+#include <algorithm>
+
+#include "toolkit/Strings.h"
+#include "tools/XmlText.h"
+
+namespace qv {
+namespace {
+
+/// Cuts insertions. Qt's own limit isn't used, because it also cuts what the program sets.
+class InsertionLimit : public QValidator {
+ public:
+  InsertionLimit(QLineEdit* edit, int maxLength)
+      : QValidator(edit), m_maxLength(maxLength), m_length(edit->text().size()) {
+    connect(edit, &QLineEdit::textChanged, this,
+            [this](const QString& text) { m_length = text.size(); });
+  }
+
+  State validate(QString& input, int& cursor) const override {
+    if (!IsXmlText(input.toStdWString())) {
+      return Invalid;
+    }
+    CutInsertion(input, cursor);
+    return Acceptable;
+  }
+
+ private:
+  /// The insertion ends at the cursor.
+  void CutInsertion(QString& input, int& cursor) const {
+    const auto longest = std::max<qsizetype>(m_maxLength, m_length);
+    qsizetype excess = std::min<qsizetype>(input.size() - longest, cursor);
+    if (m_maxLength == 0 || excess <= 0) {
+      return;
+    }
+    const qsizetype start = cursor - excess;
+    if (start > 0 && input[start - 1].isHighSurrogate()) {
+      ++excess;  // not half of a character
+    }
+    cursor -= static_cast<int>(excess);
+    input.remove(cursor, excess);
+  }
+
+  int m_maxLength;
+  qsizetype m_length;  ///< of the text before the change that is validated
+};
+
+}  // namespace
+
+void LimitTyping(QLineEdit* edit, int maxLength) {
+  edit->setValidator(new InsertionLimit(edit, maxLength));
+}
+
+void SetLoadedText(QLineEdit* edit, const QString& text) {
+  const QValidator* limit = edit->validator();
+  edit->setValidator(nullptr);
+  edit->setText(text);
+  edit->setValidator(limit);
+}
+
+}  // namespace qv

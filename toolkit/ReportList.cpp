@@ -1,0 +1,90 @@
+#include "toolkit/ReportList.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <algorithm>
+
+namespace qv {
+namespace {
+
+bool IsForTheDialog(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Delete || event.key() == Qt::Key_Insert) {
+    return true;
+  }
+  return event.modifiers().testFlag(Qt::ControlModifier) && event.key() >= Qt::Key_A &&
+         event.key() <= Qt::Key_Z;
+}
+
+}  // namespace
+
+ReportList::ReportList(QWidget* parent) : QTreeWidget(parent) {
+  setRootIsDecorated(false);
+  setUniformRowHeights(true);
+  setAllColumnsShowFocus(true);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setTabKeyNavigation(false);
+  header()->setStretchLastSection(false);
+  header()->setSectionsMovable(false);
+  header()->setMinimumSectionSize(0);
+}
+
+std::vector<int> ReportList::SelectedRows() const {
+  std::vector<int> rows;
+  for (const QModelIndex& index : selectionModel()->selectedRows()) {
+    rows.push_back(index.row());
+  }
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+void ReportList::keyPressEvent(QKeyEvent* event) {
+  if (!IsForTheDialog(*event)) {
+    QTreeWidget::keyPressEvent(event);
+    return;
+  }
+  event->accept();
+  emit KeyDown(event->key(), event->modifiers().testFlag(Qt::ControlModifier));
+}
+
+void ReportList::mouseDoubleClickEvent(QMouseEvent* event) {
+  QTreeWidget::mouseDoubleClickEvent(event);
+  if (event->button() == Qt::LeftButton) {
+    emit DoubleClicked();
+  }
+}
+
+void ReportList::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  emit MenuWanted(event->globalPos());
+}
+
+void ReportList::resizeEvent(QResizeEvent* event) {
+  QTreeWidget::resizeEvent(event);
+  emit RoomChanged();
+}
+
+bool ReportList::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) {
+    return QTreeWidget::viewportEvent(event);
+  }
+  ShowWholeText(static_cast<const QHelpEvent&>(*event));
+  return true;
+}
+
+void ReportList::ShowWholeText(const QHelpEvent& event) {
+  const QModelIndex index = indexAt(event.pos());
+  if (!index.isValid() || sizeHintForIndex(index).width() <= columnWidth(index.column())) {
+    QToolTip::hideText();
+    return;
+  }
+  const QString text = index.data().toString().toHtmlEscaped();
+  QToolTip::showText(event.globalPos(), QStringLiteral("<p>%1</p>").arg(text), viewport(),
+                     visualRect(index));
+}
+
+}  // namespace qv

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QTreeWidget>
+
+namespace qv {
+
+/// A list in report form: rows of columns, no tree, full-row selection. It tells of keys and clicks
+/// in the terms of the dialogs that use it, and leaves sorting, copying and column widths to them.
+/// A text that its column cuts is shown whole in a tooltip.
+class ReportList : public QTreeWidget {
+  Q_OBJECT
+
+ public:
+  explicit ReportList(QWidget* parent = nullptr);
+
+  /// The numbers of the selected rows, from the top.
+  std::vector<int> SelectedRows() const;
+
+ signals:
+  /// Delete, Insert, or a letter with Control was pressed; the list itself does nothing for it.
+  void KeyDown(int key, bool control);
+  /// The left button was double-clicked anywhere in the list, below the last row included.
+  void DoubleClicked();
+  /// The right button, or the menu key, asks for the context menu at this place of the screen.
+  void MenuWanted(const QPoint& globalPosition);
+  /// The room for the columns has a new width.
+  void RoomChanged();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+
+ private:
+  void ShowWholeText(const QHelpEvent& event);
+};
+
+}  // namespace qv
