@@ -1,0 +1,64 @@
+#pragma once
+
+#include <memory>
+
+#include "toolkit/CDialog.h"
+#include "toolkit/Export.h"
+#include "tools/XmlDocument.h"
+
+namespace qv {
+class DiscriminatorList;
+class MessageBoxes;
+class ReportList;
+}  // namespace qv
+
+/// The manager of all discriminators of the configuration directory: from it the user adds,
+/// modifies, removes, copies and pastes them.
+///
+/// Files are written as soon as an operation is confirmed. The result of `DoModal` speaks of the
+/// host's own document alone: `IDOK` if the user left by the exit button and something was saved,
+/// removed or pasted, so that the host has to save its configuration; else `IDCANCEL`, also for
+/// Escape and the close box; -1 if the host has not installed its services.
+class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
+  Q_OBJECT
+
+ public:
+  /// `deviceGroups` is the host's node, which the dialog keeps in step with the files. It may be
+  /// null; the first Add or Modify then makes one in the main configuration. It must outlive the
+  /// dialog.
+  CDlgSetupDiscriminators(XmlDocument::XmlNode* deviceGroups, CWnd* parent);
+  ~CDlgSetupDiscriminators() override;
+
+  int DoModal() override;
+
+ protected:
+  std::optional<int> OnCreate() override;
+  void OnInitDialog() override;
+  void PositioningControls() override;
+  void OnOK() override;
+  void OnDestroy() override;
+
+ private:
+  void InitializeTexts();
+  void CreateColumns();
+  void InitializeColumns();
+  bool InitializeDiscriminatorsList(bool firstReading);
+  void ShowRows();
+  void EnableDisableButtons();
+  void RefreshList();
+  void OnAdd();
+  void OnModify();
+  void OnRemove();
+  void CopyToClipboard();
+  void PasteFromClipboard();
+  void OnRclickListDiscriminators(const QPoint& globalPosition);
+  void RemoveRow(int row);
+  void SelectRow(int row);
+  void OnItemchangedListDiscriminators();
+  void OnKeydownListDiscriminators(int key, bool control);
+
+  XmlDocument::XmlNode* m_deviceGroups;
+  qv::ReportList* m_listDiscriminators;
+  std::unique_ptr<qv::MessageBoxes> m_boxes;
+  std::unique_ptr<qv::DiscriminatorList> m_list;
+};

@@ -1,0 +1,55 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <memory>
+#include <regex>
+#include <string>
+#include <vector>
+
+namespace {
+
+struct ClosePipe {
+  void operator()(std::FILE* pipe) const { pclose(pipe); }
+};
+
+/// The symbols that the library defines for others, demangled.
+std::vector<std::string> ExportedSymbols() {
+  const std::string command = std::string("nm -D --defined-only -C '") + LIBRARY_FILE + "'";
+  const std::unique_ptr<std::FILE, ClosePipe> pipe(popen(command.c_str(), "r"));
+  std::vector<std::string> symbols;
+  char line[4096];
+  while (pipe && std::fgets(line, sizeof line, pipe.get())) {
+    const std::string text(line);
+    symbols.push_back(text.substr(19, text.find_last_not_of('\n') - 18));
+  }
+  return symbols;
+}
+
+bool BelongsToAnExportedClass(const std::string& symbol) {
+  static const std::regex ours(
+      "((typeinfo|typeinfo name|vtable) for |(non-)?virtual thunk to )?"
+      "(CDlgSetupDiscriminators|CDlgFastSelection|CDlgSelectVarDiscriminatorVariables|QVDayCtrl)"
+      "(::.*)?");
+  return std::regex_match(symbol, ours);
+}
+
+TEST(SymbolTable, HoldsTheExportedClassesAndNothingElse) {
+  const auto symbols = ExportedSymbols();
+  ASSERT_FALSE(symbols.empty());
+  for (const auto& symbol : symbols) {
+    EXPECT_TRUE(BelongsToAnExportedClass(symbol)) << symbol;
+  }
+}
+
+TEST(SymbolTable, HoldsWhatAHostNeedsOfTheManagerDialog) {
+  const auto symbols = ExportedSymbols();
+  for (const char* needed :
+       {"CDlgSetupDiscriminators::DoModal()", "CDlgSetupDiscriminators::staticMetaObject",
+        "CDlgSetupDiscriminators::~CDlgSetupDiscriminators()",
+        "CDlgSetupDiscriminators::CDlgSetupDiscriminators(qv::XmlNode*, QWidget*)",
+        "typeinfo for CDlgSetupDiscriminators", "vtable for CDlgSetupDiscriminators"}) {
+    EXPECT_NE(std::find(symbols.begin(), symbols.end(), needed), symbols.end()) << needed;
+  }
+}
+
+}  // namespace
