@@ -1,0 +1,69 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "apps/configurator/Language.h"
+
+namespace configurator {
+
+/// A window that can be shown alone.
+enum class ShownWindow { Main, Discriminators };
+
+/// What the command line calls a window.
+struct WindowName {
+  const char* name;
+  ShownWindow window;
+  const char* meaning;
+  bool listsRows;  ///< whether `--list` can print its rows
+};
+
+/// All windows that `--show` knows. A new dialog is a line here and one in RunWindow.cpp.
+inline constexpr std::array windowNames = {
+    WindowName{"main", ShownWindow::Main, "the main window", false},
+    WindowName{"discriminators", ShownWindow::Discriminators,
+               "the manager of the installation's discriminators", true},
+};
+
+enum class Theme { Light, Dark };
+
+/// Width and height of a window, in pixels before any scaling.
+struct WindowSize {
+  int width = 0;
+  int height = 0;
+
+  friend bool operator==(const WindowSize&, const WindowSize&) = default;
+};
+
+/// What the command line asks for.
+struct Arguments {
+  std::string installation;          ///< an existing directory, in UTF-8
+  std::optional<Language> language;  ///< nothing for that of the user's system
+  ShownWindow show = ShownWindow::Main;
+  std::optional<std::string> picture;  ///< the file to make, in UTF-8
+  std::optional<WindowSize> size;
+  std::optional<Theme> theme;  ///< nothing for that of the user's system
+  bool list = false;
+
+  /// Whether the program ends by itself once the window has been up, so that nobody need be there.
+  bool EndsByItself() const { return picture.has_value() || list; }
+};
+
+/// The program ends before it begins: with help, the version, or the reason why not.
+struct EarlyEnd {
+  int status = 0;
+  std::string output;  ///< for standard output
+  std::string error;   ///< for standard error
+};
+
+/// Reads the command line, of which the first is the program's name. A call that can't be carried
+/// out gives the status 2 and the reason in words.
+std::variant<Arguments, EarlyEnd> ReadArguments(int count, const char* const* arguments);
+
+/// The line that the program puts on standard error for `reason`.
+std::string ErrorLine(std::string_view reason);
+
+}  // namespace configurator

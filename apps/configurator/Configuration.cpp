@@ -1,0 +1,104 @@
+#include "apps/configurator/Configuration.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+#include "host/Installation.h"
+#include "tools/Guid.h"
+
+namespace configurator {
+namespace {
+
+using qv::XmlNode;
+
+constexpr wchar_t fileName[] = L"configuration.xml";
+constexpr wchar_t rootTag[] = L"configuration";
+constexpr wchar_t embeddedDriver[] = L"KORVAXEMBEDDED";
+
+bool Exists(std::wstring_view directory, qv::Files& files) {
+  const auto names = files.Walk(std::wstring(directory) + L"*" + fileName);
+  return std::find(names.begin(), names.end(), fileName) != names.end();
+}
+
+bool MarksEmbedded(const XmlNode* node) {
+  return node->Tag() == L"device" && node->Value(L"driver", L"") == embeddedDriver;
+}
+
+void AddEmbeddedDevice(XmlNode& commSystem) {
+  XmlNode* device = commSystem.NewChild(L"device", nullptr);
+  device->SetValue(L"id", qv::NewGuidText());
+  device->SetValue(L"name", L"EMBEDDED");
+  device->SetValue(L"driver", embeddedDriver);
+}
+
+void RemoveEmbeddedDevices(XmlNode& commSystem) {
+  std::vector<XmlNode*> marks;
+  std::copy_if(commSystem.ChildsBegin(), commSystem.ChildsEnd(), std::back_inserter(marks),
+               MarksEmbedded);
+  for (XmlNode* mark : marks) {
+    commSystem.RemoveChild(mark);
+  }
+}
+
+}  // namespace
+
+Configuration::Configuration(QVMainCfg& document, qv::Files& files)
+    : m_document(document), m_files(files) {
+  m_document.Create(rootTag);
+}
+
+Configuration::Loaded Configuration::Load(std::wstring_view directory) {
+  const std::wstring path = std::wstring(directory) + fileName;
+  XmlDocument found;
+  const bool read = found.Load(path.c_str(), m_files);
+  if (!read && Exists(directory, m_files)) {
+    return Loaded::Unreadable;
+  }
+  if (read && found.Root()->Tag() != rootTag) {
+    return Loaded::Foreign;
+  }
+  m_path = path;
+  m_document.Create(rootTag);
+  if (read) {
+    *m_document.Root() = *found.Root();
+  }
+  return read ? Loaded::FromFile : Loaded::New;
+}
+
+bool Configuration::Save() { return m_document.SaveAs(m_path.c_str(), m_files); }
+
+bool Configuration::IsChanged() const {
+  XmlDocument saved;
+  if (!saved.Load(m_path.c_str(), m_files)) {
+    saved.Create(rootTag);
+  }
+  return *std::as_const(m_document).Root() != *saved.Root();
+}
+
+XmlNode* Configuration::DeviceGroups() { return m_document.Root()->Node(L"deviceGroups"); }
+
+const XmlNode* Configuration::DeviceGroups() const {
+  return std::as_const(m_document).Root()->Node(L"deviceGroups");
+}
+
+const XmlNode* Configuration::CommSystem() const {
+  return std::as_const(m_document).Root()->Node(L"commSystem");
+}
+
+bool Configuration::IsEmbedded() const { return qv::IsEmbedded(m_document); }
+
+void Configuration::SetEmbedded(bool embedded) {
+  XmlNode* commSystem = m_document.Root()->Node(L"commSystem");
+  if (!embedded) {
+    if (commSystem) {
+      RemoveEmbeddedDevices(*commSystem);
+    }
+  } else if (!IsEmbedded()) {
+    AddEmbeddedDevice(commSystem ? *commSystem
+                                 : *m_document.Root()->NewChild(L"commSystem", nullptr));
+  }
+}
+
+}  // namespace configurator

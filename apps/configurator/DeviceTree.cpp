@@ -1,0 +1,107 @@
+#include "apps/configurator/DeviceTree.h"
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_map>
+
+namespace configurator {
+namespace {
+
+using qv::XmlNode;
+using Items = std::vector<DeviceTreeItem>;
+using NamesById = std::unordered_map<std::wstring, std::wstring>;
+
+constexpr wchar_t discriminatorType[] = L"R$DISC";
+constexpr std::wstring_view extension = L".xdct";
+
+/// What the installation calls its devices and its discriminators.
+struct Names {
+  NamesById devices;
+  NamesById discriminators;
+};
+
+std::wstring Field(const XmlNode& node, const wchar_t* tag) {
+  return std::wstring(node.Value(tag, L"").ToView());
+}
+
+/// A device without a name goes by its id.
+void AddDeviceName(NamesById& names, const XmlNode& device) {
+  if (device.Tag() == L"device") {
+    const std::wstring id = Field(device, L"id");
+    const std::wstring name = Field(device, L"name");
+    names.emplace(id, name.empty() ? id : name);
+  }
+}
+
+NamesById DeviceNames(const XmlNode* commSystem) {
+  NamesById names;
+  if (commSystem) {
+    std::for_each(commSystem->ChildsBegin(), commSystem->ChildsEnd(),
+                  [&](const XmlNode* device) { AddDeviceName(names, *device); });
+  }
+  return names;
+}
+
+NamesById DiscriminatorNames(std::wstring_view directory, qv::Files& files) {
+  NamesById names;
+  for (const std::wstring& file : files.Walk(std::wstring(directory) + L"*.xdct")) {
+    const std::wstring stem = file.substr(0, file.size() - extension.size());
+    const std::size_t dot = stem.find(L'.');
+    if (dot != std::wstring::npos) {
+      names.emplace(stem.substr(0, dot), stem.substr(dot + 1));
+    }
+  }
+  return names;
+}
+
+std::wstring NameIn(const NamesById& names, const std::wstring& id, std::wstring_view prefix) {
+  const auto found = names.find(id);
+  return found == names.end() ? std::wstring() : std::wstring(prefix) + found->second;
+}
+
+DeviceTreeItem ReadDevice(const XmlNode& device, const Names& names) {
+  using Kind = DeviceTreeItem::Kind;
+  DeviceTreeItem item;
+  item.id = Field(device, L"id");
+  item.type = Field(device, L"type");
+  item.kind = item.type == discriminatorType ? Kind::Discriminator : Kind::Device;
+  item.name = item.kind == Kind::Discriminator ? NameIn(names.discriminators, item.id, L"R$DISC_")
+                                               : NameIn(names.devices, item.id, L"");
+  return item;
+}
+
+Items ReadLevel(const XmlNode& level, const Names& names);
+
+DeviceTreeItem ReadGroup(const XmlNode& group, const Names& names) {
+  DeviceTreeItem item;
+  item.kind = DeviceTreeItem::Kind::Group;
+  item.name = Field(group, L"name");
+  item.below = ReadLevel(group, names);
+  return item;
+}
+
+/// The depth is bounded: a document is nested 512 levels deep at most.
+Items ReadLevel(const XmlNode& level, const Names& names) {
+  Items items;
+  if (const XmlNode* groups = level.Node(L"groups")) {
+    std::transform(groups->ChildsBegin(), groups->ChildsEnd(), std::back_inserter(items),
+                   [&](const XmlNode* group) { return ReadGroup(*group, names); });
+  }
+  if (const XmlNode* devices = level.Node(L"devices")) {
+    std::transform(devices->ChildsBegin(), devices->ChildsEnd(), std::back_inserter(items),
+                   [&](const XmlNode* device) { return ReadDevice(*device, names); });
+  }
+  return items;
+}
+
+}  // namespace
+
+std::vector<DeviceTreeItem> ReadDeviceTree(const XmlNode* deviceGroups, const XmlNode* commSystem,
+                                           std::wstring_view directory, qv::Files& files) {
+  if (!deviceGroups) {
+    return {};
+  }
+  return ReadLevel(*deviceGroups, {DeviceNames(commSystem), DiscriminatorNames(directory, files)});
+}
+
+}  // namespace configurator

@@ -1,0 +1,129 @@
+#include "apps/configurator/DeviceTreeView.h"
+
+#include <QHeaderView>
+#include <QStandardItemModel>
+#include <functional>
+#include <utility>
+
+#include "apps/configurator/Strings.h"
+
+namespace configurator {
+namespace {
+
+/// What tells a line from all others after a refresh: the names from the top down to it.
+constexpr int keyRole = Qt::UserRole;
+
+constexpr int gapBetweenColumns = 24;
+
+void ForEachLine(const QAbstractItemModel& model, const QModelIndex& parent,
+                 const std::function<void(const QModelIndex&)>& visit) {
+  for (int row = 0; row < model.rowCount(parent); ++row) {
+    const QModelIndex line = model.index(row, 0, parent);
+    visit(line);
+    ForEachLine(model, line, visit);
+  }
+}
+
+QStandardItem* Cell(const QString& text) {
+  auto* cell = new QStandardItem(text);
+  cell->setEditable(false);
+  cell->setToolTip(PlainTooltip(text));
+  return cell;
+}
+
+}  // namespace
+
+DeviceTreeView::DeviceTreeView(QIcon discriminatorIcon, QWidget* parent)
+    : QTreeView(parent),
+      m_model(new QStandardItemModel(this)),
+      m_discriminatorIcon(std::move(discriminatorIcon)) {
+  setModel(m_model);
+  setUniformRowHeights(true);
+  setAlternatingRowColors(true);
+}
+
+void DeviceTreeView::Show(const std::vector<DeviceTreeItem>& items, Language language) {
+  QSet<QString> collapsed;
+  ForEachLine(*m_model, {}, [&](const QModelIndex& line) {
+    if (m_model->hasChildren(line) && !isExpanded(line)) {
+      collapsed.insert(line.data(keyRole).toString());
+    }
+  });
+  const QString current = currentIndex().siblingAtColumn(0).data(keyRole).toString();
+  m_language = language;
+  m_model->clear();
+  SetTexts(language);
+  AddItems(m_model->invisibleRootItem(), items);
+  Restore(collapsed, current);
+  resizeColumnToContents(0);
+  setColumnWidth(0, columnWidth(0) + gapBetweenColumns);
+}
+
+void DeviceTreeView::SetTexts(Language language) {
+  setAccessibleName(Words(HostText::Tree, language));
+  setAccessibleDescription(Words(HostText::TreeHint, language));
+  m_model->setHorizontalHeaderLabels(
+      {Words(HostText::Tree, language), Words(HostText::TreeType, language)});
+}
+
+void DeviceTreeView::AddItems(QStandardItem* parent, const std::vector<DeviceTreeItem>& items) {
+  const QString above = parent->data(keyRole).toString();
+  for (const DeviceTreeItem& item : items) {
+    const auto line = Line(item, above + QLatin1Char('\n') + NameText(item));
+    parent->appendRow(line);
+    AddItems(line.front(), item.below);
+  }
+}
+
+QList<QStandardItem*> DeviceTreeView::Line(const DeviceTreeItem& item, const QString& key) const {
+  QStandardItem* name = Cell(NameText(item));
+  name->setIcon(IconOf(item));
+  name->setData(key, keyRole);
+  return {name, Cell(TypeText(item))};
+}
+
+QString DeviceTreeView::NameText(const DeviceTreeItem& item) const {
+  if (!item.name.empty()) {
+    return ToQString(item.name);
+  }
+  if (item.kind == DeviceTreeItem::Kind::Group) {
+    return Words(HostText::UnnamedGroup, m_language);
+  }
+  return item.id.empty() ? Words(HostText::UnnamedDevice, m_language) : ToQString(item.id);
+}
+
+QString DeviceTreeView::TypeText(const DeviceTreeItem& item) const {
+  QString type = ToQString(item.type);
+  if (item.kind == DeviceTreeItem::Kind::Group || !item.name.empty()) {
+    return type;
+  }
+  const HostText hint = item.kind == DeviceTreeItem::Kind::Device ? HostText::DeviceNotFound
+                                                                  : HostText::DiscriminatorNotFound;
+  return QStringLiteral("%1 (%2)").arg(type, Words(hint, m_language));
+}
+
+QIcon DeviceTreeView::IconOf(const DeviceTreeItem& item) const {
+  if (item.kind == DeviceTreeItem::Kind::Group) {
+    return style()->standardIcon(QStyle::SP_DirIcon);
+  }
+  if (item.name.empty()) {
+    return style()->standardIcon(QStyle::SP_MessageBoxWarning);
+  }
+  return item.kind == DeviceTreeItem::Kind::Discriminator
+             ? m_discriminatorIcon
+             : style()->standardIcon(QStyle::SP_ComputerIcon);
+}
+
+void DeviceTreeView::Restore(const QSet<QString>& collapsed, const QString& current) {
+  expandAll();
+  setCurrentIndex(m_model->index(0, 0));
+  ForEachLine(*m_model, {}, [&](const QModelIndex& line) {
+    const QString key = line.data(keyRole).toString();
+    setExpanded(line, !collapsed.contains(key));
+    if (key == current) {
+      setCurrentIndex(line);
+    }
+  });
+}
+
+}  // namespace configurator

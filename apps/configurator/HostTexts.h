@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+
+#include "apps/configurator/Language.h"
+
+namespace configurator {
+
+/// The texts of this program itself. Those of the library's dialogs are in the language files.
+enum class HostText {
+  ProgramName,
+  FileMenu,
+  OpenInstallation,
+  Save,
+  Quit,
+  SettingsMenu,
+  LanguageMenu,
+  EmbeddedInstallation,
+  HelpMenu,
+  About,
+  AboutProgram,  ///< %1 is the version
+  Toolbar,
+  Discriminators,
+
+  Tree,      ///< heading of the names in the tree of devices and groups
+  TreeType,  ///< heading of the types
+  TreeHint,  ///< accessible description of the tree
+  UnnamedGroup,
+  UnnamedDevice,          ///< the entry has no id
+  DeviceNotFound,         ///< behind the type
+  DiscriminatorNotFound,  ///< behind the type
+
+  Ready,
+  ConfigurationIsNew,
+  ConfigurationSaved,
+  DiscriminatorFilesChanged,
+  DeviceGroupsChanged,
+  PartChanged,  ///< %1 is the number of the part
+
+  // What went wrong, and what to do; %1 is the file or directory
+  ConfigurationUnreadable,
+  ConfigurationForeign,
+  ConfigurationNotSaved,
+  DirectoryMissing,
+  LanguageFileMissing,
+  PictureNotSaved,
+  WindowNotShown,
+
+  Count
+};
+
+/// The text in this language. A letter that follows "&" is the key that selects it.
+QString Words(HostText text, Language language);
+
+}  // namespace configurator

@@ -1,0 +1,228 @@
+#include "apps/configurator/MainWindow.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "apps/configurator/DeviceTree.h"
+#include "apps/configurator/DeviceTreeView.h"
+#include "apps/configurator/DiscriminatorManager.h"
+#include "apps/configurator/StatusLine.h"
+
+namespace configurator {
+namespace {
+
+constexpr QSize firstSize(760, 520);
+
+/// `text` where "[*]" means the mark of unsaved changes, as it stands.
+QString WithoutMark(QString text) {
+  return text.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Workspace& workspace)
+    : m_workspace(workspace),
+      m_languageChoice(new QActionGroup(this)),
+      m_statusLine(new StatusLine(this)) {
+  MakeFileMenu();
+  MakeSettingsMenu();
+  MakeHelpMenu();
+  MakeToolbar();
+  MakeCentre();
+  setStatusBar(m_statusLine);
+  resize(firstSize);
+  m_workspace.Services().SetListener([this](int id) { m_statusLine->AddNotice(id); });
+  ShowInstallation();
+  ShowTexts();
+}
+
+MainWindow::~MainWindow() { m_workspace.Services().SetListener({}); }
+
+void MainWindow::Open(const QString& directory) {
+  if (const auto problem = m_workspace.Open(directory)) {
+    Report(*problem);
+  } else {
+    ShowInstallation();
+    ShowTree();
+    ShowState();
+  }
+}
+
+QAction* MainWindow::Captioned(QAction* action, HostText text) {
+  m_captions.emplace_back(action, text);
+  return action;
+}
+
+QMenu* MainWindow::NewMenu(QMenu* parent, HostText text) {
+  QMenu* menu = parent ? parent->addMenu(QString()) : menuBar()->addMenu(QString());
+  Captioned(menu->menuAction(), text);
+  return menu;
+}
+
+void MainWindow::MakeFileMenu() {
+  const auto icon = [this](const char* name, QStyle::StandardPixmap otherwise) {
+    return QIcon::fromTheme(QString::fromLatin1(name), style()->standardIcon(otherwise));
+  };
+  QMenu* menu = NewMenu(nullptr, HostText::FileMenu);
+  m_open = Captioned(menu->addAction(icon("document-open", QStyle::SP_DialogOpenButton), QString(),
+                                     this, &MainWindow::OnOpen),
+                     HostText::OpenInstallation);
+  m_open->setShortcut(Qt::CTRL | Qt::Key_O);
+  m_save = Captioned(menu->addAction(icon("document-save", QStyle::SP_DialogSaveButton), QString(),
+                                     this, &MainWindow::OnSave),
+                     HostText::Save);
+  m_save->setShortcut(Qt::CTRL | Qt::Key_S);
+  m_save->setObjectName(QStringLiteral("save"));
+  menu->addSeparator();
+  QAction* quit =
+      Captioned(menu->addAction(icon("application-exit", QStyle::SP_DialogCloseButton), QString()),
+                HostText::Quit);
+  quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+  connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void MainWindow::MakeSettingsMenu() {
+  QMenu* menu = NewMenu(nullptr, HostText::SettingsMenu);
+  MakeLanguageMenu(menu);
+  m_embedded = Captioned(menu->addAction(QString()), HostText::EmbeddedInstallation);
+  m_embedded->setObjectName(QStringLiteral("embedded"));
+  m_embedded->setCheckable(true);
+  connect(m_embedded, &QAction::triggered, this, &MainWindow::OnEmbedded);
+}
+
+void MainWindow::MakeLanguageMenu(QMenu* settings) {
+  QMenu* menu = NewMenu(settings, HostText::LanguageMenu);
+  for (const LanguageName& known : languageNames) {
+    // A language is called by its own name in every language.
+    QAction* action = m_languageChoice->addAction(menu->addAction(QString::fromUtf8(known.name)));
+    action->setObjectName(QStringLiteral("language-") + QString::fromLatin1(known.code));
+    action->setCheckable(true);
+    connect(action, &QAction::triggered, this,
+            [this, language = known.language] { OnLanguage(language); });
+    m_languages[known.language] = action;
+  }
+}
+
+void MainWindow::MakeHelpMenu() {
+  QMenu* menu = NewMenu(nullptr, HostText::HelpMenu);
+  Captioned(menu->addAction(QString(), this, &MainWindow::OnAbout), HostText::About)
+      ->setObjectName(QStringLiteral("about"));
+}
+
+void MainWindow::MakeToolbar() {
+  m_toolbar = addToolBar(QString());
+  m_toolbar->setMovable(false);
+  m_toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+  m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  m_toolbar->addAction(m_open);
+  m_toolbar->addAction(m_save);
+}
+
+void MainWindow::MakeCentre() {
+  const QIcon icon(m_workspace.ImageFile("DISCRIMINATORVARIABLES-16.png"));
+  m_tree = new DeviceTreeView(icon);
+  m_discriminators = new QPushButton(icon, QString());
+  m_discriminators->setObjectName(QStringLiteral("discriminators"));
+  connect(m_discriminators, &QPushButton::clicked, this, &MainWindow::OnDiscriminators);
+  setCentralWidget(new QWidget);
+  auto* column = new QVBoxLayout(centralWidget());
+  column->addWidget(m_tree, 1);
+  column->addWidget(m_discriminators, 0, Qt::AlignLeft);
+}
+
+void MainWindow::OnOpen() {
+  const QString directory = QFileDialog::getExistingDirectory(
+      this, m_workspace.Words(HostText::OpenInstallation).remove(QLatin1Char('&')),
+      m_workspace.Directory());
+  if (!directory.isEmpty()) {
+    Open(directory);
+  }
+}
+
+void MainWindow::OnSave() {
+  if (const auto problem = m_workspace.Save()) {
+    Report(*problem);
+  } else {
+    m_statusLine->Tell(HostText::ConfigurationSaved);
+  }
+  ShowState();
+}
+
+void MainWindow::OnLanguage(Language language) {
+  if (const auto problem = m_workspace.SetLanguage(language)) {
+    Report(*problem);
+  }
+  ShowTexts();
+}
+
+void MainWindow::OnEmbedded(bool embedded) {
+  m_workspace.Config().SetEmbedded(embedded);
+  ShowState();
+}
+
+void MainWindow::OnDiscriminators() {
+  m_statusLine->Tell(HostText::Ready);
+  const ManagerEnd end = RunDiscriminatorManager(m_workspace, this);
+  // Files and tree may have changed in every case: the result speaks of the configuration alone.
+  ShowTree();
+  ShowState();
+  if (end.problem) {
+    Report(*end.problem);
+  }
+}
+
+void MainWindow::OnAbout() {
+  QMessageBox::about(
+      this, m_workspace.Words(HostText::ProgramName),
+      m_workspace.Words(HostText::AboutProgram).arg(QStringLiteral(CONFIGURATOR_VERSION)));
+}
+
+void MainWindow::ShowTexts() {
+  for (const auto& [action, text] : m_captions) {
+    action->setText(m_workspace.Words(text));
+  }
+  m_toolbar->setWindowTitle(m_workspace.Words(HostText::Toolbar));
+  m_discriminators->setText(m_workspace.Words(HostText::Discriminators));
+  m_languages.at(m_workspace.CurrentLanguage())->setChecked(true);
+  m_statusLine->SetLanguage(m_workspace.CurrentLanguage());
+  ShowTree();
+  ShowState();
+}
+
+void MainWindow::ShowInstallation() {
+  m_statusLine->SetPath(QDir::toNativeSeparators(m_workspace.Directory()));
+  m_statusLine->Tell(m_workspace.IsNew() ? HostText::ConfigurationIsNew : HostText::Ready);
+}
+
+void MainWindow::ShowTree() {
+  const Configuration& configuration = m_workspace.Config();
+  m_tree->Show(ReadDeviceTree(configuration.DeviceGroups(), configuration.CommSystem(),
+                              m_workspace.Services().Setup().CfgPath().ToView()),
+               m_workspace.CurrentLanguage());
+}
+
+void MainWindow::ShowState() {
+  const QString directory = m_workspace.Directory();
+  const QString name = QDir(directory).dirName();
+  setWindowTitle(QStringLiteral("%1[*] – %2")
+                     .arg(WithoutMark(name.isEmpty() ? directory : name),
+                          m_workspace.Words(HostText::ProgramName)));
+  setWindowModified(m_workspace.Config().IsChanged());
+  m_embedded->setChecked(m_workspace.Config().IsEmbedded());
+}
+
+void MainWindow::Report(const QString& problem) {
+  QMessageBox box(QMessageBox::Critical, m_workspace.Words(HostText::ProgramName), problem,
+                  QMessageBox::Ok, this);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+}  // namespace configurator

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QMainWindow>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "apps/configurator/Workspace.h"
+
+class QAction;
+class QActionGroup;
+class QMenu;
+class QPushButton;
+class QToolBar;
+
+namespace configurator {
+
+class DeviceTreeView;
+class StatusLine;
+
+/// Shows the device groups of the open installation, and from it the user opens and saves
+/// installations, switches the language and runs the manager of the discriminators.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// `workspace` has an installation open, and outlives the window.
+  explicit MainWindow(Workspace& workspace);
+  ~MainWindow() override;
+
+  /// Opens the installation in `directory`; if it is refused, tells why and stays with the present
+  /// one.
+  void Open(const QString& directory);
+
+ private:
+  void MakeFileMenu();
+  void MakeSettingsMenu();
+  void MakeLanguageMenu(QMenu* settings);
+  void MakeHelpMenu();
+  void MakeToolbar();
+  void MakeCentre();
+  QAction* Captioned(QAction* action, HostText text);
+  QMenu* NewMenu(QMenu* parent, HostText text);
+
+  void OnOpen();
+  void OnSave();
+  void OnLanguage(Language language);
+  void OnEmbedded(bool embedded);
+  void OnDiscriminators();
+  void OnAbout();
+
+  void ShowTexts();
+  void ShowInstallation();
+  void ShowTree();
+  void ShowState();
+  void Report(const QString& problem);
+
+  Workspace& m_workspace;
+  std::vector<std::pair<QAction*, HostText>> m_captions;
+  QActionGroup* m_languageChoice;
+  std::map<Language, QAction*> m_languages;
+  QAction* m_open = nullptr;
+  QAction* m_save = nullptr;
+  QAction* m_embedded = nullptr;
+  QToolBar* m_toolbar = nullptr;
+  DeviceTreeView* m_tree = nullptr;
+  QPushButton* m_discriminators = nullptr;
+  StatusLine* m_statusLine = nullptr;
+};
+
+}  // namespace configurator

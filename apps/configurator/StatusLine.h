@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QStatusBar>
+#include <utility>
+#include <vector>
+
+#include "apps/configurator/HostTexts.h"
+
+class QLabel;
+
+namespace configurator {
+
+/// The status bar: what happened last on the left, the path of the open installation on the right.
+///
+/// The notices of changes add up until something else is told, in the order in which each first
+/// came, with how often it came.
+class StatusLine : public QStatusBar {
+  Q_OBJECT
+
+ public:
+  explicit StatusLine(QWidget* parent = nullptr);
+
+  void SetPath(const QString& path);
+
+  /// Tells `text` and forgets the notices.
+  void Tell(HostText text);
+  /// Tells of a notice, together with those before it.
+  void AddNotice(int id);
+  /// The same from now on in `language`.
+  void SetLanguage(Language language);
+
+  /// What stands on the left.
+  QString Told() const;
+
+ private:
+  void Refresh();
+  QString Notice(int id) const;
+
+  QLabel* m_told;
+  QLabel* m_path;
+  Language m_language = Language::English;
+  HostText m_text = HostText::Ready;
+  std::vector<std::pair<int, int>> m_notices;  // id and how often
+};
+
+}  // namespace configurator

@@ -1,0 +1,98 @@
+#include "apps/configurator/Workspace.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+
+#include "apps/configurator/Strings.h"
+
+namespace configurator {
+namespace {
+
+QString WithSeparator(const QString& directory) {
+  const QLatin1Char separator('/');
+  return directory.endsWith(separator) ? directory : directory + separator;
+}
+
+std::optional<HostText> RefusalOf(Configuration::Loaded loaded) {
+  switch (loaded) {
+    case Configuration::Loaded::Unreadable:
+      return HostText::ConfigurationUnreadable;
+    case Configuration::Loaded::Foreign:
+      return HostText::ConfigurationForeign;
+    case Configuration::Loaded::FromFile:
+    case Configuration::Loaded::New:
+      break;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+ProgramDirectories ProgramDirectories::OfThisProgram() {
+  const QDir program(QCoreApplication::applicationDirPath());
+  return {QDir::cleanPath(program.filePath(QStringLiteral("../images"))),
+          QDir::cleanPath(program.filePath(QStringLiteral("../languages")))};
+}
+
+Workspace::Workspace(ProgramDirectories directories)
+    : m_directories(std::move(directories)),
+      m_services(m_directories.images.toStdWString()),
+      m_configuration(m_services.MainCfg()) {}
+
+Workspace::~Workspace() { QCoreApplication::removeTranslator(&m_translator); }
+
+Workspace::Problem Workspace::SetLanguage(Language language) {
+  const QString file = LanguageFile(language);
+  if (!m_services.SetLanguageFile(file.toStdWString())) {
+    return Words(HostText::LanguageFileMissing).arg(file);
+  }
+  m_language = language;
+  TranslateQt(language);
+  return std::nullopt;
+}
+
+Workspace::Problem Workspace::Open(const QString& directory) {
+  const QDir found(directory);
+  if (directory.isEmpty() || !found.exists()) {
+    return Words(HostText::DirectoryMissing).arg(directory);
+  }
+  const QString path = QDir::cleanPath(found.absolutePath());
+  const auto loaded = m_configuration.Load(WithSeparator(path).toStdWString());
+  if (const auto refusal = RefusalOf(loaded)) {
+    return Words(*refusal).arg(QDir(path).filePath(QStringLiteral("configuration.xml")));
+  }
+  m_directory = path;
+  m_isNew = loaded == Configuration::Loaded::New;
+  m_services.SetDirectory(path.toStdWString());
+  return std::nullopt;
+}
+
+Workspace::Problem Workspace::Save() {
+  if (!m_configuration.Save()) {
+    return Words(HostText::ConfigurationNotSaved).arg(ToQString(m_configuration.Path()));
+  }
+  m_isNew = false;
+  return std::nullopt;
+}
+
+QString Workspace::ImageFile(const char* name) const {
+  return QDir(m_directories.images).filePath(QString::fromLatin1(name));
+}
+
+QString Workspace::LanguageFile(Language language) const {
+  return QDir(m_directories.languages)
+      .filePath(QString::fromLatin1(NameOf(language).code) + QStringLiteral(".txt"));
+}
+
+void Workspace::TranslateQt(Language language) {
+  // Qt's own buttons are English without a translation.
+  QCoreApplication::removeTranslator(&m_translator);
+  const QString code = QString::fromLatin1(NameOf(language).code);
+  if (m_translator.load(QStringLiteral("qtbase_") + code,
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&m_translator);
+  }
+}
+
+}  // namespace configurator

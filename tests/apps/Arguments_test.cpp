@@ -1,0 +1,202 @@
+#include "apps/configurator/Arguments.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "tests/support/TemporaryDirectory.h"
+
+namespace configurator {
+namespace {
+
+using testing::HasSubstr;
+
+std::variant<Arguments, EarlyEnd> Read(const std::vector<std::string>& words) {
+  std::vector<const char*> arguments = {"configurator"};
+  for (const std::string& word : words) {
+    arguments.push_back(word.c_str());
+  }
+  return ReadArguments(static_cast<int>(arguments.size()), arguments.data());
+}
+
+Arguments Good(const std::vector<std::string>& words) {
+  const auto read = Read(words);
+  const auto* end = std::get_if<EarlyEnd>(&read);
+  EXPECT_FALSE(end) << end->error;
+  return end ? Arguments() : std::get<Arguments>(read);
+}
+
+EarlyEnd Ended(const std::vector<std::string>& words) {
+  const auto read = Read(words);
+  const auto* end = std::get_if<EarlyEnd>(&read);
+  EXPECT_TRUE(end) << "the call was taken";
+  return end ? *end : EarlyEnd();
+}
+
+TEST(Arguments, AnInstallationAloneShowsTheMainWindowAsTheSystemDoes) {
+  const Arguments read = Good({"--installation", "."});
+  EXPECT_EQ(read.installation, ".");
+  EXPECT_EQ(read.show, ShownWindow::Main);
+  EXPECT_EQ(read.language, std::nullopt);
+  EXPECT_EQ(read.theme, std::nullopt);
+  EXPECT_EQ(read.size, std::nullopt);
+  EXPECT_EQ(read.picture, std::nullopt);
+  EXPECT_FALSE(read.list);
+  EXPECT_FALSE(read.EndsByItself());
+}
+
+TEST(Arguments, EachOptionIsTakenOver) {
+  const Arguments read =
+      Good({"--installation", ".", "--language", "es", "--show", "discriminators", "--picture",
+            "a.png", "--theme", "dark", "--size", "640x480", "--list"});
+  EXPECT_EQ(read.language, Language::Spanish);
+  EXPECT_EQ(read.show, ShownWindow::Discriminators);
+  EXPECT_EQ(read.picture, "a.png");
+  EXPECT_EQ(read.theme, Theme::Dark);
+  EXPECT_EQ(read.size, (WindowSize{640, 480}));
+  EXPECT_TRUE(read.list);
+  EXPECT_TRUE(read.EndsByItself());
+}
+
+TEST(Arguments, TheOtherChoicesAreTakenOver) {
+  const Arguments read =
+      Good({"--installation", ".", "--language", "en", "--show", "main", "--theme", "light"});
+  EXPECT_EQ(read.language, Language::English);
+  EXPECT_EQ(read.show, ShownWindow::Main);
+  EXPECT_EQ(read.theme, Theme::Light);
+}
+
+TEST(Arguments, EveryWindowOfTheTableCanBeShown) {
+  for (const WindowName& known : windowNames) {
+    EXPECT_EQ(Good({"--installation", ".", "--show", known.name}).show, known.window) << known.name;
+  }
+}
+
+TEST(Arguments, APictureOrAListAloneEndsByItself) {
+  EXPECT_TRUE(Good({"--installation", ".", "--picture", "a.png"}).EndsByItself());
+  EXPECT_TRUE(Good({"--installation", ".", "--show", "discriminators", "--list"}).EndsByItself());
+}
+
+TEST(Arguments, HelpNamesEveryOptionWindowAndLanguage) {
+  const EarlyEnd end = Ended({"--help"});
+  EXPECT_EQ(end.status, 0);
+  EXPECT_EQ(end.error, "");
+  for (const char* word : {"--installation", "--language", "es|en", "--show", "main",
+                           "discriminators", "--picture", "--theme", "light|dark", "--size", "WxH",
+                           "--list", "--help", "--version", "Examples:", "Exit status:"}) {
+    EXPECT_THAT(end.output, HasSubstr(word));
+  }
+}
+
+TEST(Arguments, TheLinesOfTheHelpFitATerminal) {
+  std::istringstream help(Ended({"--help"}).output);
+  int lines = 0;
+  for (std::string line; std::getline(help, line); ++lines) {
+    EXPECT_LE(line.size(), 100U) << line;
+  }
+  EXPECT_GT(lines, 10);
+}
+
+TEST(Arguments, TheVersionIsThatOfTheProject) {
+  const EarlyEnd end = Ended({"--version"});
+  EXPECT_EQ(end.status, 0);
+  EXPECT_EQ(end.output, "configurator " CONFIGURATOR_VERSION "\n");
+  EXPECT_EQ(end.error, "");
+}
+
+struct BadCall {
+  const char* name;
+  std::vector<std::string> words;
+  const char* reason;
+};
+
+void PrintTo(const BadCall& call, std::ostream* out) { *out << call.name; }
+
+class BadCalls : public testing::TestWithParam<BadCall> {};
+
+TEST_P(BadCalls, GiveTheReasonAndStatus2) {
+  const EarlyEnd end = Ended(GetParam().words);
+  EXPECT_EQ(end.status, 2);
+  EXPECT_EQ(end.output, "");
+  EXPECT_THAT(end.error, HasSubstr(GetParam().reason));
+  EXPECT_THAT(end.error, testing::StartsWith("configurator: "));
+  EXPECT_THAT(end.error, HasSubstr("--help"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Arguments, BadCalls,
+    testing::Values(
+        BadCall{"NoInstallation", {}, "--installation is required"},
+        BadCall{"MissingDirectory", {"--installation", "nowhere"}, "does not exist: nowhere"},
+        BadCall{"EmptyDirectory", {"--installation", ""}, "does not exist"},
+        BadCall{"DirectoryWithoutValue", {"--installation"}, "--installation: 1 required DIR"},
+        BadCall{"UnknownLanguage",
+                {"--installation", ".", "--language", "fr"},
+                "fr is none of: es, en"},
+        BadCall{"UnknownWindow",
+                {"--installation", ".", "--show", "dial"},
+                "dial is none of: main, discriminators"},
+        BadCall{"UnknownTheme",
+                {"--installation", ".", "--theme", "blue"},
+                "blue is none of: light, dark"},
+        BadCall{"EmptyPicture", {"--installation", ".", "--picture", ""}, "is empty"},
+        BadCall{"ListWithoutWindow", {"--installation", ".", "--list"}, "--list requires --show"},
+        BadCall{"ListOfTheMainWindow",
+                {"--installation", ".", "--show", "main", "--list"},
+                "main lists no rows"},
+        BadCall{"UnknownOption", {"--installation", ".", "--colour"}, "not expected: --colour"},
+        BadCall{"StrayWord", {"--installation", ".", "stray"}, "not expected: stray"}),
+    [](const auto& call) { return std::string(call.param.name); });
+
+TEST(Arguments, AFileIsNoInstallation) {
+  const qv::TemporaryDirectory directory;
+  const auto file = directory.Path() / "file";
+  std::ofstream(file) << "x";
+  const EarlyEnd end = Ended({"--installation", file.string()});
+  EXPECT_EQ(end.status, 2);
+  EXPECT_THAT(end.error, HasSubstr("is actually a file"));
+}
+
+TEST(Arguments, ADirectoryWhoseNameIsNotUtf8IsRefused) {
+  const qv::TemporaryDirectory directory;
+  const auto odd = directory.Path() / "caf\xE9";
+  if (!std::filesystem::create_directory(odd)) {
+    GTEST_SKIP() << "the file system doesn't take such names";
+  }
+  const EarlyEnd end = Ended({"--installation", odd.string()});
+  EXPECT_EQ(end.status, 2);
+  EXPECT_THAT(end.error, HasSubstr("not UTF-8"));
+}
+
+TEST(Arguments, OnlyTwoNumbersInRangeAreASize) {
+  for (const char* size : {"", "x", "3", "3x", "x3", "0x3", "3x0", "-3x3", "3x-3", "3x3x3", "3X3",
+                           " 3x3", "3x3 ", "16385x3", "3x16385", "99999999999x3"}) {
+    const EarlyEnd end = Ended({"--installation", ".", "--size", size});
+    EXPECT_EQ(end.status, 2) << size;
+    EXPECT_THAT(end.error, HasSubstr("--size: ")) << size;
+  }
+  EXPECT_EQ(Good({"--installation", ".", "--size", "1x16384"}).size, (WindowSize{1, 16384}));
+}
+
+TEST(Language, IsFoundByTheCodeThatOpensALocale) {
+  EXPECT_EQ(LanguageOf("es"), Language::Spanish);
+  EXPECT_EQ(LanguageOf("es_ES.UTF-8"), Language::Spanish);
+  EXPECT_EQ(LanguageOf("es-419"), Language::Spanish);
+  EXPECT_EQ(LanguageOf("en_GB@euro"), Language::English);
+  EXPECT_EQ(LanguageOf("est"), std::nullopt);
+  EXPECT_EQ(LanguageOf("C"), std::nullopt);
+  EXPECT_EQ(LanguageOf(""), std::nullopt);
+}
+
+TEST(Language, StandsInTheTableAtItsOwnPlace) {
+  for (const LanguageName& known : languageNames) {
+    EXPECT_EQ(NameOf(known.language).language, known.language) << known.code;
+  }
+}
+
+}  // namespace
+}  // namespace configurator

@@ -1,0 +1,48 @@
+#include "apps/configurator/HostTexts.h"
+
+#include <gtest/gtest.h>
+
+#include <QSet>
+
+namespace configurator {
+namespace {
+
+constexpr int count = static_cast<int>(HostText::Count);
+
+/// Texts beside each other are selected by one key each.
+void ExpectOwnKeys(std::initializer_list<HostText> texts, Language language) {
+  QSet<QChar> keys;
+  for (const HostText text : texts) {
+    const QString words = Words(text, language);
+    const qsizetype mark = words.indexOf(QLatin1Char('&'));
+    EXPECT_GE(mark, 0) << words.toStdString();
+    keys.insert(words.at(mark + 1).toLower());
+  }
+  EXPECT_EQ(keys.size(), static_cast<qsizetype>(texts.size())) << NameOf(language).code;
+}
+
+TEST(HostTexts, EachTextExistsInEachLanguageWithTheSamePlaceholders) {
+  ASSERT_GT(count, 20);
+  for (int i = 0; i < count; ++i) {
+    const auto text = static_cast<HostText>(i);
+    const QString spanish = Words(text, Language::Spanish);
+    const QString english = Words(text, Language::English);
+    EXPECT_FALSE(spanish.isEmpty()) << i;
+    EXPECT_NE(spanish, english) << i;
+    EXPECT_EQ(spanish.count(QStringLiteral("%1")), english.count(QStringLiteral("%1"))) << i;
+    EXPECT_EQ(spanish.contains(QLatin1Char('&')), english.contains(QLatin1Char('&'))) << i;
+  }
+}
+
+TEST(HostTexts, NoTwoCaptionsBesideEachOtherShareTheirKey) {
+  for (const LanguageName& known : languageNames) {
+    ExpectOwnKeys(
+        {HostText::FileMenu, HostText::SettingsMenu, HostText::HelpMenu, HostText::Discriminators},
+        known.language);
+    ExpectOwnKeys({HostText::OpenInstallation, HostText::Save, HostText::Quit}, known.language);
+    ExpectOwnKeys({HostText::LanguageMenu, HostText::EmbeddedInstallation}, known.language);
+  }
+}
+
+}  // namespace
+}  // namespace configurator
