@@ -9,8 +9,8 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
 
 # The cache is told to see paths relative to the project, so that a fresh clone and every preset profit
@@ -31,12 +31,13 @@ add_library(qv_options INTERFACE)
 target_include_directories(qv_options INTERFACE "${PROJECT_SOURCE_DIR}"
                                                 "${PROJECT_BINARY_DIR}/generated")
 if(MSVC)
-  target_compile_options(qv_options INTERFACE /W4 /WX /utf-8 /permissive-)
+  target_compile_options(qv_options INTERFACE /W4 /utf-8 /permissive-)
 else()
   target_compile_options(
     qv_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
-                         -Wold-style-cast -Woverloaded-virtual -Werror)
+                         -Wold-style-cast -Woverloaded-virtual)
 endif()
+set(CMAKE_COMPILE_WARNING_AS_ERROR ${PROJECT_IS_TOP_LEVEL})
 
 if(QV_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
