@@ -41,21 +41,22 @@ std::wstring WideName(const fs::path& name) {
 #endif
 }
 
+bool IsWriteProtected(const fs::file_status& status) {
+  constexpr auto anyWrite =
+      fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  return fs::is_regular_file(status) && (status.permissions() & anyWrite) == fs::perms::none;
+}
+
 struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using FileHandle = std::unique_ptr<std::FILE, CloseFile>;
 
-FileHandle Open(std::wstring_view path, const char* mode) {
-  const auto name = SystemPath(path);
-  std::error_code ignored;
-  if (!name || fs::is_directory(*name, ignored)) {
-    return nullptr;
-  }
+FileHandle Open(const fs::path& name, const char* mode) {
 #ifdef _WIN32
-  return FileHandle(_wfopen(name->c_str(), std::wstring(mode, mode + 2).c_str()));
+  return FileHandle(_wfopen(name.c_str(), std::wstring(mode, mode + 2).c_str()));
 #else
-  return FileHandle(std::fopen(name->c_str(), mode));
+  return FileHandle(std::fopen(name.c_str(), mode));
 #endif
 }
 
@@ -101,21 +102,21 @@ class DiskWriter : public FileWriter {
   FileHandle m_file;
 };
 
-bool IsWriteProtected(const fs::file_status& status) {
-  constexpr auto anyWrite =
-      fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-  return fs::is_regular_file(status) && (status.permissions() & anyWrite) == fs::perms::none;
-}
-
 class DiskFiles : public Files {
  public:
   std::unique_ptr<FileReader> OpenForReading(std::wstring_view path) override {
-    auto file = Open(path, "rb");
+    const auto name = SystemPath(path);
+    std::error_code ignored;
+    // Only what has an end is read: a pipe of such a name would be waited for.
+    auto file = name && fs::is_regular_file(*name, ignored) ? Open(*name, "rb") : nullptr;
     return file ? std::make_unique<DiskReader>(std::move(file)) : nullptr;
   }
 
   std::unique_ptr<FileWriter> OpenForWriting(std::wstring_view path) override {
-    auto file = Open(path, "wb");
+    const auto name = SystemPath(path);
+    std::error_code ignored;
+    // What may not be removed may not be emptied either, whoever runs the program.
+    auto file = name && !IsWriteProtected(fs::status(*name, ignored)) ? Open(*name, "wb") : nullptr;
     return file ? std::make_unique<DiskWriter>(std::move(file)) : nullptr;
   }
 

@@ -43,10 +43,11 @@ class QVTOOLS_EXPORT Files {
   /// The real disk.
   static Files& Disk();
 
-  /// The file, or null if it can't be opened for reading; a directory can't.
+  /// The file, or null if it can't be opened for reading; what is no regular file can't.
   virtual std::unique_ptr<FileReader> OpenForReading(std::wstring_view path) = 0;
 
-  /// The file, made or emptied, or null if it can't be opened for writing. Makes no directory.
+  /// The file, made or emptied, or null if it can't be opened for writing or is
+  /// write-protected, as with `Remove`. Makes no directory.
   virtual std::unique_ptr<FileWriter> OpenForWriting(std::wstring_view path) = 0;
 
   /// Unlinks a file or a link, never a directory. A file without any write permission counts as

@@ -9,6 +9,8 @@ XmlDocument::XmlDocument() = default;
 
 XmlDocument::XmlDocument(const XmlNode& source) : m_root(std::make_unique<XmlNode>(source)) {}
 
+XmlDocument::XmlDocument(std::unique_ptr<XmlNode> root) : m_root(std::move(root)) {}
+
 XmlDocument::~XmlDocument() = default;
 
 void XmlDocument::Reset() {

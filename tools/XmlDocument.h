@@ -17,6 +17,8 @@ class QVTOOLS_EXPORT XmlDocument {
   XmlDocument();
   /// A deep copy of `source` and all below it as a document of its own.
   explicit XmlDocument(const XmlNode& source);
+  /// Takes `root`, which may be null for an empty document.
+  explicit XmlDocument(std::unique_ptr<XmlNode> root);
   XmlDocument(const XmlDocument&) = delete;
   XmlDocument& operator=(const XmlDocument&) = delete;
   virtual ~XmlDocument();

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -62,7 +63,7 @@ class XmlReader::Builder {
 
   std::unique_ptr<XmlNode> Take() { return Refused() ? nullptr : std::move(m_root); }
 
-  const XmlError& Error() const { return m_error; }
+  XmlError Error() const { return m_reason ? XmlError{m_reason, m_line, m_column} : XmlError{}; }
 
  private:
   template <class Action>
@@ -72,8 +73,8 @@ class XmlReader::Builder {
     }
     try {
       action();
-    } catch (const std::exception& exception) {
-      Refuse(exception.what());
+    } catch (const std::exception&) {
+      Refuse("the document does not fit the memory");
     }
   }
 
@@ -117,6 +118,10 @@ class XmlReader::Builder {
       Refuse("elements are nested more than 512 levels deep");
       return;
     }
+    if (++m_nodes > maxXmlNodes) {
+      Refuse("there are more than 4 million elements");
+      return;
+    }
     const std::wstring tag = FromUtf8(name);
     XmlNode* node = nullptr;
     if (m_open.empty() && !m_onlyRoot.empty() && tag != m_onlyRoot) {
@@ -158,11 +163,13 @@ class XmlReader::Builder {
     return source.starts_with('&') || source.starts_with(std::string_view("\0&", 2));
   }
 
-  bool Refused() const { return !m_error.reason.empty(); }
+  bool Refused() const { return m_reason != nullptr; }
 
+  /// `reason` lives as long as the program.
   void Refuse(const char* reason) noexcept {
-    m_error = {reason, XML_GetCurrentLineNumber(m_parser.get()),
-               XML_GetCurrentColumnNumber(m_parser.get()) + 1};
+    m_reason = reason;
+    m_line = XML_GetCurrentLineNumber(m_parser.get());
+    m_column = XML_GetCurrentColumnNumber(m_parser.get()) + 1;
     XML_StopParser(m_parser.get(), XML_FALSE);
   }
 
@@ -172,7 +179,10 @@ class XmlReader::Builder {
   std::vector<OpenElement> m_open;
   std::string m_start;  ///< what is kept back until the parser can be started
   std::size_t m_size = 0;
-  XmlError m_error;
+  std::size_t m_nodes = 0;
+  const char* m_reason = nullptr;  ///< why the text was refused
+  unsigned long m_line = 0;
+  unsigned long m_column = 0;
 };
 
 XmlReader::XmlReader() : XmlReader(std::wstring_view()) {}
@@ -188,7 +198,7 @@ std::unique_ptr<XmlNode> XmlReader::Finish() {
   return m_builder->Take();
 }
 
-const XmlError& XmlReader::Error() const { return m_builder->Error(); }
+XmlError XmlReader::Error() const { return m_builder->Error(); }
 
 std::unique_ptr<XmlNode> ReadXmlFile(std::wstring_view path, Files& files, XmlError* error) {
   XmlError ignored;

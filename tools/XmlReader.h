@@ -16,6 +16,9 @@ constexpr int maxXmlDepth = 512;
 /// How many bytes the text of a document may have.
 constexpr std::size_t maxXmlSize = std::size_t{256} * 1024 * 1024;
 
+/// How many elements a document may have.
+constexpr std::size_t maxXmlNodes = 4'000'000;
+
 /// Why and where a text was refused.
 struct XmlError {
   std::string reason;        ///< in English; empty if nothing was refused
@@ -27,7 +30,8 @@ struct XmlError {
 ///
 /// Attributes, comments, processing instructions and a DOCTYPE without internal subset are read
 /// over. Refused are text that isn't well-formed, a DOCTYPE with an internal subset, references to
-/// entities that aren't predefined, and documents beyond `maxXmlDepth` or `maxXmlSize`. The text of
+/// entities that aren't predefined, and documents beyond `maxXmlDepth`,
+/// `maxXmlSize` or `maxXmlNodes`. The text of
 /// an element without children is kept verbatim; beside children, text of blanks alone is
 /// indentation and counts as none, unless a character reference stands in it.
 class QVTOOLS_EXPORT XmlReader {
@@ -46,7 +50,7 @@ class QVTOOLS_EXPORT XmlReader {
   std::unique_ptr<XmlNode> Finish();
 
   /// What was wrong, once `Feed` or `Finish` has refused the text.
-  const XmlError& Error() const;
+  XmlError Error() const;
 
  private:
   class Builder;

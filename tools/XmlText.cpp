@@ -1,6 +1,7 @@
 #include "tools/XmlText.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "tools/Utf8.h"
 #include "tools/XmlNode.h"

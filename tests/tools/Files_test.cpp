@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#ifdef __linux__
+#include <sys/stat.h>
+#endif
+
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -266,6 +270,20 @@ TEST_F(DiskFiles, ADeviceThatCannotBeSynchronisedIsNoFailure) {
   ASSERT_NE(writer, nullptr);
   EXPECT_TRUE(writer->Write("x"));
   EXPECT_TRUE(writer->Close());
+}
+
+TEST_F(DiskFiles, APipeIsNotOpenedForReading) {
+  const fs::path pipe = directory.Path() / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(files.OpenForReading(pipe.wstring()), nullptr);
+}
+
+TEST_F(DiskFiles, AWriteProtectedFileIsNotEmptied) {
+  const fs::path file = directory.Path() / "protected";
+  std::ofstream(file) << "kept";
+  fs::permissions(file, fs::perms::owner_read);
+  EXPECT_EQ(files.OpenForWriting(file.wstring()), nullptr);
+  EXPECT_EQ(fs::file_size(file), 4U);
 }
 
 TEST_F(DiskFiles, AnErrorWhileReadingIsTold) {

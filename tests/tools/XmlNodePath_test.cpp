@@ -148,6 +148,9 @@ INSTANTIATE_TEST_SUITE_P(Patterns, XmlNodePath, testing::ValuesIn(lookups));
 
 TEST(XmlNodePath, AMalformedPathNamesNothing) {
   const auto root = Tree("<m><hour><id>1</id><name/></hour></m>");
+  root->Node(L"hour")->SetValue(L"id?", L"1");
+  root->Node(L"hour")->SetValue(L"id", L"id");
+  root->Node(L"hour")->SetValue(L"", L"1");
   for (const wchar_t* path :
        {L"hour?id=1", L"hour?id?", L"hour?", L"hour??", L"hour?id?=1", L"hour? id=1?",
         L"hour?id=1 ?", L"//hour", L"hour/", L"hour/id", L"/", L"", L"?id=1?", L"hour ", L"*"}) {

@@ -134,6 +134,32 @@ std::unique_ptr<XmlNode> ReadDocumentOfSize(std::size_t size, XmlError* error) {
   return root;
 }
 
+TEST(XmlReaderLimits, RefuseMoreElementsThanTheMemoryShouldHold) {
+  XmlReader reader;
+  reader.Feed("<a>");
+  std::string piece;
+  for (int i = 0; i < 1000; ++i) {
+    piece += "<b/>";
+  }
+  std::size_t elements = 1;
+  while (reader.Feed(piece)) {
+    elements += 1000;
+    ASSERT_LE(elements, maxXmlNodes);
+  }
+  EXPECT_GT(elements + 1000, maxXmlNodes);
+  EXPECT_EQ(reader.Finish(), nullptr);
+}
+
+TEST(XmlReaderRoot, AnotherRootIsRefusedAsSoonAsItOpens) {
+  XmlReader reader(L"wanted");
+  EXPECT_TRUE(reader.Feed("<!-- first --> <wan"));
+  EXPECT_TRUE(reader.Feed("ted>"));
+  EXPECT_TRUE(reader.Feed("</wanted>"));
+  EXPECT_NE(reader.Finish(), nullptr);
+  XmlReader other(L"wanted");
+  EXPECT_FALSE(other.Feed("<other>"));
+}
+
 TEST(XmlReaderLimits, AcceptTheLargestSize) {
   XmlError error;
   EXPECT_NE(ReadDocumentOfSize(maxXmlSize, &error), nullptr) << error.reason;
