@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <string_view>
 
 #include "host/Export.h"
 #include "host/Text.h"

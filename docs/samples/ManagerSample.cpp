@@ -4,6 +4,7 @@
 #include "hostkit/DirectorySetup.h"
 #include "hostkit/GuidNotices.h"
 #include "hostkit/IndexFiles.h"
+#include "hostkit/InstalledServices.h"
 #include "hostkit/LanguageFile.h"
 #include "hostkit/ui/QtClipboard.h"
 #include "library/QVDiscriminator.h"
@@ -18,22 +19,19 @@ int main(int argc, char** argv) {
   // The services. They have to live as long as a dialog of the library does.
   qv::DirectorySetup setup(argument(1), argument(2), 1);
   qv::LanguageFile texts;
-  texts.Load(argument(3));
+  if (!texts.Load(argument(3))) {
+    return 1;
+  }
   qv::GuidNotices notices([](int part) { qInfo("part %d has changed", part); });
   qv::IndexFiles index;
   qv::QtClipboard clipboard;
   QVMainCfg configuration;
   const QVWideString file = setup.CfgPath() + L"configuration.xml";
   if (!configuration.Load(file)) {
-    configuration.Create(L"configuration");
+    return 1;  // a program would tell why, and offer to start a new one
   }
 
-  QVVornelSetup::Install(&setup);
-  QVLoadString::Install(&texts);
-  QVVornelGuids::Install(&notices);
-  CreateDiscriminatorIndex::Install(&index);
-  QVClipboard::Install(&clipboard);
-  QVMainCfg::Install(&configuration);
+  const qv::InstalledServices installed(setup, configuration, notices, texts, index, clipboard);
 
   // The dialog keeps this node in step with the files; it may be null.
   CDlgSetupDiscriminators manager(configuration.Root()->Node(L"deviceGroups"), nullptr);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "host/QVClipboard.h"
 
 namespace qv {
