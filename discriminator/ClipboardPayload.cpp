@@ -17,7 +17,9 @@ QVNarrowString ComposePayload(const std::vector<QVWideString>& paths, Files& fil
   XmlDocument document;
   for (const QVWideString& path : paths) {
     QVNarrowString code;
-    if (document.Load(path, files) && document.CreateXmlCode(code, false)) {
+    // What would make the payload too large to be read again is passed over as well.
+    if (document.Load(path, files) && document.CreateXmlCode(code, false) &&
+        payload.Length() + code.Length() < maxXmlSize) {
       payload += "<discriminator>";
       payload += code;
       payload += "</discriminator>";
@@ -29,9 +31,9 @@ QVNarrowString ComposePayload(const std::vector<QVWideString>& paths, Files& fil
 
 std::unique_ptr<XmlDocument> ParsePayload(const char* text) {
   XmlReader reader(payloadTag);
-  reader.Feed(std::string_view(text));
-  const auto root = reader.Finish();
-  return root ? std::make_unique<XmlDocument>(*root) : nullptr;
+  reader.Feed(std::string_view(text ? text : ""));
+  auto root = reader.Finish();
+  return root ? std::make_unique<XmlDocument>(std::move(root)) : nullptr;
 }
 
 std::vector<const XmlNode*> ItemsOfPayload(const XmlDocument& payload) {

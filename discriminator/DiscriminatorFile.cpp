@@ -18,6 +18,11 @@ bool LoadDiscriminator(XmlDocument& document, const QVWideString& directory,
          StemOfFields(*document.Root()) + discriminatorExtension == fileName;
 }
 
+std::optional<QVWideString> PathOfDocument(const XmlNode& root, const QVWideString& directory) {
+  const auto stem = StemOfFields(root);
+  return IsFileStem(stem) ? std::optional(DiscriminatorPath(directory, stem)) : std::nullopt;
+}
+
 std::optional<DiscriminatorSummary> GetDiscriminatorIdNameDescription(const QVWideString& directory,
                                                                       std::wstring_view fileName,
                                                                       ShowConditions showConditions,

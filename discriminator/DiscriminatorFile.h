@@ -15,6 +15,10 @@ namespace qv {
 bool LoadDiscriminator(XmlDocument& document, const QVWideString& directory,
                        std::wstring_view fileName, Files& files);
 
+/// The path of the file in `directory` that the document with this root is saved under, by its own
+/// `id` and `name`; nothing if these would lead to another place.
+std::optional<QVWideString> PathOfDocument(const XmlNode& root, const QVWideString& directory);
+
 /// What the list shows of a discriminator file.
 struct DiscriminatorSummary {
   QVWideString fileStem;  ///< `<id>.<name>`

@@ -171,13 +171,11 @@ void DiscriminatorList::PasteItem(const XmlNode& item) {
   root.SetValue(tag::Id, NewGuidText());
   root.SetValue(tag::Revision, NewGuidText());
   root.SetValue(tag::Name, FreeName(name));
-  const auto stem = FileStem(root.Value(tag::Id, L""), root.Value(tag::Name, L""));
   // A name that would lead to another place is as good as one that can't be written.
-  if (IsFileStem(stem)) {
-    const auto path = DiscriminatorPath(m_host.setup.CfgPath(), stem);
-    document.SaveAs(path, m_files);
+  if (const auto path = PathOfDocument(root, m_host.setup.CfgPath())) {
+    document.SaveAs(*path, m_files);
     if (const XmlNode* hourTypes = root.Node(tag::HourTypes)) {
-      MakeIndexDocument(*hourTypes)->SaveAs(IndexPath(path), m_files);
+      MakeIndexDocument(*hourTypes)->SaveAs(IndexPath(*path), m_files);
     }
   }
   AddDiscriminatorToDeviceGroupsNode(m_deviceGroups, root);

@@ -1,5 +1,7 @@
 #include "discriminator/FileNames.h"
 
+#include "tools/Utf8.h"
+
 namespace qv {
 namespace {
 
@@ -51,6 +53,12 @@ std::optional<std::wstring_view> NameBetweenDots(std::wstring_view fileName) {
   const auto name = NameOfStem(fileName);
   const std::size_t end = name ? name->find(L'.') : std::wstring_view::npos;
   return end == std::wstring_view::npos ? std::nullopt : std::optional(name->substr(0, end));
+}
+
+bool FitsFileName(const QVWideString& fileStem) {
+  constexpr std::size_t longestFileName = 255;  // bytes
+  const auto bytes = ToUtf8(IndexPath(fileStem + discriminatorExtension).ToView());
+  return bytes && bytes->size() <= longestFileName;
 }
 
 bool IsFileStem(const QVWideString& fileStem) {

@@ -34,6 +34,9 @@ std::optional<std::wstring_view> NameOfStem(std::wstring_view fileStem);
 /// compared with; nothing if there are fewer than two dots.
 std::optional<std::wstring_view> NameBetweenDots(std::wstring_view fileName);
 
+/// Whether the names of both files of `fileStem` are short enough for the file system.
+bool FitsFileName(const QVWideString& fileStem);
+
 /// Whether `fileStem` can name a file of the directory: what could lead to another place is
 /// refused.
 bool IsFileStem(const QVWideString& fileStem);

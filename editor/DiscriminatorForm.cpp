@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "discriminator/DeviceLinks.h"
+#include "discriminator/DiscriminatorFile.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
 #include "discriminator/ValueForms.h"
@@ -25,9 +26,9 @@ DiscriminatorForm::DiscriminatorForm(const Surroundings& surroundings, const QVW
   const NormalisedDocument found = Normalise(root);
   m_newId = found.newId;
   m_type = found.type;
+  m_typeSelectable = !IsEmbedded(m_surroundings.host.mainCfg);
   if (!IsNew()) {
     m_initialName = root.Value(tag::Name, L"");
-    m_initialName.MakeUpper();
   }
 }
 
@@ -39,10 +40,6 @@ DiscriminatorFields DiscriminatorForm::InitialFields() const {
     fields.description = Root().Value(tag::Description, L"");
   }
   return fields;
-}
-
-bool DiscriminatorForm::IsTypeSelectable() const {
-  return !IsEmbedded(m_surroundings.host.mainCfg);
 }
 
 bool DiscriminatorForm::HasSlots() const { return m_type == word::Slots; }
@@ -85,7 +82,8 @@ bool DiscriminatorForm::IsAccepted(const DiscriminatorFields& typed) {
   Prompter& prompter = m_surroundings.prompter;
   if (typed.name.Empty()) {
     prompter.Show(Text::DiscriminatorNameMissing);
-  } else if (!IsValidId(typed.name, true)) {
+  } else if (!IsValidId(typed.name, true) ||
+             !FitsFileName(FileStem(Root().Value(tag::Id, L""), typed.name))) {
     prompter.Show(Text::NameNotAllowed);
   } else if (NameExists(typed.name)) {
     prompter.Show(Text::DiscriminatorNameTaken);
@@ -98,16 +96,14 @@ bool DiscriminatorForm::IsAccepted(const DiscriminatorFields& typed) {
 }
 
 bool DiscriminatorForm::NameExists(const QVWideString& name) const {
-  QVWideString candidate(name);
-  candidate.MakeUpper();
-  if (candidate == m_initialName) {
+  if (EqualUppered(name.ToView(), m_initialName.ToView())) {
     return false;
   }
   const auto pattern = m_surroundings.host.setup.CfgPath() + discriminatorPattern;
   const auto files = m_surroundings.files.Walk(pattern.ToView());
   return std::any_of(files.begin(), files.end(), [&](const std::wstring& file) {
     const auto taken = NameBetweenDots(file);
-    return taken && EqualUppered(*taken, candidate.ToView());
+    return taken && EqualUppered(*taken, name.ToView());
   });
 }
 
@@ -125,11 +121,8 @@ void DiscriminatorForm::RemoveOldFiles() {
 }
 
 bool DiscriminatorForm::WriteFile() {
-  const XmlNode& root = Root();
-  const auto stem = FileStem(root.Value(tag::Id, L""), root.Value(tag::Name, L""));
-  return IsFileStem(stem) &&
-         m_document.SaveAs(DiscriminatorPath(m_surroundings.host.setup.CfgPath(), stem),
-                           m_surroundings.files);
+  const auto path = PathOfDocument(Root(), m_surroundings.host.setup.CfgPath());
+  return path && m_document.SaveAs(*path, m_surroundings.files);
 }
 
 }  // namespace qv

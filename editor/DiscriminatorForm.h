@@ -48,8 +48,8 @@ class DiscriminatorForm {
   /// What the controls show at the start: blank texts for a new discriminator.
   DiscriminatorFields InitialFields() const;
 
-  /// Whether the type may be chosen: not on embedded installations. Looked up at each call.
-  bool IsTypeSelectable() const;
+  /// Whether the type may be chosen: not if the installation was an embedded one at the start.
+  bool IsTypeSelectable() const { return m_typeSelectable; }
 
   /// Whether the type in force is time slots; any other word counts as conditions.
   bool HasSlots() const;
@@ -80,8 +80,9 @@ class DiscriminatorForm {
   Surroundings m_surroundings;
   XmlDocument m_document;
   QVWideString m_filePath;
-  QVWideString m_initialName;  ///< upper-cased; the name that may be kept although a file has it
+  QVWideString m_initialName;  ///< the name that may be kept although a file has it
   QVWideString m_type;
+  bool m_typeSelectable = true;
   bool m_newId = false;
   bool m_modified = false;
 };

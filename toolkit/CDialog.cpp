@@ -65,15 +65,16 @@ int CDialog::DoModal() {
   if (const auto refused = OnCreate()) {
     return *refused;
   }
+  // If the parent is destroyed while events come in, this dialog dies with it.
+  const QPointer<CDialog> alive(this);
   SetProgramIcon();
   OnInitDialog();
-  m_initialized = true;
-  const QPointer<CDialog> alive(this);
-  if (!m_result) {
+  if (alive && !m_result) {
+    m_initialized = true;
     exec();
   }
   if (!alive) {
-    return IDCANCEL;  // the parent was destroyed meanwhile, and this dialog with it
+    return IDCANCEL;
   }
   m_initialized = false;
   OnDestroy();

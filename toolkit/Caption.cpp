@@ -1,5 +1,7 @@
 #include "toolkit/Caption.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPixmap>
 #include <QtMath>
@@ -18,9 +20,22 @@ QString ElidedCaption(const QString& caption, const QFontMetrics& font, int widt
 
 void DescribeByCaption(QWidget* widget, const QString& caption, int width) {
   const bool elided = ElidedCaption(caption, widget->fontMetrics(), width) != caption;
-  // Escaped in a pair of tags, since a tooltip takes a text with tags of its own for rich text.
-  widget->setToolTip(elided ? QStringLiteral("<p>%1</p>").arg(caption.toHtmlEscaped()) : QString());
+  SetPlainToolTip(widget, elided ? caption : QString());
   widget->setAccessibleName(caption);
+}
+
+void SetPlainToolTip(QWidget* widget, const QString& text) {
+  widget->setToolTip(PlainToolTip(text));
+}
+
+QString PlainToolTip(const QString& text) {
+  // Escaped in a pair of tags, since a tooltip takes a text with tags of its own for rich text.
+  return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+}
+
+QString DoubledFile(const QString& file) {
+  const QFileInfo info(file);
+  return info.dir().filePath(info.completeBaseName() + QStringLiteral("@2x.") + info.suffix());
 }
 
 int CaptionWidth(const QString& caption, const QFontMetrics& font) {
@@ -34,7 +49,7 @@ QIcon PictureIcon(const QVWideString& path) {
   }
   QIcon icon(file);
   // By itself an icon looks for this form only if there is a dense screen at this moment.
-  icon.addFile(QString(file).replace(QLatin1String(".png"), QLatin1String("@2x.png")));
+  icon.addFile(DoubledFile(file));
   return icon;
 }
 

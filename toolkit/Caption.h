@@ -22,6 +22,15 @@ int CaptionWidth(const QString& caption, const QFontMetrics& font);
 /// caption is wider than `width` pixels.
 void DescribeByCaption(QWidget* widget, const QString& caption, int width);
 
+/// Gives `widget` a tooltip that shows `text` as it stands; none for an empty text.
+void SetPlainToolTip(QWidget* widget, const QString& text);
+
+/// `text` for a tooltip that shows it as it stands.
+QString PlainToolTip(const QString& text);
+
+/// The doubled form of a picture's file: "NAME@2x.png" of "NAME.png".
+QString DoubledFile(const QString& file);
+
 /// The picture at `path`, with its doubled form "<name>@2x.png" for dense screens if there is one.
 /// A file that is missing or holds no picture gives a null icon.
 QIcon PictureIcon(const QVWideString& path);

@@ -29,4 +29,7 @@ inline constexpr unsigned WMSZ_BOTTOMRIGHT = 8;
 /// Keeps the proposed `rect` of a window at no less than the given size: the edge that is dragged
 /// gives way, and where no edge of that direction is dragged the right or the bottom one. True if
 /// the rectangle was changed. A null `rect` gives false.
+///
+/// For hosts and platforms that are asked while a window is sized; the dialogs themselves leave
+/// their least size to Qt (`CDialog::KeepAsLeastSize`).
 bool CheckDialogSize(unsigned side, RECT* rect, int minimumWidth, int minimumHeight);

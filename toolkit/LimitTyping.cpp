@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QValidator>
 #include <algorithm>
+#include <limits>
 
 #include "toolkit/Strings.h"
 #include "tools/XmlText.h"
@@ -14,7 +15,7 @@ namespace {
 class InsertionLimit : public QValidator {
  public:
   InsertionLimit(QLineEdit* edit, int maxLength)
-      : QValidator(edit), m_maxLength(maxLength), m_length(edit->text().size()) {
+      : QValidator(edit), m_edit(edit), m_maxLength(maxLength), m_length(edit->text().size()) {
     connect(edit, &QLineEdit::textChanged, this,
             [this](const QString& text) { m_length = text.size(); });
   }
@@ -23,7 +24,9 @@ class InsertionLimit : public QValidator {
     if (!IsXmlText(input.toStdWString())) {
       return Invalid;
     }
-    CutInsertion(input, cursor);
+    if (!m_edit->isRedoAvailable()) {  // what Undo brings back stays as it was
+      CutInsertion(input, cursor);
+    }
     return Acceptable;
   }
 
@@ -43,6 +46,7 @@ class InsertionLimit : public QValidator {
     input.remove(cursor, excess);
   }
 
+  QLineEdit* m_edit;
   int m_maxLength;
   qsizetype m_length;  ///< of the text before the change that is validated
 };
@@ -50,6 +54,7 @@ class InsertionLimit : public QValidator {
 }  // namespace
 
 void LimitTyping(QLineEdit* edit, int maxLength) {
+  edit->setMaxLength(std::numeric_limits<int>::max());  // by itself an edit cuts at 32767
   edit->setValidator(new InsertionLimit(edit, maxLength));
 }
 
@@ -57,6 +62,7 @@ void SetLoadedText(QLineEdit* edit, const QString& text) {
   const QValidator* limit = edit->validator();
   edit->setValidator(nullptr);
   edit->setText(text);
+  edit->setCursorPosition(0);  // a long text is read from its start
   edit->setValidator(limit);
 }
 

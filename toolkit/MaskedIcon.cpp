@@ -2,6 +2,8 @@
 
 #include <QPixmap>
 
+#include "toolkit/Caption.h"
+
 namespace qv {
 
 QImage Masked(const QImage& image) {
@@ -27,8 +29,7 @@ QIcon MaskedIcon(const QString& path) {
     return icon;
   }
   icon.addPixmap(QPixmap::fromImage(plain));
-  QImage doubled =
-      Masked(QImage(QString(path).replace(QLatin1String(".png"), QLatin1String("@2x.png"))));
+  QImage doubled = Masked(QImage(DoubledFile(path)));
   if (!doubled.isNull()) {
     doubled.setDevicePixelRatio(2);
     icon.addPixmap(QPixmap::fromImage(doubled));

@@ -83,7 +83,17 @@ void QVHyperlink::changeEvent(QEvent* event) {
 
 int QVHyperlink::CaptionRoom() const { return rect().width() - 2 * margin; }
 
-void QVHyperlink::Describe() { qv::DescribeByCaption(this, m_caption, CaptionRoom()); }
+void QVHyperlink::SetHint(const QString& hint) {
+  m_hint = hint;
+  Describe();
+}
+
+void QVHyperlink::Describe() {
+  qv::DescribeByCaption(this, m_caption, CaptionRoom());
+  if (!m_hint.isEmpty()) {
+    qv::SetPlainToolTip(this, m_hint);
+  }
+}
 
 QColor QVHyperlink::CaptionColour() const {
   const QColor link = palette().color(QPalette::Link);

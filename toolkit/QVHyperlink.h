@@ -18,6 +18,9 @@ class QVHyperlink : public QAbstractButton {
   /// Shows `caption` as it stands and makes it the accessible name.
   void SetCaption(const QString& caption);
 
+  /// Shows `hint` as the tooltip, in place of an elided caption; none for an empty one.
+  void SetHint(const QString& hint);
+
   /// What is to be seen of the caption.
   QString ShownCaption() const;
 
@@ -38,4 +41,5 @@ class QVHyperlink : public QAbstractButton {
   void PaintCaption(QPainter& painter, const QRect& content) const;
 
   QString m_caption;
+  QString m_hint;
 };

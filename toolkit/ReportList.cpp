@@ -8,6 +8,8 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "toolkit/Caption.h"
+
 namespace qv {
 namespace {
 
@@ -82,8 +84,7 @@ void ReportList::ShowWholeText(const QHelpEvent& event) {
     QToolTip::hideText();
     return;
   }
-  const QString text = index.data().toString().toHtmlEscaped();
-  QToolTip::showText(event.globalPos(), QStringLiteral("<p>%1</p>").arg(text), viewport(),
+  QToolTip::showText(event.globalPos(), PlainToolTip(index.data().toString()), viewport(),
                      visualRect(index));
 }
 

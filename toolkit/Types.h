@@ -3,6 +3,11 @@
 #include <QWidget>
 #include <cstdint>
 
+#ifdef _WIN32
+#include <windows.h>
+
+using CWnd = QWidget;
+#else
 // The words in which hosts know the exported signatures.
 using CWnd = QWidget;
 using COLORREF = std::uint32_t;
@@ -13,3 +18,4 @@ using BYTE = std::uint8_t;
 inline constexpr int IDOK = 1;
 /// The dialog was left in any other way.
 inline constexpr int IDCANCEL = 2;
+#endif

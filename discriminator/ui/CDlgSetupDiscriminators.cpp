@@ -74,6 +74,8 @@ std::optional<int> CDlgSetupDiscriminators::OnCreate() {
 }
 
 void CDlgSetupDiscriminators::OnInitDialog() {
+  m_rowImage = qv::MaskedIcon(qv::ToQString(Services().setup.getImageFilePath()) +
+                              QStringLiteral("DISCRIMINATORVARIABLES-16.png"));
   m_list->ReadInstallation();
   InitializeTexts();
   CreateColumns();
@@ -120,13 +122,11 @@ bool CDlgSetupDiscriminators::InitializeDiscriminatorsList(bool firstReading) {
 }
 
 void CDlgSetupDiscriminators::ShowRows() {
-  const QIcon icon = qv::MaskedIcon(qv::ToQString(Services().setup.getImageFilePath()) +
-                                    QStringLiteral("DISCRIMINATORVARIABLES-16.png"));
   QList<QTreeWidgetItem*> items;
   for (const auto& row : m_list->Rows()) {
     auto* item =
         new QTreeWidgetItem({qv::ToQString(row.shown.name), qv::ToQString(row.shown.description)});
-    item->setIcon(0, icon);
+    item->setIcon(0, m_rowImage);
     items.append(item);
   }
   m_listDiscriminators->clear();
@@ -190,9 +190,6 @@ void CDlgSetupDiscriminators::OnModify() {
 void CDlgSetupDiscriminators::OnRemove() {
   const auto end =
       m_list->OnRemove(m_listDiscriminators->SelectedRows(), [this](int row) { RemoveRow(row); });
-  if (end.outcome == qv::RemovalOutcome::Stopped) {
-    return;
-  }
   if (end.rowToSelect) {
     SelectRow(*end.rowToSelect);
   }
@@ -201,11 +198,15 @@ void CDlgSetupDiscriminators::OnRemove() {
 }
 
 void CDlgSetupDiscriminators::RemoveRow(int row) {
+  // The buttons follow once, when all are gone.
+  const QSignalBlocker silent(m_listDiscriminators);
   delete m_listDiscriminators->takeTopLevelItem(row);
 }
 
 void CDlgSetupDiscriminators::SelectRow(int row) {
-  m_listDiscriminators->setCurrentItem(m_listDiscriminators->topLevelItem(row));
+  m_listDiscriminators->setCurrentItem(
+      m_listDiscriminators->topLevelItem(row), 0,
+      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void CDlgSetupDiscriminators::CopyToClipboard() {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QIcon>
 #include <memory>
+#include <optional>
 
 #include "toolkit/CDialog.h"
 #include "toolkit/Export.h"
@@ -29,6 +31,7 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
   CDlgSetupDiscriminators(XmlDocument::XmlNode* deviceGroups, CWnd* parent);
   ~CDlgSetupDiscriminators() override;
 
+  // The base isn't exported, so that what a host calls stands here.
   int DoModal() override;
 
  protected:
@@ -59,6 +62,7 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
 
   XmlDocument::XmlNode* m_deviceGroups;
   qv::ReportList* m_listDiscriminators;
+  QIcon m_rowImage;
   std::unique_ptr<qv::MessageBoxes> m_boxes;
   std::unique_ptr<qv::DiscriminatorList> m_list;
 };

@@ -5,6 +5,7 @@
 
 #include "toolkit/ChoiceBox.h"
 #include "toolkit/LimitTyping.h"
+#include "toolkit/QVHyperlink.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
@@ -48,7 +49,11 @@ std::optional<int> CDlgAddModifyDiscriminator::OnCreate() {
   m_form = std::make_unique<qv::DiscriminatorForm>(
       qv::DiscriminatorForm::Surroundings{Services(), qv::Files::Disk(), *m_boxes, m_deviceGroups},
       m_filePath ? &*m_filePath : nullptr);
-  return m_form->IsLoaded() ? std::nullopt : std::optional(IDCANCEL);
+  if (!m_form->IsLoaded()) {
+    OnDestroy();
+    return IDCANCEL;
+  }
+  return std::nullopt;
 }
 
 void CDlgAddModifyDiscriminator::OnInitDialog() {
@@ -74,7 +79,7 @@ void CDlgAddModifyDiscriminator::InitializeTexts() {
   SetText(0, m_form->IsNew() ? Text::AddDiscriminatorTitle : Text::ModifyDiscriminatorTitle);
   for (const int link : {calendarLink, dayTypesLink, hourTypesLink, conditionsLink}) {
     Control(link)->setEnabled(false);
-    Control(link)->setToolTip(qv::OwnText(Services().loadString, Text::LinkNotReady));
+    Find<QVHyperlink>(link)->SetHint(qv::OwnText(Services().loadString, Text::LinkNotReady));
   }
 }
 
@@ -109,29 +114,37 @@ void CDlgAddModifyDiscriminator::OnSelchangeType(int index) {
   PositioningControls();
 }
 
+void CDlgAddModifyDiscriminator::AddLinks(QVHoritzontalLayout& row) const {
+  if (m_form->HasSlots()) {
+    row.AddControl(hourTypesLink, 33);
+    row.AddControl(dayTypesLink, 34);
+    row.AddControl(calendarLink, 33);
+  } else {
+    row.AddGap(33);
+    row.AddControl(conditionsLink, 34);
+    row.AddGap(33);
+  }
+}
+
+void CDlgAddModifyDiscriminator::AddDetails(QVHoritzontalLayout& row) const {
+  const bool withType = m_form->IsTypeSelectable();
+  row.AddControlAndLabel(descriptionEdit, descriptionLabel, withType ? 50 : 100, 2,
+                         LayoutSizeLabel);
+  if (withType) {
+    row.AddGap(LayoutSizeStandard);
+    row.AddControlAndLabel(typeCombo, typeLabel, 50, 2, LayoutSizeLabel);
+  }
+}
+
 void CDlgAddModifyDiscriminator::PositioningControls() {
   QVHoritzontalLayout links(this);
-  if (m_form->HasSlots()) {
-    links.AddControl(hourTypesLink, 33);
-    links.AddControl(dayTypesLink, 34);
-    links.AddControl(calendarLink, 33);
-  } else {
-    links.AddGap(33);
-    links.AddControl(conditionsLink, 34);
-    links.AddGap(33);
-  }
+  AddLinks(links);
   QVHoritzontalLayout buttons(this);
   buttons.AddControl(IDOK, 50);
   buttons.AddGap(LayoutSizeStandard);
   buttons.AddControl(IDCANCEL, 50);
   QVHoritzontalLayout details(this);
-  if (m_form->IsTypeSelectable()) {
-    details.AddControlAndLabel(descriptionEdit, descriptionLabel, 50, 2, LayoutSizeLabel);
-    details.AddGap(LayoutSizeStandard);
-    details.AddControlAndLabel(typeCombo, typeLabel, 50, 2, LayoutSizeLabel);
-  } else {
-    details.AddControlAndLabel(descriptionEdit, descriptionLabel, 100, 2, LayoutSizeLabel);
-  }
+  AddDetails(details);
   QVVerticalLayout column(this);
   column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
   column.AddGap(LayoutSizeStandard);

@@ -7,6 +7,8 @@
 #include "toolkit/CDialog.h"
 #include "toolkit/MessageBoxes.h"
 
+class QVHoritzontalLayout;
+
 /// The editor of one discriminator: its name, description, type and flag, and the road to its
 /// parts. `IDOK` means that the file was written, `IDCANCEL` also that it could not be loaded.
 class CDlgAddModifyDiscriminator : public CDialog {
@@ -33,6 +35,8 @@ class CDlgAddModifyDiscriminator : public CDialog {
   void InitializeFields();
   void InitializeType();
   void ShowLinksOfType();
+  void AddLinks(QVHoritzontalLayout& row) const;
+  void AddDetails(QVHoritzontalLayout& row) const;
   void OnSelchangeType(int index);
   qv::DiscriminatorFields Typed() const;
 

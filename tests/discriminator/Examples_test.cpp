@@ -14,11 +14,15 @@
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/ScriptedPrompter.h"
 #include "tests/support/TemporaryDirectory.h"
+#include "tools/Utf8.h"
 
 namespace qv {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// `path` as the library takes it, whatever the locale.
+std::wstring Wide(const fs::path& path) { return FromUtf8(path.string()); }
 
 using Contents = std::map<fs::path, std::string>;
 
@@ -35,8 +39,8 @@ Contents ContentsOf(const fs::path& directory) {
 /// The rows of the list over an example, as the host with the example's configuration shows them.
 std::vector<DiscriminatorSummary> RowsOf(const fs::path& directory) {
   FakeHost host;
-  host.setup.cfgPath = (directory / "").wstring().c_str();
-  EXPECT_TRUE(host.mainCfg.Load((directory / "configuration.xml").wstring().c_str()));
+  host.setup.cfgPath = Wide(directory / "").c_str();
+  EXPECT_TRUE(host.mainCfg.Load(Wide(directory / "configuration.xml").c_str()));
   ScriptedPrompter prompter;
   DiscriminatorList list(host.Services(), Files::Disk(), prompter, nullptr);
   list.ReadInstallation();
@@ -62,7 +66,7 @@ TEST(ExampleInstallation, FilesComeBackByteForByte) {
   ASSERT_EQ(contents.size(), 8U);
   for (const auto& [name, bytes] : contents) {
     XmlDocument document;
-    ASSERT_TRUE(document.Load((directory / name).wstring().c_str())) << name;
+    ASSERT_TRUE(document.Load(Wide(directory / name).c_str())) << name;
     ScriptedFiles files;
     ASSERT_TRUE(document.SaveAs(L"/copy.xml", files)) << name;
     EXPECT_EQ(files.contents.at(L"/copy.xml"), bytes) << name;
@@ -116,7 +120,7 @@ TEST(AwkwardExample, ListShowsWhatIsDescribed) {
   EXPECT_EQ(NamesOf(rows), std::vector<std::wstring>{L"Seasons of 2026"});
   std::size_t listed = 0;
   for (const auto& [file, isListed] : DescribedFiles()) {
-    const std::wstring stem = file.stem().wstring();
+    const std::wstring stem = Wide(file.stem());
     const auto isRow = [&](const auto& row) { return row.fileStem == stem; };
     EXPECT_EQ(std::any_of(rows.begin(), rows.end(), isRow), isListed) << file;
     listed += isListed ? 1 : 0;

@@ -34,6 +34,17 @@ TEST_F(FormTest, ANameThatIsNoIdIsRefusedBeforeItIsLookedFor) {
   }
 }
 
+TEST_F(FormTest, ANameTooLongForAFileWithALongIdIsRefusedBeforeAnythingIsRemoved) {
+  const std::wstring id(200, L'i');
+  const std::wstring path = L"/cfg/" + id + L".old.xdct";
+  auto form =
+      OpenContent("<main><id>" + std::string(200, 'i') + "</id><name>old</name></main>", path);
+  prompter.ExpectShow(Text::NameNotAllowed);
+  EXPECT_FALSE(form.Save(Named(std::wstring(60, L'n').c_str())));
+  EXPECT_TRUE(files.contents.contains(path));
+  EXPECT_TRUE(form.Save(Named(std::wstring(40, L'n').c_str())));
+}
+
 TEST_F(FormTest, ATakenNameIsRefusedWhateverItsCase) {
   files.contents[L"/cfg/7.Peak.xdct"] = "";
   for (const wchar_t* name : {L"Peak", L"PEAK", L"peak"}) {

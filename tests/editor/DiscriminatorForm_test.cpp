@@ -76,10 +76,9 @@ TEST_F(FormTest, AnUnknownTypeIsConditionsAtOpeningAndNotConditionsAtPruning) {
 }
 
 TEST_F(FormTest, TheTypeCanBeChosenUnlessTheInstallationIsEmbedded) {
-  const auto form = New();
-  EXPECT_TRUE(form.IsTypeSelectable());
+  EXPECT_TRUE(New().IsTypeSelectable());
   host.AddDevice(L"KORVAXEMBEDDED");
-  EXPECT_FALSE(form.IsTypeSelectable());
+  EXPECT_FALSE(New().IsTypeSelectable());
 }
 
 TEST_F(FormTest, SwitchingToAndFroLosesNothingAndWritesNothing) {

@@ -59,6 +59,19 @@ INSTANTIATE_TEST_SUITE_P(Table, IsEmbeddedOf, testing::ValuesIn(cases),
 
 TEST(IsEmbedded, EmptyConfigurationIsNotEmbedded) { EXPECT_FALSE(IsEmbedded(XmlDocument())); }
 
+TEST(IsEmbeddedDevice, TellsTheMarkFromOtherNodes) {
+  XmlDocument mainCfg;
+  ASSERT_TRUE(mainCfg.Parse(COMM_SYSTEM(DEVICE("KORVAXEMBEDDED") "<port/>")));
+  XmlNode& commSystem = *mainCfg.Root()->Node(L"commSystem");
+  EXPECT_TRUE(IsEmbeddedDevice(*commSystem.Node(L"device")));
+  EXPECT_FALSE(IsEmbeddedDevice(*commSystem.Node(L"port")));
+  EXPECT_FALSE(IsEmbeddedDevice(commSystem));
+  commSystem.Node(L"device")->SetValue(L"driver", L"OTHER");
+  EXPECT_FALSE(IsEmbeddedDevice(*commSystem.Node(L"device")));
+  commSystem.Node(L"device")->SetValue(L"driver", embeddedDriver);
+  EXPECT_TRUE(IsEmbeddedDevice(*commSystem.Node(L"device")));
+}
+
 TEST(IsEmbedded, IsLookedUpAfreshAtEachCall) {
   XmlDocument mainCfg;
   ASSERT_TRUE(mainCfg.Parse(COMM_SYSTEM(DEVICE("A"))));

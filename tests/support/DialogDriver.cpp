@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QMessageBox>
-#include <QPalette>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -97,12 +96,6 @@ void Settle() {
   for (int i = 0; i < 3; ++i) {
     QApplication::processEvents();
   }
-}
-
-QPalette DarkPalette() {
-  QPalette palette(QColor(53, 53, 53));
-  palette.setColor(QPalette::Base, QColor(35, 35, 35));
-  return palette;
 }
 
 }  // namespace qv

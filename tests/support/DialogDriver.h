@@ -31,7 +31,4 @@ void Click(int id);
 /// Lets pending events and paints happen.
 void Settle();
 
-/// The dark palette that pictures and tests of dark grounds use.
-QPalette DarkPalette();
-
 }  // namespace qv

@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "tools/Guid.h"
+#include "tools/Utf8.h"
 
 namespace qv {
 
@@ -23,7 +24,7 @@ TemporaryDirectory::~TemporaryDirectory() {
   fs::remove_all(m_path, ignored);
 }
 
-std::wstring TemporaryDirectory::WidePath() const { return (m_path / "").wstring(); }
+std::wstring TemporaryDirectory::WidePath() const { return FromUtf8((m_path / "").string()); }
 
 std::string FileBytes(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);

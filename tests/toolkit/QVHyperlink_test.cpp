@@ -155,4 +155,15 @@ TEST_F(QVHyperlinkTest, CaptionHasTheColourOfLinks) {
   EXPECT_GT(qv::CountPixels(Picture(), QColor(0, 0, 200)), 0);
 }
 
+TEST(QVHyperlinkHint, StaysWhateverTheSizeAndIsShownAsItStands) {
+  QVHyperlink link;
+  link.SetCaption(QStringLiteral("A caption"));
+  link.SetHint(QStringLiteral("not <b>yet</b>"));
+  for (const int width : {10, 400}) {
+    link.resize(width, 80);
+    link.show();
+    EXPECT_EQ(link.toolTip(), "<p>not &lt;b&gt;yet&lt;/b&gt;</p>");
+  }
+}
+
 }  // namespace

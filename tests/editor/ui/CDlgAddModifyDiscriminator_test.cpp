@@ -148,6 +148,31 @@ TEST_F(Editor, LabelsNameTheirControls) {
   });
 }
 
+TEST_F(Editor, LinksThatCannotBeOpenedYetSayWhy) {
+  host->loadString.additions = {60005};
+  Add([] {
+    EXPECT_FALSE(TopControl(hourTypesLink)->isEnabled());
+    EXPECT_EQ(TopControl(hourTypesLink)->toolTip(), "<p>[60005]</p>");
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(Editor, ALongDescriptionAndAnUndoneLongNameAreNotCut) {
+  const QByteArray description(40000, 'd');
+  const QString path =
+      AddFile("1.old.xdct", "<main><id>1</id><name>" + QByteArray(100, 'n') +
+                                "</name><description>" + description + "</description></main>");
+  Modify(path, [&] {
+    EXPECT_EQ(Edit(descriptionEdit)->text().size(), description.size());
+    Edit(nameEdit)->setSelection(0, 50);
+    Edit(nameEdit)->del();
+    EXPECT_EQ(Edit(nameEdit)->text().size(), 50);
+    Edit(nameEdit)->undo();
+    EXPECT_EQ(Edit(nameEdit)->text().size(), 100);
+    Click(IDCANCEL);
+  });
+}
+
 TEST_F(Editor, TypingANameAndReturnWritesTheFile) {
   const int result = Add([] {
     Type(nameEdit, "Peak");
@@ -163,8 +188,10 @@ TEST_F(Editor, TypingANameAndReturnWritesTheFile) {
 
 TEST_F(Editor, ARefusalIsToldAndTheDialogStaysWithItsState) {
   Add([] {
+    TopControl(descriptionEdit)->setFocus();
     AnswerNextBox(32363, QMessageBox::Ok);
-    Click(IDOK);
+    QTest::keyClick(TopControl(descriptionEdit), Qt::Key_Return);
+    EXPECT_EQ(TopWindow()->focusWidget(), TopControl(descriptionEdit));
     Type(nameEdit, "a.b");
     AnswerNextBox(32764, QMessageBox::Ok);
     Click(IDOK);
@@ -305,7 +332,7 @@ TEST_F(Editor, ALongerNameThatWasLoadedIsNotCut) {
     EXPECT_EQ(Edit(nameEdit)->text().size(), 100);
     Type(nameEdit, "x");
     EXPECT_EQ(Edit(nameEdit)->text().size(), 100);
-    QTest::keyClick(Edit(nameEdit), Qt::Key_Backspace);
+    QTest::keyClick(Edit(nameEdit), Qt::Key_Delete);
     EXPECT_EQ(Edit(nameEdit)->text().size(), 99);
     Click(IDOK);
   });

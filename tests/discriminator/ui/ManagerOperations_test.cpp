@@ -1,0 +1,301 @@
+#include <gtest/gtest.h>
+
+#include <QContextMenuEvent>
+#include <QDir>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <map>
+
+#include "tests/discriminator/ui/ManagerFixture.h"
+
+namespace qv {
+namespace {
+
+/// Fills the editor that the next event opens, and leaves it by this control.
+void EditNext(const QString& name, int leaveBy) {
+  WhenNextWindow([=] {
+    auto* edit = qobject_cast<QLineEdit*>(TopControl(nameEdit));
+    ASSERT_TRUE(edit);
+    edit->selectAll();
+    QTest::keyClicks(edit, name);
+    Click(leaveBy);
+  });
+}
+
+TEST_F(SetupDiscriminators, AddMakesAFileARowAndAnEntry) {
+  XmlDocument groups;
+  groups.Create(L"deviceGroups");
+  CDlgSetupDiscriminators dialog(groups.Root(), nullptr);
+  const int result = Drive([&] { return dialog.DoModal(); },
+                           [] {
+                             EditNext("Peak", IDOK);
+                             Click(addButton);
+                             EXPECT_EQ(Names(), QStringList{"Peak"});
+                             EXPECT_TRUE(List()->selectedItems().isEmpty());
+                             ExpectButtons(true, false, false);
+                             EditNext("Night", IDOK);
+                             QTest::keyClick(List(), Qt::Key_Insert);
+                             EXPECT_EQ(Names(), QStringList({"Night", "Peak"}));
+                             Click(exitButton);
+                           });
+  EXPECT_EQ(result, IDOK);
+  EXPECT_EQ(host->guids.notices, (std::vector<int>{8, 5, 8, 5}));
+  EXPECT_EQ(std::distance(groups.Root()->Node(L"devices")->ChildsBegin(),
+                          groups.Root()->Node(L"devices")->ChildsEnd()),
+            2);
+}
+
+TEST_F(SetupDiscriminators, TheCloseBoxGivesCancelAlsoAfterAChange) {
+  EXPECT_EQ(Run([] {
+              EditNext("Peak", IDOK);
+              Click(addButton);
+              TopWindow()->close();
+            }),
+            IDCANCEL);
+}
+
+TEST_F(SetupDiscriminators, AFileWithoutIdIsSavedUnderANewOneAndHasNoEntry) {
+  QFile file(directory.filePath(".old.xdct"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("<main><name>old</name></main>");
+  file.close();
+  XmlDocument groups;
+  groups.Create(L"deviceGroups");
+  CDlgSetupDiscriminators dialog(groups.Root(), nullptr);
+  Drive([&] { return dialog.DoModal(); },
+        [] {
+          EXPECT_EQ(Names(), QStringList{"old"});
+          ClickRow(0);
+          EditNext("old", IDOK);
+          Click(modifyButton);
+          Click(exitButton);
+        });
+  const auto files = QDir(directory.path()).entryList(QDir::Files | QDir::Hidden);
+  ASSERT_EQ(files.size(), 1);
+  EXPECT_EQ(files[0].size(), 36 + QString(".old.xdct").size());
+  EXPECT_FALSE(groups.Root()->Node(L"devices"));
+}
+
+TEST_F(SetupDiscriminators, FilesFromAnywhereAreShownOrLeftOutAndDoNoHarm) {
+  const QByteArray siblings = QByteArray("<x/>").repeated(100'000);
+  const std::map<QString, QByteArray> files = {
+      {"1.encoding.xdct", "<?xml version='1.0' encoding='no-such'?><main/>"},
+      {"1.latin.xdct", "<main><id>1</id><name>latin</name><description>\xF1</description></main>"},
+      {"1.cut.xdct", "<main><id>1</id><name>cut</na"},
+      {"1.deep.xdct", QByteArray("<a>").repeated(100'000)},
+      {"1.empty.xdct", ""},
+      {"1.fields.xdct", "<main/>"},
+      {"1.guid.xdct", "<main><id>1</id><id>2</id><name>guid</name></main>"},
+      {"1.wide.xdct", "<main><id>1</id><name>wide</name>" + siblings + "</main>"},
+      {"1.path.xdct", "<main><id>1</id><name>../../path</name></main>"},
+  };
+  for (const auto& [name, content] : files) {
+    QFile file(directory.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+  Run([] {
+    EXPECT_EQ(Names(), QStringList({"guid", "wide"}));
+    for (int row = 0; row < 2; ++row) {
+      ClickRow(row);
+      EditNext(Names()[row], IDOK);
+      Click(modifyButton);
+    }
+    EXPECT_EQ(Names(), QStringList({"guid", "wide"}));
+    Click(exitButton);
+  });
+  EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files).size(), static_cast<int>(files.size()));
+}
+
+TEST_F(SetupDiscriminators, EscapeAfterAnAddGivesCancelAlthoughTheFileIsThere) {
+  EXPECT_EQ(Run([] {
+              EditNext("Peak", IDOK);
+              Click(addButton);
+              QTest::keyClick(TopWindow(), Qt::Key_Escape);
+            }),
+            IDCANCEL);
+  EXPECT_EQ(QDir(directory.path()).entryList({"*.Peak.xdct"}).size(), 1);
+  EXPECT_TRUE(host->mainCfg.Root()->Node(L"deviceGroups")->Node(L"devices"));
+}
+
+TEST_F(SetupDiscriminators, ACancelledAddChangesNothing) {
+  EXPECT_EQ(Run([] {
+              EditNext("Peak", IDCANCEL);
+              Click(addButton);
+              EXPECT_TRUE(Names().isEmpty());
+              Click(exitButton);
+            }),
+            IDCANCEL);
+  EXPECT_TRUE(host->guids.notices.empty());
+}
+
+TEST_F(SetupDiscriminators, ADoubleClickOrModifyOpensTheRow) {
+  AddFile("1", "alpha", "");
+  EXPECT_EQ(Run([] {
+              EditNext("beta", IDOK);
+              const QRect row = List()->visualItemRect(List()->topLevelItem(0));
+              QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, row.center());
+              EXPECT_EQ(Names(), QStringList{"beta"});
+              ClickRow(0);
+              EditNext("gamma", IDOK);
+              Click(modifyButton);
+              EXPECT_EQ(Names(), QStringList{"gamma"});
+              Click(exitButton);
+            }),
+            IDOK);
+  EXPECT_EQ(host->guids.notices, (std::vector<int>{8, 8}));
+  EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList{"1.gamma.xdct"});
+}
+
+TEST_F(SetupDiscriminators, AModifyThatChangesNothingGivesOkAndNoNotice) {
+  const auto content =
+      "<main><id>1</id><name>alpha</name><description/><setZeroOutsideSlot>T</setZeroOutsideSlot>"
+      "<type>SLOTS</type></main>";
+  QFile file(directory.filePath("1.alpha.xdct"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(content);
+  file.close();
+  EXPECT_EQ(Run([] {
+              ClickRow(0);
+              EditNext("alpha", IDOK);
+              Click(modifyButton);
+              Click(exitButton);
+            }),
+            IDOK);
+  EXPECT_TRUE(host->guids.notices.empty());
+}
+
+TEST_F(SetupDiscriminators, ADoubleClickOnAnEmptyListOpensNothing) {
+  Run([] {
+    QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, QPoint(20, 20));
+    EXPECT_TRUE(qobject_cast<CDlgSetupDiscriminators*>(TopWindow()));
+    Click(exitButton);
+  });
+  EXPECT_TRUE(host->mainCfg.Root()->Node(L"deviceGroups"));
+}
+
+TEST_F(SetupDiscriminators, AFileThatHasGoneMeanwhileOpensNothing) {
+  AddFile("1", "alpha", "");
+  Run([this] {
+    ClickRow(0);
+    QFile::remove(directory.filePath("1.alpha.xdct"));
+    Click(modifyButton);
+    EXPECT_TRUE(qobject_cast<CDlgSetupDiscriminators*>(TopWindow()));
+    EXPECT_EQ(Names(), QStringList{"alpha"});
+    Click(exitButton);
+  });
+}
+
+TEST_F(SetupDiscriminators, RemovingAsksOnceAndSelectsTheRowThatMovedUp) {
+  for (const char* name : {"alpha", "beta", "gamma"}) {
+    AddFile(QString(QLatin1Char(name[0])), name, "");
+  }
+  EXPECT_EQ(Run([] {
+              ClickRow(1);
+              AnswerNextBox(32368, QMessageBox::Yes);
+              Click(removeButton);
+              EXPECT_EQ(Names(), QStringList({"alpha", "gamma"}));
+              EXPECT_TRUE(List()->topLevelItem(1)->isSelected());
+              ExpectButtons(true, true, true);
+              ClickRow(0);
+              QTest::keyClick(List(), Qt::Key_Down, Qt::ShiftModifier);
+              AnswerNextBox(32368, QMessageBox::Yes);
+              QTest::keyClick(List(), Qt::Key_Delete, Qt::ControlModifier);
+              EXPECT_TRUE(Names().isEmpty());
+              ExpectButtons(true, false, false);
+              Click(exitButton);
+            }),
+            IDOK);
+  EXPECT_EQ(host->guids.notices, (std::vector<int>{5, 8, 5, 8, 5, 8}));
+  EXPECT_TRUE(QDir(directory.path()).isEmpty());
+}
+
+TEST_F(SetupDiscriminators, AnsweringNoKeepsRowsAndSelection) {
+  AddFile("1", "alpha", "");
+  AddFile("2", "beta", "");
+  EXPECT_EQ(Run([] {
+              ClickRow(1);
+              AnswerNextBox(32368, QMessageBox::No);
+              Click(removeButton);
+              EXPECT_EQ(Names().size(), 2);
+              EXPECT_TRUE(List()->topLevelItem(1)->isSelected());
+              Click(exitButton);
+            }),
+            IDCANCEL);
+}
+
+TEST_F(SetupDiscriminators, AFileThatCannotBeDeletedStopsTheRemovalAndStaysSelected) {
+  for (const char* name : {"alpha", "beta", "gamma"}) {
+    AddFile(QString(QLatin1Char(name[0])), name, "");
+  }
+  QFile::setPermissions(directory.filePath("b.beta.xdct"), QFile::ReadOwner);
+  EXPECT_EQ(Run([] {
+              ClickRow(0);
+              ClickRow(2, Qt::ShiftModifier);
+              // The question and the message come one after the other.
+              WhenNextWindow([] {
+                qobject_cast<QMessageBox*>(TopWindow())->button(QMessageBox::Yes)->click();
+                AnswerNextBox(32369, QMessageBox::Ok);
+              });
+              Click(removeButton);
+              EXPECT_EQ(Names(), QStringList({"beta", "gamma"}));
+              EXPECT_EQ(List()->selectedItems().size(), 2);
+              Click(exitButton);
+            }),
+            IDOK);
+}
+
+TEST_F(SetupDiscriminators, CopyAndPasteByKeysMakeNewRows) {
+  AddFile("1", "alpha", "a");
+  EXPECT_EQ(Run([] {
+              ClickRow(0);
+              QTest::keyClick(List(), Qt::Key_C, Qt::ControlModifier);
+              QTest::keyClick(List(), Qt::Key_V, Qt::ControlModifier);
+              QTest::keyClick(List(), Qt::Key_V, Qt::ControlModifier);
+              EXPECT_EQ(Names(), QStringList({"alpha", "alpha_1", "alpha_2"}));
+              EXPECT_TRUE(List()->selectedItems().isEmpty());
+              EXPECT_EQ(TopWindow()->cursor().shape(), Qt::ArrowCursor);
+              Click(exitButton);
+            }),
+            IDOK);
+  EXPECT_EQ(host->guids.notices, (std::vector<int>{8, 5, 8, 5}));
+}
+
+/// The captions of the menu that a right click brings up; none if it brings none.
+QStringList MenuAt(QWidget* viewport) {
+  QStringList captions;
+  QTimer::singleShot(0, viewport, [&captions] {
+    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+      for (const QAction* action : menu->actions()) {
+        captions << action->text();
+      }
+      menu->close();
+    }
+  });
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+  QApplication::sendEvent(viewport, &event);
+  Settle();
+  return captions;
+}
+
+TEST_F(SetupDiscriminators, TheMenuOffersCopyAndPasteAsFarAsTheyCanBeDone) {
+  AddFile("1", "alpha", "a");
+  Run([this] {
+    EXPECT_EQ(MenuAt(List()->viewport()), QStringList());
+    ClickRow(0);
+    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({"[732]\tCtrl+C"}));
+    host->clipboard.text = "<discriminatorClipboard/>";
+    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({"[732]\tCtrl+C", "[742]\tCtrl+V"}));
+    List()->clearSelection();
+    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({"[742]\tCtrl+V"}));
+    host->clipboard.text = "<main/>";
+    EXPECT_EQ(MenuAt(List()->viewport()), QStringList());
+    Click(exitButton);
+  });
+}
+
+}  // namespace
+}  // namespace qv
