@@ -3,24 +3,16 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <string_view>
 
+#include "tests/fuzz/Demand.h"
 #include "tools/XmlReader.h"
 #include "tools/XmlWriter.h"
 
 namespace {
 
 using Root = std::unique_ptr<qv::XmlNode>;
-
-void Demand(bool condition, const char* what) {
-  if (!condition) {
-    std::fprintf(stderr, "failed: %s\n", what);
-    std::abort();
-  }
-}
 
 Root ReadWhole(std::string_view text, qv::XmlError* error) {
   qv::XmlReader reader;

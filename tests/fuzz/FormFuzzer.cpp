@@ -1,0 +1,55 @@
+// Opens the input in the editor's rules, switches its type to and fro and saves it: nothing is
+// written outside the configuration directory, and what was saved can be opened again.
+
+#include <cstdint>
+#include <string>
+
+#include "editor/DiscriminatorForm.h"
+#include "tests/fuzz/Demand.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ScriptedFiles.h"
+
+namespace {
+
+/// A user who confirms whatever is said.
+class Silent : public qv::Prompter {
+ public:
+  void Show(Text, Arguments) override {}
+  bool Ask(Text, Arguments) override { return true; }
+  void ShowText(std::wstring_view) override {}
+};
+
+void DemandFilesInDirectory(const qv::ScriptedFiles& files) {
+  for (const auto& [path, content] : files.contents) {
+    Demand(path.starts_with(L"/cfg/") && path.find(L'/', 5) == std::wstring::npos,
+           "files lie in the directory");
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  qv::FakeHost host;
+  qv::ScriptedFiles files;
+  Silent prompter;
+  XmlDocument deviceGroups;
+  deviceGroups.Create(L"deviceGroups");
+  const QVWideString path = L"/cfg/any.xdct";
+  files.contents[path.ToView().data()] = std::string(reinterpret_cast<const char*>(data), size);
+  qv::DiscriminatorForm form({host.Services(), files, prompter, deviceGroups.Root()}, &path);
+  if (!form.IsLoaded()) {
+    return 0;
+  }
+  form.SelectType(1);
+  form.SelectType(0);
+  const bool saved = form.Save(form.InitialFields());
+  const bool renamed = form.Save({L"fresh", L"", false});
+  DemandFilesInDirectory(files);
+  Demand(!saved || !files.contents.empty(), "what was saved is there");
+  if (renamed) {
+    XmlDocument document;
+    const QVWideString written(files.contents.rbegin()->first.c_str());
+    Demand(document.Load(written, files), "what was saved can be opened");
+  }
+  return 0;
+}
