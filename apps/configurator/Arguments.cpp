@@ -25,6 +25,8 @@ constexpr const char* examples = R"(Examples:
                --size 900x600 --picture main.png
       saves a picture of the main window, and ends
 
+Of an option that is given more than once, the last one counts.
+
 Exit status: 0 if all went well, 1 if something could not be done, 2 if the call is wrong.)";
 
 constexpr int badCall = 2;
@@ -140,6 +142,7 @@ void AddWindowOptions(CLI::App& app, Texts& texts) {
 }
 
 void AddOptions(CLI::App& app, Texts& texts) {
+  app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
   app.set_help_flag("--help", "Print this help, and end");
   app.set_version_flag("--version", std::string(program) + " " + CONFIGURATOR_VERSION,
                        "Print the version, and end");

@@ -21,7 +21,7 @@ struct WindowName {
   bool listsRows;  ///< whether `--list` can print its rows
 };
 
-/// All windows that `--show` knows. A new dialog is a line here and one in RunWindow.cpp.
+/// All windows that `--show` knows. A new dialog is a line here and one in Run.cpp.
 inline constexpr std::array windowNames = {
     WindowName{"main", ShownWindow::Main, "the main window", false},
     WindowName{"discriminators", ShownWindow::Discriminators,

@@ -15,28 +15,23 @@ using qv::XmlNode;
 
 constexpr wchar_t fileName[] = L"configuration.xml";
 constexpr wchar_t rootTag[] = L"configuration";
-constexpr wchar_t embeddedDriver[] = L"KORVAXEMBEDDED";
 
 bool Exists(std::wstring_view directory, qv::Files& files) {
   const auto names = files.Walk(std::wstring(directory) + L"*" + fileName);
   return std::find(names.begin(), names.end(), fileName) != names.end();
 }
 
-bool MarksEmbedded(const XmlNode* node) {
-  return node->Tag() == L"device" && node->Value(L"driver", L"") == embeddedDriver;
-}
-
 void AddEmbeddedDevice(XmlNode& commSystem) {
   XmlNode* device = commSystem.NewChild(L"device", nullptr);
   device->SetValue(L"id", qv::NewGuidText());
   device->SetValue(L"name", L"EMBEDDED");
-  device->SetValue(L"driver", embeddedDriver);
+  device->SetValue(L"driver", qv::embeddedDriver);
 }
 
 void RemoveEmbeddedDevices(XmlNode& commSystem) {
   std::vector<XmlNode*> marks;
   std::copy_if(commSystem.ChildsBegin(), commSystem.ChildsEnd(), std::back_inserter(marks),
-               MarksEmbedded);
+               [](const XmlNode* node) { return qv::IsEmbeddedDevice(*node); });
   for (XmlNode* mark : marks) {
     commSystem.RemoveChild(mark);
   }

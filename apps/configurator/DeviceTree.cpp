@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <unordered_map>
+
+#include "discriminator/Fields.h"
+#include "discriminator/FileNames.h"
 
 namespace configurator {
 namespace {
@@ -10,9 +14,6 @@ namespace {
 using qv::XmlNode;
 using Items = std::vector<DeviceTreeItem>;
 using NamesById = std::unordered_map<std::wstring, std::wstring>;
-
-constexpr wchar_t discriminatorType[] = L"R$DISC";
-constexpr std::wstring_view extension = L".xdct";
 
 /// What the installation calls its devices and its discriminators.
 struct Names {
@@ -44,11 +45,10 @@ NamesById DeviceNames(const XmlNode* commSystem) {
 
 NamesById DiscriminatorNames(std::wstring_view directory, qv::Files& files) {
   NamesById names;
-  for (const std::wstring& file : files.Walk(std::wstring(directory) + L"*.xdct")) {
-    const std::wstring stem = file.substr(0, file.size() - extension.size());
-    const std::size_t dot = stem.find(L'.');
-    if (dot != std::wstring::npos) {
-      names.emplace(stem.substr(0, dot), stem.substr(dot + 1));
+  for (const std::wstring& file : files.Walk(std::wstring(directory) + qv::discriminatorPattern)) {
+    const auto stem = qv::WithoutExtension(file);
+    if (const auto name = stem ? qv::NameOfStem(*stem) : std::nullopt) {
+      names.emplace(qv::IdOfStem(QVWideString(*stem)).ToView(), *name);
     }
   }
   return names;
@@ -64,9 +64,10 @@ DeviceTreeItem ReadDevice(const XmlNode& device, const Names& names) {
   DeviceTreeItem item;
   item.id = Field(device, L"id");
   item.type = Field(device, L"type");
-  item.kind = item.type == discriminatorType ? Kind::Discriminator : Kind::Device;
-  item.name = item.kind == Kind::Discriminator ? NameIn(names.discriminators, item.id, L"R$DISC_")
-                                               : NameIn(names.devices, item.id, L"");
+  item.kind = item.type == qv::word::DiscriminatorDevice ? Kind::Discriminator : Kind::Device;
+  item.name = item.kind == Kind::Discriminator
+                  ? NameIn(names.discriminators, item.id, item.type + L"_")
+                  : NameIn(names.devices, item.id, L"");
   return item;
 }
 

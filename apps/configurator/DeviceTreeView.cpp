@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "apps/configurator/Strings.h"
+#include "toolkit/Strings.h"
 
 namespace configurator {
 namespace {
@@ -60,10 +61,10 @@ void DeviceTreeView::Show(const std::vector<DeviceTreeItem>& items, Language lan
 }
 
 void DeviceTreeView::SetTexts(Language language) {
-  setAccessibleName(Words(HostText::Tree, language));
-  setAccessibleDescription(Words(HostText::TreeHint, language));
+  setAccessibleName(Words(OwnText::Tree, language));
+  setAccessibleDescription(Words(OwnText::TreeHint, language));
   m_model->setHorizontalHeaderLabels(
-      {Words(HostText::Tree, language), Words(HostText::TreeType, language)});
+      {Words(OwnText::Tree, language), Words(OwnText::TreeType, language)});
 }
 
 void DeviceTreeView::AddItems(QStandardItem* parent, const std::vector<DeviceTreeItem>& items) {
@@ -84,21 +85,21 @@ QList<QStandardItem*> DeviceTreeView::Line(const DeviceTreeItem& item, const QSt
 
 QString DeviceTreeView::NameText(const DeviceTreeItem& item) const {
   if (!item.name.empty()) {
-    return ToQString(item.name);
+    return qv::ToQString(item.name);
   }
   if (item.kind == DeviceTreeItem::Kind::Group) {
-    return Words(HostText::UnnamedGroup, m_language);
+    return Words(OwnText::UnnamedGroup, m_language);
   }
-  return item.id.empty() ? Words(HostText::UnnamedDevice, m_language) : ToQString(item.id);
+  return item.id.empty() ? Words(OwnText::UnnamedDevice, m_language) : qv::ToQString(item.id);
 }
 
 QString DeviceTreeView::TypeText(const DeviceTreeItem& item) const {
-  QString type = ToQString(item.type);
+  QString type = qv::ToQString(item.type);
   if (item.kind == DeviceTreeItem::Kind::Group || !item.name.empty()) {
     return type;
   }
-  const HostText hint = item.kind == DeviceTreeItem::Kind::Device ? HostText::DeviceNotFound
-                                                                  : HostText::DiscriminatorNotFound;
+  const OwnText hint = item.kind == DeviceTreeItem::Kind::Device ? OwnText::DeviceNotFound
+                                                                 : OwnText::DiscriminatorNotFound;
   return QStringLiteral("%1 (%2)").arg(type, Words(hint, m_language));
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "apps/configurator/DeviceTree.h"
-#include "apps/configurator/HostTexts.h"
+#include "apps/configurator/OwnTexts.h"
 
 class QStandardItem;
 class QStandardItemModel;

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "host/QVMainCfg.h"
 #include "hostkit/DirectorySetup.h"

@@ -13,6 +13,7 @@
 #include "apps/configurator/DeviceTree.h"
 #include "apps/configurator/DeviceTreeView.h"
 #include "apps/configurator/DiscriminatorManager.h"
+#include "apps/configurator/ProblemBox.h"
 #include "apps/configurator/StatusLine.h"
 
 namespace configurator {
@@ -55,12 +56,12 @@ void MainWindow::Open(const QString& directory) {
   }
 }
 
-QAction* MainWindow::Captioned(QAction* action, HostText text) {
+QAction* MainWindow::Captioned(QAction* action, OwnText text) {
   m_captions.emplace_back(action, text);
   return action;
 }
 
-QMenu* MainWindow::NewMenu(QMenu* parent, HostText text) {
+QMenu* MainWindow::NewMenu(QMenu* parent, OwnText text) {
   QMenu* menu = parent ? parent->addMenu(QString()) : menuBar()->addMenu(QString());
   Captioned(menu->menuAction(), text);
   return menu;
@@ -70,35 +71,35 @@ void MainWindow::MakeFileMenu() {
   const auto icon = [this](const char* name, QStyle::StandardPixmap otherwise) {
     return QIcon::fromTheme(QString::fromLatin1(name), style()->standardIcon(otherwise));
   };
-  QMenu* menu = NewMenu(nullptr, HostText::FileMenu);
+  QMenu* menu = NewMenu(nullptr, OwnText::FileMenu);
   m_open = Captioned(menu->addAction(icon("document-open", QStyle::SP_DialogOpenButton), QString(),
                                      this, &MainWindow::OnOpen),
-                     HostText::OpenInstallation);
+                     OwnText::OpenInstallation);
   m_open->setShortcut(Qt::CTRL | Qt::Key_O);
   m_save = Captioned(menu->addAction(icon("document-save", QStyle::SP_DialogSaveButton), QString(),
                                      this, &MainWindow::OnSave),
-                     HostText::Save);
+                     OwnText::Save);
   m_save->setShortcut(Qt::CTRL | Qt::Key_S);
   m_save->setObjectName(QStringLiteral("save"));
   menu->addSeparator();
   QAction* quit =
       Captioned(menu->addAction(icon("application-exit", QStyle::SP_DialogCloseButton), QString()),
-                HostText::Quit);
+                OwnText::Quit);
   quit->setShortcut(Qt::CTRL | Qt::Key_Q);
   connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
 void MainWindow::MakeSettingsMenu() {
-  QMenu* menu = NewMenu(nullptr, HostText::SettingsMenu);
+  QMenu* menu = NewMenu(nullptr, OwnText::SettingsMenu);
   MakeLanguageMenu(menu);
-  m_embedded = Captioned(menu->addAction(QString()), HostText::EmbeddedInstallation);
+  m_embedded = Captioned(menu->addAction(QString()), OwnText::EmbeddedInstallation);
   m_embedded->setObjectName(QStringLiteral("embedded"));
   m_embedded->setCheckable(true);
   connect(m_embedded, &QAction::triggered, this, &MainWindow::OnEmbedded);
 }
 
 void MainWindow::MakeLanguageMenu(QMenu* settings) {
-  QMenu* menu = NewMenu(settings, HostText::LanguageMenu);
+  QMenu* menu = NewMenu(settings, OwnText::LanguageMenu);
   for (const LanguageName& known : languageNames) {
     // A language is called by its own name in every language.
     QAction* action = m_languageChoice->addAction(menu->addAction(QString::fromUtf8(known.name)));
@@ -111,8 +112,8 @@ void MainWindow::MakeLanguageMenu(QMenu* settings) {
 }
 
 void MainWindow::MakeHelpMenu() {
-  QMenu* menu = NewMenu(nullptr, HostText::HelpMenu);
-  Captioned(menu->addAction(QString(), this, &MainWindow::OnAbout), HostText::About)
+  QMenu* menu = NewMenu(nullptr, OwnText::HelpMenu);
+  Captioned(menu->addAction(QString(), this, &MainWindow::OnAbout), OwnText::About)
       ->setObjectName(QStringLiteral("about"));
 }
 
@@ -139,7 +140,7 @@ void MainWindow::MakeCentre() {
 
 void MainWindow::OnOpen() {
   const QString directory = QFileDialog::getExistingDirectory(
-      this, m_workspace.Words(HostText::OpenInstallation).remove(QLatin1Char('&')),
+      this, m_workspace.Words(OwnText::OpenInstallation).remove(QLatin1Char('&')),
       m_workspace.Directory());
   if (!directory.isEmpty()) {
     Open(directory);
@@ -150,7 +151,7 @@ void MainWindow::OnSave() {
   if (const auto problem = m_workspace.Save()) {
     Report(*problem);
   } else {
-    m_statusLine->Tell(HostText::ConfigurationSaved);
+    m_statusLine->Tell(OwnText::ConfigurationSaved);
   }
   ShowState();
 }
@@ -168,7 +169,7 @@ void MainWindow::OnEmbedded(bool embedded) {
 }
 
 void MainWindow::OnDiscriminators() {
-  m_statusLine->Tell(HostText::Ready);
+  m_statusLine->Tell(OwnText::Ready);
   const ManagerEnd end = RunDiscriminatorManager(m_workspace, this);
   // Files and tree may have changed in every case: the result speaks of the configuration alone.
   ShowTree();
@@ -180,16 +181,16 @@ void MainWindow::OnDiscriminators() {
 
 void MainWindow::OnAbout() {
   QMessageBox::about(
-      this, m_workspace.Words(HostText::ProgramName),
-      m_workspace.Words(HostText::AboutProgram).arg(QStringLiteral(CONFIGURATOR_VERSION)));
+      this, m_workspace.Words(OwnText::ProgramName),
+      m_workspace.Words(OwnText::AboutProgram).arg(QStringLiteral(CONFIGURATOR_VERSION)));
 }
 
 void MainWindow::ShowTexts() {
   for (const auto& [action, text] : m_captions) {
     action->setText(m_workspace.Words(text));
   }
-  m_toolbar->setWindowTitle(m_workspace.Words(HostText::Toolbar));
-  m_discriminators->setText(m_workspace.Words(HostText::Discriminators));
+  m_toolbar->setWindowTitle(m_workspace.Words(OwnText::Toolbar));
+  m_discriminators->setText(m_workspace.Words(OwnText::Discriminators));
   m_languages.at(m_workspace.CurrentLanguage())->setChecked(true);
   m_statusLine->SetLanguage(m_workspace.CurrentLanguage());
   ShowTree();
@@ -198,7 +199,7 @@ void MainWindow::ShowTexts() {
 
 void MainWindow::ShowInstallation() {
   m_statusLine->SetPath(QDir::toNativeSeparators(m_workspace.Directory()));
-  m_statusLine->Tell(m_workspace.IsNew() ? HostText::ConfigurationIsNew : HostText::Ready);
+  m_statusLine->Tell(m_workspace.IsNew() ? OwnText::ConfigurationIsNew : OwnText::Ready);
 }
 
 void MainWindow::ShowTree() {
@@ -213,16 +214,11 @@ void MainWindow::ShowState() {
   const QString name = QDir(directory).dirName();
   setWindowTitle(QStringLiteral("%1[*] – %2")
                      .arg(WithoutMark(name.isEmpty() ? directory : name),
-                          m_workspace.Words(HostText::ProgramName)));
+                          m_workspace.Words(OwnText::ProgramName)));
   setWindowModified(m_workspace.Config().IsChanged());
   m_embedded->setChecked(m_workspace.Config().IsEmbedded());
 }
 
-void MainWindow::Report(const QString& problem) {
-  QMessageBox box(QMessageBox::Critical, m_workspace.Words(HostText::ProgramName), problem,
-                  QMessageBox::Ok, this);
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
-}
+void MainWindow::Report(const QString& problem) { ShowProblem(problem, m_workspace, this); }
 
 }  // namespace configurator

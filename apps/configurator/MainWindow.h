@@ -39,8 +39,8 @@ class MainWindow : public QMainWindow {
   void MakeHelpMenu();
   void MakeToolbar();
   void MakeCentre();
-  QAction* Captioned(QAction* action, HostText text);
-  QMenu* NewMenu(QMenu* parent, HostText text);
+  QAction* Captioned(QAction* action, OwnText text);
+  QMenu* NewMenu(QMenu* parent, OwnText text);
 
   void OnOpen();
   void OnSave();
@@ -56,7 +56,7 @@ class MainWindow : public QMainWindow {
   void Report(const QString& problem);
 
   Workspace& m_workspace;
-  std::vector<std::pair<QAction*, HostText>> m_captions;
+  std::vector<std::pair<QAction*, OwnText>> m_captions;
   QActionGroup* m_languageChoice;
   std::map<Language, QAction*> m_languages;
   QAction* m_open = nullptr;

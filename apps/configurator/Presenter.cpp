@@ -54,15 +54,15 @@ void Presenter::Present(QWidget& window) {
       window, {[this, &window] { SetSize(window); }, [this, &window] { Perform(window); }}));
 }
 
-std::optional<HostText> Presenter::Problem() const {
+std::optional<OwnText> Presenter::Problem() const {
   if (!m_arguments.EndsByItself()) {
     return std::nullopt;
   }
   if (!m_performed) {
-    return HostText::WindowNotShown;
+    return OwnText::WindowNotShown;
   }
   const bool saved = m_pictureSaved || !m_arguments.picture;
-  return saved ? std::nullopt : std::optional(HostText::PictureNotSaved);
+  return saved ? std::nullopt : std::optional(OwnText::PictureNotSaved);
 }
 
 void Presenter::SetSize(QWidget& window) const {

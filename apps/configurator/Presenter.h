@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "apps/configurator/Arguments.h"
-#include "apps/configurator/HostTexts.h"
+#include "apps/configurator/OwnTexts.h"
 
 class QWidget;
 
@@ -20,7 +20,7 @@ class Presenter {
   void Present(QWidget& window);
 
   /// What could not be done, once the window is closed; nothing if all was.
-  std::optional<HostText> Problem() const;
+  std::optional<OwnText> Problem() const;
 
  private:
   void SetSize(QWidget& window) const;

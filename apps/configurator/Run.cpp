@@ -3,12 +3,12 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
-#include <QMessageBox>
 #include <cstdio>
 
 #include "apps/configurator/DiscriminatorManager.h"
 #include "apps/configurator/MainWindow.h"
 #include "apps/configurator/Presenter.h"
+#include "apps/configurator/ProblemBox.h"
 #include "apps/configurator/Theme.h"
 #include "apps/configurator/Workspace.h"
 
@@ -35,9 +35,7 @@ int Fail(const QString& problem) {
 /// Also tells the user who sits at the screen, if there is one.
 int FailToStart(const QString& problem, const Workspace& workspace, const Arguments& arguments) {
   if (!arguments.EndsByItself()) {
-    QMessageBox box(QMessageBox::Critical, workspace.Words(HostText::ProgramName), problem);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    ShowProblem(problem, workspace, nullptr);
   }
   return Fail(problem);
 }

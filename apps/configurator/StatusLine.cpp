@@ -27,7 +27,7 @@ StatusLine::StatusLine(QWidget* parent)
 
 void StatusLine::SetPath(const QString& path) { m_path->setText(path); }
 
-void StatusLine::Tell(HostText text) {
+void StatusLine::Tell(OwnText text) {
   m_text = text;
   m_notices.clear();
   Refresh();
@@ -62,11 +62,11 @@ void StatusLine::Refresh() {
 QString StatusLine::Notice(int id) const {
   switch (id) {
     case QVVornelGuids::Discriminators:
-      return Words(HostText::DiscriminatorFilesChanged, m_language);
+      return Words(OwnText::DiscriminatorFilesChanged, m_language);
     case QVVornelGuids::DeviceGroups:
-      return Words(HostText::DeviceGroupsChanged, m_language);
+      return Words(OwnText::DeviceGroupsChanged, m_language);
     default:
-      return Words(HostText::PartChanged, m_language).arg(id);
+      return Words(OwnText::PartChanged, m_language).arg(id);
   }
 }
 

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "apps/configurator/HostTexts.h"
+#include "apps/configurator/OwnTexts.h"
 
 class QLabel;
 
@@ -23,7 +23,7 @@ class StatusLine : public QStatusBar {
   void SetPath(const QString& path);
 
   /// Tells `text` and forgets the notices.
-  void Tell(HostText text);
+  void Tell(OwnText text);
   /// Tells of a notice, together with those before it.
   void AddNotice(int id);
   /// The same from now on in `language`.
@@ -39,7 +39,7 @@ class StatusLine : public QStatusBar {
   QLabel* m_told;
   QLabel* m_path;
   Language m_language = Language::English;
-  HostText m_text = HostText::Ready;
+  OwnText m_text = OwnText::Ready;
   std::vector<std::pair<int, int>> m_notices;  // id and how often
 };
 

@@ -3,23 +3,20 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
+#include <utility>
 
-#include "apps/configurator/Strings.h"
+#include "hostkit/DirectorySetup.h"
+#include "toolkit/Strings.h"
 
 namespace configurator {
 namespace {
 
-QString WithSeparator(const QString& directory) {
-  const QLatin1Char separator('/');
-  return directory.endsWith(separator) ? directory : directory + separator;
-}
-
-std::optional<HostText> RefusalOf(Configuration::Loaded loaded) {
+std::optional<OwnText> RefusalOf(Configuration::Loaded loaded) {
   switch (loaded) {
     case Configuration::Loaded::Unreadable:
-      return HostText::ConfigurationUnreadable;
+      return OwnText::ConfigurationUnreadable;
     case Configuration::Loaded::Foreign:
-      return HostText::ConfigurationForeign;
+      return OwnText::ConfigurationForeign;
     case Configuration::Loaded::FromFile:
     case Configuration::Loaded::New:
       break;
@@ -45,7 +42,7 @@ Workspace::~Workspace() { QCoreApplication::removeTranslator(&m_translator); }
 Workspace::Problem Workspace::SetLanguage(Language language) {
   const QString file = LanguageFile(language);
   if (!m_services.SetLanguageFile(file.toStdWString())) {
-    return Words(HostText::LanguageFileMissing).arg(file);
+    return Words(OwnText::LanguageFileMissing).arg(file);
   }
   m_language = language;
   TranslateQt(language);
@@ -55,10 +52,11 @@ Workspace::Problem Workspace::SetLanguage(Language language) {
 Workspace::Problem Workspace::Open(const QString& directory) {
   const QDir found(directory);
   if (directory.isEmpty() || !found.exists()) {
-    return Words(HostText::DirectoryMissing).arg(directory);
+    return Words(OwnText::DirectoryMissing).arg(directory);
   }
   const QString path = QDir::cleanPath(found.absolutePath());
-  const auto loaded = m_configuration.Load(WithSeparator(path).toStdWString());
+  const qv::DirectorySetup setup(path.toStdWString(), L"", 0);
+  const auto loaded = m_configuration.Load(setup.CfgPath().ToView());
   if (const auto refusal = RefusalOf(loaded)) {
     return Words(*refusal).arg(QDir(path).filePath(QStringLiteral("configuration.xml")));
   }
@@ -70,7 +68,7 @@ Workspace::Problem Workspace::Open(const QString& directory) {
 
 Workspace::Problem Workspace::Save() {
   if (!m_configuration.Save()) {
-    return Words(HostText::ConfigurationNotSaved).arg(ToQString(m_configuration.Path()));
+    return Words(OwnText::ConfigurationNotSaved).arg(qv::ToQString(m_configuration.Path()));
   }
   m_isNew = false;
   return std::nullopt;

@@ -6,7 +6,7 @@
 
 #include "apps/configurator/Configuration.h"
 #include "apps/configurator/HostServices.h"
-#include "apps/configurator/HostTexts.h"
+#include "apps/configurator/OwnTexts.h"
 
 namespace configurator {
 
@@ -33,7 +33,7 @@ class Workspace {
   /// library's can't be read, all stays as it was.
   Problem SetLanguage(Language language);
   Language CurrentLanguage() const { return m_language; }
-  QString Words(HostText text) const { return configurator::Words(text, m_language); }
+  QString Words(OwnText text) const { return configurator::Words(text, m_language); }
 
   /// Opens the installation in `directory`. If it has to be refused, the one that was open stays.
   Problem Open(const QString& directory);

@@ -70,6 +70,24 @@ TEST(Arguments, TheOtherChoicesAreTakenOver) {
   EXPECT_EQ(read.theme, Theme::Light);
 }
 
+TEST(Arguments, TheLastOfARepeatedOptionCounts) {
+  const qv::TemporaryDirectory directory;
+  const std::string installation = directory.Path().string();
+  const Arguments read =
+      Good({"--installation", ".",          "--language", "es",     "--show",         "main",
+            "--picture",      "a.png",      "--theme",    "dark",   "--size",         "640x480",
+            "--list",         "--language", "en",         "--show", "discriminators", "--picture",
+            "b.png",          "--theme",    "light",      "--size", "800x600",        "--list",
+            "--installation", installation});
+  EXPECT_EQ(read.installation, installation);
+  EXPECT_EQ(read.language, Language::English);
+  EXPECT_EQ(read.show, ShownWindow::Discriminators);
+  EXPECT_EQ(read.picture, "b.png");
+  EXPECT_EQ(read.theme, Theme::Light);
+  EXPECT_EQ(read.size, (WindowSize{800, 600}));
+  EXPECT_TRUE(read.list);
+}
+
 TEST(Arguments, EveryWindowOfTheTableCanBeShown) {
   for (const WindowName& known : windowNames) {
     EXPECT_EQ(Good({"--installation", ".", "--show", known.name}).show, known.window) << known.name;
@@ -140,6 +158,9 @@ INSTANTIATE_TEST_SUITE_P(
         BadCall{"UnknownWindow",
                 {"--installation", ".", "--show", "dial"},
                 "dial is none of: main, discriminators"},
+        BadCall{"UnknownLanguageBeforeAGoodOne",
+                {"--installation", ".", "--language", "fr", "--language", "es"},
+                "fr is none of: es, en"},
         BadCall{"UnknownTheme",
                 {"--installation", ".", "--theme", "blue"},
                 "blue is none of: light, dark"},

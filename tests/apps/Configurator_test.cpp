@@ -192,7 +192,7 @@ TEST_F(ConfiguratorTest, ABrokenConfigurationIsToldAndNotOverwritten) {
   const Ended ended = RunOnCopy({"--show", "discriminators", "--list", "--language", "en"});
   EXPECT_EQ(ended.status, 1);
   EXPECT_EQ(ended.output, "");
-  EXPECT_THAT(ended.errors, HasSubstr("configuration.xml” can't be read"));
+  EXPECT_THAT(ended.errors, HasSubstr("configuration.xml” cannot be read"));
   EXPECT_EQ(installation.ConfigurationBytes(), "<configuration>");
 }
 

@@ -185,7 +185,7 @@ TEST_F(MainWindowTest, WithoutDeviceGroupsTheManagerIsGivenNone) {
   std::filesystem::remove(other.File("configuration.xml"));
   window->Open(other.Directory());
   EXPECT_EQ(TopLines(), QStringList());
-  EXPECT_EQ(Told(), "New configuration: Save makes its file");
+  EXPECT_EQ(Told(), "New configuration: Save creates its file");
   EXPECT_EQ(RowsOfManager(), 4);
   EXPECT_FALSE(workspace.Config().DeviceGroups());
   EXPECT_FALSE(std::filesystem::exists(other.File("configuration.xml")));
@@ -202,7 +202,7 @@ TEST_F(MainWindowTest, SwitchesTheLanguageOfAllTexts) {
   EXPECT_EQ(titles(), QStringList({"File", "Settings", "Help", "&Discriminators…"}));
 
   Find<QAction>("language-es")->trigger();
-  EXPECT_EQ(titles(), QStringList({"Archivo", "Ajustes", "Ayuda", "&Discriminadores…"}));
+  EXPECT_EQ(titles(), QStringList({"Archivo", "Configuración", "Ayuda", "&Discriminadores…"}));
   EXPECT_TRUE(window->windowTitle().endsWith("Configurador"));
   EXPECT_EQ(window->findChild<QTreeView*>()->model()->headerData(1, Qt::Horizontal), "Tipo");
   EXPECT_EQ(Told(), "Listo");

@@ -15,7 +15,7 @@ TEST(StatusLine, NoticesAddUpUntilSomethingElseIsTold) {
   EXPECT_EQ(line.Told(), "Discriminator files changed (8) · Device groups changed (5)");
   line.AddNotice(8);
   EXPECT_EQ(line.Told(), "Discriminator files changed (8) ×2 · Device groups changed (5)");
-  line.Tell(HostText::ConfigurationSaved);
+  line.Tell(OwnText::ConfigurationSaved);
   EXPECT_EQ(line.Told(), "Configuration saved");
   line.AddNotice(5);
   EXPECT_EQ(line.Told(), "Device groups changed (5)");

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/TemporaryDirectory.h"
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -98,12 +100,12 @@ TEST(IncludeDirection, EachFolderIncludesOnlyWhatLiesBelowIt) {
 }
 
 TEST(IncludeDirection, AWrongIncludeIsFound) {
-  const fs::path root = fs::temp_directory_path() / "qv-include-direction";
+  const qv::TemporaryDirectory directory;
+  const fs::path& root = directory.Path();
   fs::create_directories(root / "tools");
   std::ofstream(root / "tools" / "Wrong.h") << "#include \"toolkit/CDialog.h\"\n";
   EXPECT_EQ(Offences(root, "tools"),
             std::vector<std::string>{"tools/Wrong.h includes toolkit/CDialog.h"});
-  fs::remove_all(root);
 }
 
 TEST(IncludeDirection, NoSourceFolderIsMissingFromTheTable) {

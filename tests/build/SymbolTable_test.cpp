@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <regex>
@@ -20,7 +21,9 @@ std::vector<std::string> ExportedSymbols() {
   char line[4096];
   while (pipe && std::fgets(line, sizeof line, pipe.get())) {
     const std::string text(line);
-    symbols.push_back(text.substr(19, text.find_last_not_of('\n') - 18));
+    // Behind the address, a blank, a letter and a blank.
+    const std::size_t start = text.find(' ') + 3;
+    symbols.push_back(text.substr(start, text.find_last_not_of('\n') + 1 - start));
   }
   return symbols;
 }

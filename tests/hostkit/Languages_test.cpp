@@ -91,7 +91,7 @@ TEST(TextNumbers, HeaderIsReadWhole) {
 class Language : public testing::TestWithParam<const char*> {
  protected:
   Language() : path(ProjectFile("languages") / (std::string(GetParam()) + ".txt")) {
-    EXPECT_TRUE(language.Load(path.wstring()));
+    EXPECT_TRUE(language.Load(FromUtf8(path.string())));
   }
 
   std::string TextOf(unsigned number) const {

@@ -7,7 +7,7 @@
 namespace configurator {
 
 /// The texts of this program itself. Those of the library's dialogs are in the language files.
-enum class HostText {
+enum class OwnText {
   ProgramName,
   FileMenu,
   OpenInstallation,
@@ -50,6 +50,6 @@ enum class HostText {
 };
 
 /// The text in this language. A letter that follows "&" is the key that selects it.
-QString Words(HostText text, Language language);
+QString Words(OwnText text, Language language);
 
 }  // namespace configurator

@@ -1,4 +1,4 @@
-#include "apps/configurator/HostTexts.h"
+#include "apps/configurator/OwnTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -7,12 +7,12 @@
 namespace configurator {
 namespace {
 
-constexpr int count = static_cast<int>(HostText::Count);
+constexpr int count = static_cast<int>(OwnText::Count);
 
 /// Texts beside each other are selected by one key each.
-void ExpectOwnKeys(std::initializer_list<HostText> texts, Language language) {
+void ExpectOwnKeys(std::initializer_list<OwnText> texts, Language language) {
   QSet<QChar> keys;
-  for (const HostText text : texts) {
+  for (const OwnText text : texts) {
     const QString words = Words(text, language);
     const qsizetype mark = words.indexOf(QLatin1Char('&'));
     EXPECT_GE(mark, 0) << words.toStdString();
@@ -21,10 +21,10 @@ void ExpectOwnKeys(std::initializer_list<HostText> texts, Language language) {
   EXPECT_EQ(keys.size(), static_cast<qsizetype>(texts.size())) << NameOf(language).code;
 }
 
-TEST(HostTexts, EachTextExistsInEachLanguageWithTheSamePlaceholders) {
+TEST(OwnTexts, EachTextExistsInEachLanguageWithTheSamePlaceholders) {
   ASSERT_GT(count, 20);
   for (int i = 0; i < count; ++i) {
-    const auto text = static_cast<HostText>(i);
+    const auto text = static_cast<OwnText>(i);
     const QString spanish = Words(text, Language::Spanish);
     const QString english = Words(text, Language::English);
     EXPECT_FALSE(spanish.isEmpty()) << i;
@@ -34,13 +34,13 @@ TEST(HostTexts, EachTextExistsInEachLanguageWithTheSamePlaceholders) {
   }
 }
 
-TEST(HostTexts, NoTwoCaptionsBesideEachOtherShareTheirKey) {
+TEST(OwnTexts, NoTwoCaptionsBesideEachOtherShareTheirKey) {
   for (const LanguageName& known : languageNames) {
     ExpectOwnKeys(
-        {HostText::FileMenu, HostText::SettingsMenu, HostText::HelpMenu, HostText::Discriminators},
+        {OwnText::FileMenu, OwnText::SettingsMenu, OwnText::HelpMenu, OwnText::Discriminators},
         known.language);
-    ExpectOwnKeys({HostText::OpenInstallation, HostText::Save, HostText::Quit}, known.language);
-    ExpectOwnKeys({HostText::LanguageMenu, HostText::EmbeddedInstallation}, known.language);
+    ExpectOwnKeys({OwnText::OpenInstallation, OwnText::Save, OwnText::Quit}, known.language);
+    ExpectOwnKeys({OwnText::LanguageMenu, OwnText::EmbeddedInstallation}, known.language);
   }
 }
 
