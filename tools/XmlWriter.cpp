@@ -31,7 +31,7 @@ class Writer {
 
   bool WriteNode(const XmlNode& node, int depth, bool indented) {
     const auto tag = Name(node.Tag());
-    if (!tag || depth >= maxXmlDepth || m_text.size() > maxXmlSize) {
+    if (!tag || depth >= maxXmlDepth || ++m_nodes > maxXmlNodes || m_text.size() > maxXmlSize) {
       return false;
     }
     Indent(depth, indented);
@@ -144,6 +144,7 @@ class Writer {
   }
 
   Declaration m_declaration;
+  std::size_t m_nodes = 0;
   std::string m_text;
   std::unordered_set<std::string> m_names;
 };

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -87,6 +88,15 @@ TEST(XmlDocument, ACopyOfANodeSharesNothingWithIt) {
   source.reset();
   copy.Root()->Node(L"hour")->SetValue(L"id", L"2");
   EXPECT_EQ(Content(copy), R"(hourTypes="v"[hour[id="2"]])");
+}
+
+TEST(XmlDocument, TakesARootAsItIs) {
+  auto root = Tree("<main><id>1</id></main>");
+  const XmlNode* place = root.get();
+  const XmlDocument document(std::move(root));
+  EXPECT_EQ(document.Root(), place);
+  EXPECT_EQ(Content(document), R"(main[id="1"])");
+  EXPECT_EQ(XmlDocument(std::unique_ptr<XmlNode>()).Root(), nullptr);
 }
 
 TEST(XmlDocument, CopiesMayBeNestedAndTakenBackLevelByLevel) {
