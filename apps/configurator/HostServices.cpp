@@ -9,27 +9,14 @@ constexpr unsigned programIcon = 1;
 }  // namespace
 
 HostServices::HostServices(std::wstring_view images)
-    : m_images(images), m_notices([this](int id) {
+    : m_images(images),
+      m_setup(std::make_unique<qv::DirectorySetup>(L"", m_images, programIcon)),
+      m_notices([this](int id) {
         if (m_listener) {
           m_listener(id);
         }
-      }) {
-  SetDirectory(L"");
-  QVMainCfg::Install(&m_mainCfg);
-  QVVornelGuids::Install(&m_notices);
-  QVLoadString::Install(&m_texts);
-  CreateDiscriminatorIndex::Install(&m_indexFiles);
-  QVClipboard::Install(&m_clipboard);
-}
-
-HostServices::~HostServices() {
-  QVClipboard::Install(nullptr);
-  CreateDiscriminatorIndex::Install(nullptr);
-  QVLoadString::Install(nullptr);
-  QVVornelGuids::Install(nullptr);
-  QVMainCfg::Install(nullptr);
-  QVVornelSetup::Install(nullptr);
-}
+      }),
+      m_installed(*m_setup, m_mainCfg, m_notices, m_texts, m_indexFiles, m_clipboard) {}
 
 void HostServices::SetDirectory(std::wstring_view directory) {
   auto setup = std::make_unique<qv::DirectorySetup>(directory, m_images, programIcon);

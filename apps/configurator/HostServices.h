@@ -9,6 +9,7 @@
 #include "hostkit/DirectorySetup.h"
 #include "hostkit/GuidNotices.h"
 #include "hostkit/IndexFiles.h"
+#include "hostkit/InstalledServices.h"
 #include "hostkit/LanguageFile.h"
 #include "hostkit/ui/QtClipboard.h"
 
@@ -22,7 +23,6 @@ class HostServices {
   explicit HostServices(std::wstring_view images);
   HostServices(const HostServices&) = delete;
   HostServices& operator=(const HostServices&) = delete;
-  ~HostServices();
 
   /// From now on the dialogs work on the files of `directory`. Not while one of them is open.
   void SetDirectory(std::wstring_view directory);
@@ -48,6 +48,7 @@ class HostServices {
   qv::LanguageFile m_texts;
   qv::IndexFiles m_indexFiles;
   qv::QtClipboard m_clipboard;
+  qv::InstalledServices m_installed;
 };
 
 }  // namespace configurator
