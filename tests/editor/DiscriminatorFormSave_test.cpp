@@ -1,5 +1,7 @@
 #include "editor/DiscriminatorForm.h"
 
+#include <functional>
+
 #include "tests/editor/FormFixture.h"
 #include "tools/Names.h"
 
@@ -271,6 +273,40 @@ TEST_F(FormTest, ADirectoryOfTheFilesNameMakesTheSaveFail) {
   prompter.ExpectShow(Text::DiscriminatorNotSaved);
   EXPECT_FALSE(form.Save(Named(L"OLD")));
   EXPECT_TRUE(files.directories.contains(L"/cfg/1.OLD.xdct"));
+}
+
+TEST_F(FormTest, AFullDiskForANewDiscriminatorCanBeOvercome) {
+  auto form = New();
+  files.diskSpace = 7;
+  prompter.ExpectShow(Text::DiscriminatorNotSaved);
+  EXPECT_FALSE(form.Save(Named(L"n")));
+  EXPECT_TRUE(files.contents.empty());
+  files.diskSpace.reset();
+  EXPECT_TRUE(form.Save(Named(L"n")));
+  EXPECT_EQ(files.contents.size(), 1U);
+  EXPECT_EQ(Entries(), 2U) << "one for each try";
+}
+
+TEST_F(FormTest, EachOfTheOtherStepsMayFailAlone) {
+  const std::vector<std::function<void()>> failures = {
+      [this] { files.refuseDirectories = true; },
+      [this] { files.writeProtected = {L"/cfg/1.old.xdct"}; },
+      [this] { files.writeProtected = {L"/cfg/1.old.xdctI"}; },
+      [this] { host.createIndex.result = false; },
+  };
+  for (std::size_t i = 0; i < failures.size(); ++i) {
+    SCOPED_TRACE(i);
+    files = ScriptedFiles();
+    files.contents[L"/cfg/1.old.xdctI"] = "index";
+    host.createIndex.result = true;
+    auto form = OpenContent(wholeFile);
+    failures[i]();
+    EXPECT_TRUE(form.Save(Named(L"new", L"d")));
+    EXPECT_EQ(Stored(L"/cfg/1.new.xdct", L"name"), L"new");
+    EXPECT_EQ(files.contents.contains(L"/cfg/1.old.xdct"), i == 1);
+    EXPECT_EQ(files.contents.contains(L"/cfg/1.old.xdctI"), i == 2);
+    EXPECT_EQ(host.createIndex.calls.size(), i + 1) << "the index is asked for all the same";
+  }
 }
 
 TEST_F(FormTest, WhatTheOtherStepsAnswerIsNotLookedAt) {
