@@ -3,7 +3,10 @@
 #include <QFile>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
+#include <QTimer>
 
 #include "tests/discriminator/ui/ManagerFixture.h"
 #include "toolkit/ProgressDialog.h"
@@ -190,7 +193,7 @@ class SlowReading : public SetupDiscriminators {
     QFile file(directory.filePath("big"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("<main>" + QByteArray("<leaf>text</leaf>").repeated(200'000) + "</main>");
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 40; ++i) {
       ASSERT_TRUE(file.link(directory.filePath(QStringLiteral("%1.n.xdct").arg(i))));
     }
   }
@@ -209,6 +212,63 @@ TEST_F(SlowReading, CancellingTheFirstReadingEndsTheDialog) {
                            });
   EXPECT_EQ(result, IDCANCEL);
   EXPECT_FALSE(dialog.isVisible());
+}
+
+/// Adds a discriminator while reading is slow, and presses Escape at the progress of the refresh.
+class SlowAdd {
+ public:
+  SlowAdd() {
+    QObject::connect(&m_poll, &QTimer::timeout, [this] { Look(); });
+    m_poll.start(5);
+  }
+
+  /// Of each progress window that came up, whether it offered Cancel.
+  std::vector<bool> offered;
+
+ private:
+  void Look() {
+    QWidget* top = TopWindow();
+    if (auto* progress = qobject_cast<ProgressDialog*>(top)) {
+      LookAtProgress(progress);
+    } else if (m_next == 0 && qobject_cast<CDlgSetupDiscriminators*>(top)) {
+      Then([] { Click(addButton); });
+    } else if (m_next == 1 && top && top->findChild<QLineEdit*>()) {
+      Then([] {
+        qobject_cast<QLineEdit*>(TopControl(nameEdit))->setText(QStringLiteral("Peak"));
+        Click(IDOK);
+      });
+    } else if (m_next == 2 && qobject_cast<CDlgSetupDiscriminators*>(top) && offered.size() == 2) {
+      Then([] { Click(exitButton); });
+    }
+  }
+
+  void LookAtProgress(ProgressDialog* progress) {
+    if (!m_progress) {
+      m_progress = progress;
+      offered.push_back(progress->findChild<QPushButton*>() != nullptr);
+    }
+    if (m_next == 2) {
+      QTest::keyClick(progress, Qt::Key_Escape);
+    }
+  }
+
+  /// The steps open windows, and so must not run inside the timer that watches these.
+  void Then(const std::function<void()>& step) {
+    ++m_next;
+    QTimer::singleShot(0, qApp, step);
+  }
+
+  QTimer m_poll;
+  QPointer<ProgressDialog> m_progress;
+  int m_next = 0;
+};
+
+TEST_F(SlowReading, ARefreshShowsProgressThatCannotBeCancelled) {
+  CDlgSetupDiscriminators dialog(nullptr, nullptr);
+  const SlowAdd user;
+  EXPECT_EQ(dialog.DoModal(), IDOK);
+  EXPECT_EQ(user.offered, (std::vector<bool>{true, false}));
+  EXPECT_EQ(host->guids.notices, (std::vector<int>{8, 5}));
 }
 
 }  // namespace
