@@ -136,6 +136,7 @@ void DiscriminatorList::CopyToClipboard(const std::vector<int>& selectedRows) co
     return;
   }
   std::vector<QVWideString> paths;
+  paths.reserve(selectedRows.size());
   for (const int row : selectedRows) {
     paths.push_back(PathOf(row));
   }

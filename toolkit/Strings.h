@@ -17,7 +17,7 @@ inline QString ToQString(const QVWideString& text) { return ToQString(text.ToVie
 /// A text of Qt as one of the rules.
 inline QVWideString ToWide(const QString& text) {
   const std::wstring wide = text.toStdWString();
-  return QVWideString(std::wstring_view(wide));
+  return QVWideString{std::wstring_view{wide}};
 }
 
 }  // namespace qv

@@ -17,7 +17,7 @@ std::wstring Digits(unsigned long long number, unsigned base) {
   return digits;
 }
 
-std::wstring Padded(std::wstring body, bool negative, std::size_t width, wchar_t fill) {
+std::wstring Padded(const std::wstring& body, bool negative, std::size_t width, wchar_t fill) {
   const std::size_t length = body.size() + (negative ? 1 : 0);
   const std::wstring padding(width > length ? width - length : 0, fill);
   const std::wstring sign = negative ? L"-" : L"";
