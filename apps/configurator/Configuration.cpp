@@ -78,6 +78,15 @@ const XmlNode* Configuration::DeviceGroups() const {
   return std::as_const(m_document).Root()->Node(L"deviceGroups");
 }
 
+void Configuration::SetDeviceGroups(const XmlNode* content) {
+  XmlNode* groups = DeviceGroups();
+  if (!content) {
+    m_document.Root()->RemoveChild(groups);
+  } else {
+    *(groups ? groups : m_document.Root()->NewChild(L"deviceGroups", nullptr)) = *content;
+  }
+}
+
 const XmlNode* Configuration::CommSystem() const {
   return std::as_const(m_document).Root()->Node(L"commSystem");
 }

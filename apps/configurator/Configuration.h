@@ -43,6 +43,10 @@ class Configuration {
   qv::XmlNode* DeviceGroups();
   const qv::XmlNode* DeviceGroups() const;
 
+  /// Replaces the content of that node, which is made if there is none, by that of `content`; null
+  /// removes the node.
+  void SetDeviceGroups(const qv::XmlNode* content);
+
   /// The devices that the installation talks to; null if there are none.
   const qv::XmlNode* CommSystem() const;
 

@@ -1,8 +1,10 @@
 #include "apps/configurator/DeviceTreeView.h"
 
 #include <QHeaderView>
-#include <QStandardItemModel>
+#include <QItemSelectionModel>
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <utility>
 
 #include "apps/configurator/Strings.h"
@@ -36,11 +38,52 @@ QStandardItem* Cell(const QString& text) {
 
 DeviceTreeView::DeviceTreeView(QIcon discriminatorIcon, QWidget* parent)
     : QTreeView(parent),
-      m_model(new QStandardItemModel(this)),
+      m_model(new DeviceTreeModel(this)),
       m_discriminatorIcon(std::move(discriminatorIcon)) {
   setModel(m_model);
   setUniformRowHeights(true);
   setAlternatingRowColors(true);
+  setSelectionMode(ExtendedSelection);
+  // A second click expands; names are typed after their command or its key.
+  setEditTriggers(NoEditTriggers);
+  setDragDropMode(DragDrop);
+  setDefaultDropAction(Qt::MoveAction);
+}
+
+std::vector<TreePlace> DeviceTreeView::Selected() const {
+  std::vector<TreePlace> places;
+  const auto lines = selectionModel()->selectedRows();
+  std::transform(lines.begin(), lines.end(), std::back_inserter(places), PlaceOf);
+  std::sort(places.begin(), places.end());
+  return places;
+}
+
+void DeviceTreeView::Select(const std::vector<TreePlace>& places) {
+  QItemSelection lines;
+  for (const TreePlace& place : places) {
+    const QModelIndex line = IndexOf(place);
+    if (line.isValid()) {
+      lines.select(line, line);
+    }
+  }
+  if (!lines.isEmpty()) {
+    setCurrentIndex(lines.first().topLeft());
+    selectionModel()->select(lines,
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  }
+}
+
+void DeviceTreeView::EditName(const TreePlace& place) { edit(IndexOf(place)); }
+
+QModelIndex DeviceTreeView::IndexOf(const TreePlace& place) const {
+  QModelIndex index;
+  for (const int row : place) {
+    index = m_model->index(row, 0, index);
+    if (!index.isValid()) {
+      break;
+    }
+  }
+  return index;
 }
 
 void DeviceTreeView::Show(const std::vector<DeviceTreeItem>& items, Language language) {
@@ -78,9 +121,15 @@ void DeviceTreeView::AddItems(QStandardItem* parent, const std::vector<DeviceTre
 
 QList<QStandardItem*> DeviceTreeView::Line(const DeviceTreeItem& item, const QString& key) const {
   QStandardItem* name = Cell(NameText(item));
+  QStandardItem* type = Cell(TypeText(item));
+  const bool isGroup = item.kind == DeviceTreeItem::Kind::Group;
   name->setIcon(IconOf(item));
   name->setData(key, keyRole);
-  return {name, Cell(TypeText(item))};
+  name->setData(qv::ToQString(item.name), DeviceTreeModel::nameRole);
+  name->setEditable(isGroup);
+  name->setDropEnabled(isGroup);
+  type->setDropEnabled(false);
+  return {name, type};
 }
 
 QString DeviceTreeView::NameText(const DeviceTreeItem& item) const {

@@ -6,14 +6,15 @@
 #include <vector>
 
 #include "apps/configurator/DeviceTree.h"
+#include "apps/configurator/DeviceTreeModel.h"
 #include "apps/configurator/OwnTexts.h"
 
 class QStandardItem;
-class QStandardItemModel;
 
 namespace configurator {
 
-/// Shows the device groups: names in the first column, types and what is amiss in the second.
+/// Shows the device groups: names in the first column, types and what is amiss in the second. Lines
+/// can be selected, dragged and dropped; the names of groups can be typed.
 class DeviceTreeView : public QTreeView {
   Q_OBJECT
 
@@ -24,7 +25,19 @@ class DeviceTreeView : public QTreeView {
   /// current line stays current, as far as they are still there.
   void Show(const std::vector<DeviceTreeItem>& items, Language language);
 
+  /// The places of the selected lines, in the order of the tree.
+  std::vector<TreePlace> Selected() const;
+  /// Selects these lines and no others, and scrolls to the first of them, which becomes the current
+  /// one. Places that aren't there are passed over.
+  void Select(const std::vector<TreePlace>& places);
+  /// Lets the user type the name of the group at `place`.
+  void EditName(const TreePlace& place);
+
+  /// The model of the lines, which tells of what the user does to them.
+  DeviceTreeModel& Lines() { return *m_model; }
+
  private:
+  QModelIndex IndexOf(const TreePlace& place) const;
   void SetTexts(Language language);
   void AddItems(QStandardItem* parent, const std::vector<DeviceTreeItem>& items);
   QList<QStandardItem*> Line(const DeviceTreeItem& item, const QString& key) const;
@@ -33,7 +46,7 @@ class DeviceTreeView : public QTreeView {
   QIcon IconOf(const DeviceTreeItem& item) const;
   void Restore(const QSet<QString>& collapsed, const QString& current);
 
-  QStandardItemModel* m_model;
+  DeviceTreeModel* m_model;
   QIcon m_discriminatorIcon;
   Language m_language = Language::English;
 };

@@ -2,6 +2,7 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
 #include <QMenuBar>
@@ -10,10 +11,11 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "apps/configurator/Boxes.h"
 #include "apps/configurator/DeviceTree.h"
+#include "apps/configurator/DeviceTreeEditor.h"
 #include "apps/configurator/DeviceTreeView.h"
 #include "apps/configurator/DiscriminatorManager.h"
-#include "apps/configurator/ProblemBox.h"
 #include "apps/configurator/StatusLine.h"
 
 namespace configurator {
@@ -32,11 +34,12 @@ MainWindow::MainWindow(Workspace& workspace)
     : m_workspace(workspace),
       m_languageChoice(new QActionGroup(this)),
       m_statusLine(new StatusLine(this)) {
+  MakeCentre();
   MakeFileMenu();
+  MakeEditMenu();
   MakeSettingsMenu();
   MakeHelpMenu();
   MakeToolbar();
-  MakeCentre();
   setStatusBar(m_statusLine);
   resize(firstSize);
   m_workspace.Services().SetListener([this](int id) { m_statusLine->AddNotice(id); });
@@ -47,12 +50,34 @@ MainWindow::MainWindow(Workspace& workspace)
 MainWindow::~MainWindow() { m_workspace.Services().SetListener({}); }
 
 void MainWindow::Open(const QString& directory) {
+  if (!MayLeaveInstallation()) {
+    return;
+  }
   if (const auto problem = m_workspace.Open(directory)) {
     Report(*problem);
   } else {
+    m_editor->Forget();
     ShowInstallation();
     ShowTree();
     ShowState();
+  }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(MayLeaveInstallation()); }
+
+bool MainWindow::MayLeaveInstallation() {
+  if (!m_workspace.Config().IsChanged()) {
+    return true;
+  }
+  const QString question =
+      m_workspace.Words(OwnText::SaveChangesQuestion).arg(m_workspace.Directory());
+  switch (AskAboutChanges(question, m_workspace, this)) {
+    case QMessageBox::Save:
+      return OnSave();
+    case QMessageBox::Discard:
+      return true;
+    default:
+      return false;
   }
 }
 
@@ -87,6 +112,15 @@ void MainWindow::MakeFileMenu() {
                 OwnText::Quit);
   quit->setShortcut(Qt::CTRL | Qt::Key_Q);
   connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+void MainWindow::MakeEditMenu() {
+  m_editor = new DeviceTreeEditor(m_workspace, *m_tree, this);
+  m_editor->AddTo(*NewMenu(nullptr, OwnText::EditMenu));
+  connect(m_editor, &DeviceTreeEditor::Changed, this, [this] {
+    ShowTree();
+    ShowState();
+  });
 }
 
 void MainWindow::MakeSettingsMenu() {
@@ -147,13 +181,15 @@ void MainWindow::OnOpen() {
   }
 }
 
-void MainWindow::OnSave() {
-  if (const auto problem = m_workspace.Save()) {
+bool MainWindow::OnSave() {
+  const auto problem = m_workspace.Save();
+  if (problem) {
     Report(*problem);
   } else {
     m_statusLine->Tell(OwnText::ConfigurationSaved);
   }
   ShowState();
+  return !problem;
 }
 
 void MainWindow::OnLanguage(Language language) {
@@ -171,6 +207,8 @@ void MainWindow::OnEmbedded(bool embedded) {
 void MainWindow::OnDiscriminators() {
   m_statusLine->Tell(OwnText::Ready);
   const ManagerEnd end = RunDiscriminatorManager(m_workspace, this);
+  // What was undone before could not be redone on the tree that the manager leaves.
+  m_editor->Forget();
   // Files and tree may have changed in every case: the result speaks of the configuration alone.
   ShowTree();
   ShowState();
@@ -193,6 +231,7 @@ void MainWindow::ShowTexts() {
   m_discriminators->setText(m_workspace.Words(OwnText::Discriminators));
   m_languages.at(m_workspace.CurrentLanguage())->setChecked(true);
   m_statusLine->SetLanguage(m_workspace.CurrentLanguage());
+  m_editor->ShowTexts();
   ShowTree();
   ShowState();
 }

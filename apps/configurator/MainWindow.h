@@ -15,6 +15,7 @@ class QToolBar;
 
 namespace configurator {
 
+class DeviceTreeEditor;
 class DeviceTreeView;
 class StatusLine;
 
@@ -29,11 +30,16 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   /// Opens the installation in `directory`; if it is refused, tells why and stays with the present
-  /// one.
+  /// one. Asks first what is to become of unsaved changes.
   void Open(const QString& directory);
+
+ protected:
+  /// Asks first what is to become of unsaved changes.
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   void MakeFileMenu();
+  void MakeEditMenu();
   void MakeSettingsMenu();
   void MakeLanguageMenu(QMenu* settings);
   void MakeHelpMenu();
@@ -43,12 +49,13 @@ class MainWindow : public QMainWindow {
   QMenu* NewMenu(QMenu* parent, OwnText text);
 
   void OnOpen();
-  void OnSave();
+  bool OnSave();
   void OnLanguage(Language language);
   void OnEmbedded(bool embedded);
   void OnDiscriminators();
   void OnAbout();
 
+  bool MayLeaveInstallation();
   void ShowTexts();
   void ShowInstallation();
   void ShowTree();
@@ -64,6 +71,7 @@ class MainWindow : public QMainWindow {
   QAction* m_embedded = nullptr;
   QToolBar* m_toolbar = nullptr;
   DeviceTreeView* m_tree = nullptr;
+  DeviceTreeEditor* m_editor = nullptr;
   QPushButton* m_discriminators = nullptr;
   StatusLine* m_statusLine = nullptr;
 };

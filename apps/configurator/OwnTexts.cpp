@@ -17,6 +17,19 @@ constexpr std::array rows = {
     Row{OwnText::OpenInstallation, "&Abrir instalación…", "&Open installation…"},
     Row{OwnText::Save, "&Guardar", "&Save"},
     Row{OwnText::Quit, "&Salir", "&Quit"},
+    Row{OwnText::EditMenu, "&Editar", "&Edit"},
+    Row{OwnText::Undo, "&Deshacer", "&Undo"},
+    Row{OwnText::UndoEdit, "&Deshacer: %1", "&Undo: %1"},
+    Row{OwnText::Redo, "&Rehacer", "&Redo"},
+    Row{OwnText::RedoEdit, "&Rehacer: %1", "&Redo: %1"},
+    Row{OwnText::NewGroup, "&Nuevo grupo", "New &group"},
+    Row{OwnText::NewGroupName, "Nuevo grupo", "New group"},
+    Row{OwnText::RenameGroup, "&Cambiar nombre del grupo", "Re&name group"},
+    Row{OwnText::RemoveGroup, "&Eliminar grupo", "Remo&ve group"},
+    Row{OwnText::MoveUp, "&Subir", "Move u&p"},
+    Row{OwnText::MoveDown, "&Bajar", "Move &down"},
+    Row{OwnText::MoveToMenu, "&Mover a", "&Move to"},
+    Row{OwnText::TopLevel, "(fuera de los grupos)", "(outside the groups)"},
     Row{OwnText::SettingsMenu, "&Configuración", "&Settings"},
     Row{OwnText::LanguageMenu, "&Idioma", "&Language"},
     Row{OwnText::EmbeddedInstallation, "Instalación &embebida", "&Embedded installation"},
@@ -29,6 +42,11 @@ constexpr std::array rows = {
         "discriminators."},
     Row{OwnText::Toolbar, "Herramientas", "Tools"},
     Row{OwnText::Discriminators, "&Discriminadores…", "&Discriminators…"},
+
+    Row{OwnText::GroupMade, "nuevo grupo", "new group"},
+    Row{OwnText::GroupRenamed, "cambio de nombre", "renaming"},
+    Row{OwnText::GroupRemoved, "eliminación de grupo", "removal of a group"},
+    Row{OwnText::LinesMoved, "movimiento", "move"},
 
     Row{OwnText::Tree, "Grupos y dispositivos", "Groups and devices"},
     Row{OwnText::TreeType, "Tipo", "Type"},
@@ -51,6 +69,10 @@ constexpr std::array rows = {
         "Device groups changed (5)"},
     Row{OwnText::PartChanged, "Ha cambiado una parte de la configuración (%1)",
         "A part of the configuration changed (%1)"},
+
+    Row{OwnText::SaveChangesQuestion,
+        "La configuración de «%1» tiene cambios sin guardar. ¿Guardarlos?",
+        "The configuration of “%1” has changes that are not saved. Save them?"},
 
     Row{OwnText::ConfigurationUnreadable,
         "No se puede leer la configuración «%1»: no hay permiso de lectura o el archivo está "

@@ -13,6 +13,19 @@ enum class OwnText {
   OpenInstallation,
   Save,
   Quit,
+  EditMenu,
+  Undo,
+  UndoEdit,  ///< %1 is what the edit did
+  Redo,
+  RedoEdit,  ///< %1 likewise
+  NewGroup,
+  NewGroupName,
+  RenameGroup,
+  RemoveGroup,
+  MoveUp,
+  MoveDown,
+  MoveToMenu,
+  TopLevel,
   SettingsMenu,
   LanguageMenu,
   EmbeddedInstallation,
@@ -21,6 +34,12 @@ enum class OwnText {
   AboutProgram,  ///< %1 is the version
   Toolbar,
   Discriminators,
+
+  // What an edit did, as the undo menu tells it
+  GroupMade,
+  GroupRenamed,
+  GroupRemoved,
+  LinesMoved,
 
   Tree,      ///< heading of the names in the tree of devices and groups
   TreeType,  ///< heading of the types
@@ -36,6 +55,8 @@ enum class OwnText {
   DiscriminatorFilesChanged,
   DeviceGroupsChanged,
   PartChanged,  ///< %1 is the number of the part
+
+  SaveChangesQuestion,  ///< %1 is the directory
 
   // What went wrong, and what to do; %1 is the file or directory
   ConfigurationUnreadable,

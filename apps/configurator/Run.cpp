@@ -5,10 +5,10 @@
 #include <QLocale>
 #include <cstdio>
 
+#include "apps/configurator/Boxes.h"
 #include "apps/configurator/DiscriminatorManager.h"
 #include "apps/configurator/MainWindow.h"
 #include "apps/configurator/Presenter.h"
-#include "apps/configurator/ProblemBox.h"
 #include "apps/configurator/Theme.h"
 #include "apps/configurator/Workspace.h"
 

@@ -72,7 +72,7 @@ TEST(DeviceTreeView, SpeaksTheLanguageThatItIsGiven) {
   EXPECT_EQ(view.accessibleName(), "Grupos y dispositivos");
 }
 
-TEST(DeviceTreeView, IsReadOnly) {
+TEST(DeviceTreeView, DevicesCanNotBeRenamed) {
   DeviceTreeView view{QIcon()};
   view.Show({Device(L"D")}, Language::English);
   EXPECT_FALSE(view.model()->index(0, 0).flags() & Qt::ItemIsEditable);

@@ -36,10 +36,13 @@ TEST(OwnTexts, EachTextExistsInEachLanguageWithTheSamePlaceholders) {
 
 TEST(OwnTexts, NoTwoCaptionsBesideEachOtherShareTheirKey) {
   for (const LanguageName& known : languageNames) {
-    ExpectOwnKeys(
-        {OwnText::FileMenu, OwnText::SettingsMenu, OwnText::HelpMenu, OwnText::Discriminators},
-        known.language);
+    ExpectOwnKeys({OwnText::FileMenu, OwnText::EditMenu, OwnText::SettingsMenu, OwnText::HelpMenu,
+                   OwnText::Discriminators},
+                  known.language);
     ExpectOwnKeys({OwnText::OpenInstallation, OwnText::Save, OwnText::Quit}, known.language);
+    ExpectOwnKeys({OwnText::Undo, OwnText::Redo, OwnText::NewGroup, OwnText::RenameGroup,
+                   OwnText::RemoveGroup, OwnText::MoveUp, OwnText::MoveDown, OwnText::MoveToMenu},
+                  known.language);
     ExpectOwnKeys({OwnText::LanguageMenu, OwnText::EmbeddedInstallation}, known.language);
   }
 }

@@ -1,0 +1,267 @@
+#include "apps/configurator/DeviceGroupEdits.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <string>
+#include <utility>
+
+#include "tools/QVBasicString.h"
+
+namespace configurator {
+namespace {
+
+using qv::XmlNode;
+using NodeSet = std::set<const XmlNode*>;
+
+constexpr wchar_t groupsTag[] = L"groups";
+constexpr wchar_t devicesTag[] = L"devices";
+
+/// A line of the tree, and the container that its node is a child of.
+struct Line {
+  XmlNode* container = nullptr;
+  XmlNode* node = nullptr;
+  bool isGroup = false;
+
+  friend bool operator==(const Line&, const Line&) = default;
+};
+
+void AddLines(XmlNode* container, bool areGroups, std::vector<Line>& lines) {
+  if (container) {
+    std::transform(container->ChildsBegin(), container->ChildsEnd(), std::back_inserter(lines),
+                   [&](XmlNode* child) {
+                     return Line{container, child, areGroups};
+                   });
+  }
+}
+
+std::vector<Line> LinesOf(XmlNode& level) {
+  std::vector<Line> lines;
+  AddLines(level.Node(groupsTag), true, lines);
+  AddLines(level.Node(devicesTag), false, lines);
+  return lines;
+}
+
+/// Reading changes nothing.
+std::vector<Line> LinesOf(const XmlNode& level) { return LinesOf(const_cast<XmlNode&>(level)); }
+
+/// The line at `place`; one without a node if there is none.
+Line Find(XmlNode& deviceGroups, const TreePlace& place) {
+  Line line{nullptr, &deviceGroups, true};
+  for (const int row : place) {
+    if (!line.isGroup) {
+      return {};
+    }
+    const auto lines = LinesOf(*line.node);
+    if (row < 0 || row >= static_cast<int>(lines.size())) {
+      return {};
+    }
+    line = lines[static_cast<std::size_t>(row)];
+  }
+  return line;
+}
+
+Line Find(const XmlNode& deviceGroups, const TreePlace& place) {
+  return Find(const_cast<XmlNode&>(deviceGroups), place);
+}
+
+TreePlace Parent(TreePlace place) {
+  place.pop_back();
+  return place;
+}
+
+bool IsAtOrBelow(const TreePlace& place, const TreePlace& above) {
+  return above.size() <= place.size() && std::equal(above.begin(), above.end(), place.begin());
+}
+
+/// In the order of the tree, without what stands below another or comes twice.
+std::vector<TreePlace> Outermost(std::vector<TreePlace> places) {
+  std::sort(places.begin(), places.end());
+  std::vector<TreePlace> outermost;
+  for (TreePlace& place : places) {
+    if (outermost.empty() || !IsAtOrBelow(place, outermost.back())) {
+      outermost.push_back(std::move(place));
+    }
+  }
+  return outermost;
+}
+
+/// How many groups stand in each other from this line down.
+int Depth(const Line& line) {
+  if (!line.isGroup) {
+    return 0;
+  }
+  int below = 0;
+  for (const Line& child : LinesOf(*line.node)) {
+    below = std::max(below, Depth(child));
+  }
+  return below + 1;
+}
+
+XmlNode& Made(XmlNode& level, const wchar_t* containerTag) {
+  XmlNode* container = level.Node(containerTag);
+  return container ? *container : *level.NewChild(containerTag, nullptr);
+}
+
+/// The children of a level before which something is put, or null for behind all.
+struct Gap {
+  const XmlNode* group = nullptr;
+  const XmlNode* device = nullptr;
+};
+
+/// The gap before the row `row`, between lines that aren't `moved` themselves.
+Gap GapAt(XmlNode& level, std::optional<int> row, const std::vector<Line>& moved) {
+  Gap gap;
+  const auto lines = LinesOf(level);
+  for (std::size_t i = lines.size(); row && i > 0 && static_cast<int>(i) > *row; --i) {
+    const Line& line = lines[i - 1];
+    if (std::find(moved.begin(), moved.end(), line) == moved.end()) {
+      (line.isGroup ? gap.group : gap.device) = line.node;
+    }
+  }
+  return gap;
+}
+
+/// Moves the line's node to the end of `container`, as a copy.
+XmlNode* Transfer(const Line& line, XmlNode& container) {
+  XmlNode* copy = container.NewChild(std::wstring(line.node->Tag().ToView()).c_str(), nullptr);
+  *copy = *line.node;
+  line.container->RemoveChild(line.node);
+  return copy;
+}
+
+/// Moves those of `lines` that are groups, or those that are devices, into `level`, before the
+/// child `before` or behind all for null. Gives the nodes that stand there now.
+NodeSet MoveKind(const std::vector<Line>& lines, bool areGroups, XmlNode& level,
+                 const XmlNode* before) {
+  const wchar_t* const tag = areGroups ? groupsTag : devicesTag;
+  NodeSet moved;
+  for (const Line& line : lines) {
+    if (line.isGroup == areGroups) {
+      moved.insert(Transfer(line, Made(level, tag)));
+    }
+  }
+  if (!moved.empty() && before) {
+    XmlNode& container = Made(level, tag);
+    const auto end = container.ChildsEnd();
+    std::rotate(std::find(container.ChildsBegin(), end, before),
+                std::prev(end, static_cast<std::ptrdiff_t>(moved.size())), end);
+  }
+  return moved;
+}
+
+/// Adds the place of each of `nodes` that stands below `level`, which is at `place`.
+void AddPlaces(const XmlNode& level, const TreePlace& place, const NodeSet& nodes,
+               std::vector<TreePlace>& places) {
+  TreePlace below = place;
+  below.push_back(0);
+  for (const Line& line : LinesOf(level)) {
+    if (nodes.count(line.node) > 0) {
+      places.push_back(below);
+    } else if (line.isGroup) {
+      AddPlaces(*line.node, below, nodes, places);
+    }
+    ++below.back();
+  }
+}
+
+void AddGroups(const XmlNode& level, const TreePlace& place, std::vector<GroupLine>& groups) {
+  TreePlace below = place;
+  below.push_back(0);
+  for (const Line& line : LinesOf(level)) {
+    if (line.isGroup) {
+      groups.push_back({below, std::wstring(line.node->Value(L"name", L"").ToView())});
+      AddGroups(*line.node, below, groups);
+      ++below.back();
+    }
+  }
+}
+
+}  // namespace
+
+std::vector<GroupLine> GroupsOf(const XmlNode& deviceGroups) {
+  std::vector<GroupLine> groups;
+  AddGroups(deviceGroups, {}, groups);
+  return groups;
+}
+
+bool IsGroupPlace(const XmlNode& deviceGroups, const TreePlace& place) {
+  return Find(deviceGroups, place).isGroup;
+}
+
+Siblings SiblingsOf(const XmlNode& deviceGroups, const TreePlace& place) {
+  const Line line = place.empty() ? Line{} : Find(deviceGroups, place);
+  if (!line.node) {
+    return {};
+  }
+  const auto lines = LinesOf(*Find(deviceGroups, Parent(place)).node);
+  const auto isSibling = [&](const Line& other) { return other.isGroup == line.isGroup; };
+  const auto first = std::find_if(lines.begin(), lines.end(), isSibling);
+  return {static_cast<int>(first - lines.begin()),
+          static_cast<int>(std::count_if(first, lines.end(), isSibling))};
+}
+
+std::optional<TreePlace> AddGroup(XmlNode& deviceGroups, const TreePlace& parent,
+                                  std::wstring_view name) {
+  const Line line = Find(deviceGroups, parent);
+  if (!line.isGroup || parent.size() >= maxGroupDepth) {
+    return std::nullopt;
+  }
+  XmlNode& groups = Made(*line.node, groupsTag);
+  groups.NewChild(L"group", nullptr)->SetValue(L"name", QVWideString(name));
+  TreePlace place = parent;
+  place.push_back(static_cast<int>(std::distance(groups.ChildsBegin(), groups.ChildsEnd())) - 1);
+  return place;
+}
+
+bool RenameGroup(XmlNode& deviceGroups, const TreePlace& place, std::wstring_view name) {
+  const Line line = Find(deviceGroups, place);
+  if (!line.isGroup || place.empty()) {
+    return false;
+  }
+  line.node->SetValue(L"name", QVWideString(name));
+  return true;
+}
+
+bool RemoveGroup(XmlNode& deviceGroups, const TreePlace& place) {
+  const Line group = Find(deviceGroups, place);
+  if (!group.isGroup || place.empty()) {
+    return false;
+  }
+  XmlNode& around = *Find(deviceGroups, Parent(place)).node;
+  const auto lines = LinesOf(*group.node);
+  MoveKind(lines, true, around, group.node);
+  MoveKind(lines, false, around, nullptr);
+  group.container->RemoveChild(group.node);
+  return true;
+}
+
+bool CanMove(const XmlNode& deviceGroups, const std::vector<TreePlace>& what,
+             const TreePlace& group) {
+  const auto fits = [&](const TreePlace& place) {
+    const Line line = place.empty() ? Line{} : Find(deviceGroups, place);
+    return line.node && !(line.isGroup && IsAtOrBelow(group, place)) &&
+           static_cast<int>(group.size()) + Depth(line) <= maxGroupDepth;
+  };
+  return IsGroupPlace(deviceGroups, group) && std::all_of(what.begin(), what.end(), fits);
+}
+
+std::vector<TreePlace> MoveLines(XmlNode& deviceGroups, std::vector<TreePlace> what,
+                                 const TreePlace& group, std::optional<int> row) {
+  if (!CanMove(deviceGroups, what, group)) {
+    return {};
+  }
+  std::vector<Line> lines;
+  for (const TreePlace& place : Outermost(std::move(what))) {
+    lines.push_back(Find(deviceGroups, place));
+  }
+  XmlNode& level = *Find(deviceGroups, group).node;
+  const Gap gap = GapAt(level, row, lines);
+  NodeSet moved = MoveKind(lines, true, level, gap.group);
+  moved.merge(MoveKind(lines, false, level, gap.device));
+  std::vector<TreePlace> places;
+  AddPlaces(deviceGroups, {}, moved, places);
+  return places;
+}
+
+}  // namespace configurator

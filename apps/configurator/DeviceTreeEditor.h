@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QObject>
+#include <QUndoStack>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "apps/configurator/DeviceGroupEdits.h"
+#include "apps/configurator/Workspace.h"
+
+class QAction;
+class QMenu;
+
+namespace configurator {
+
+class DeviceTreeView;
+
+/// What the user can do to the device groups: the commands of a menu, which the view has as well,
+/// and what is dragged and typed in the view. All of it can be undone until `Forget`.
+class DeviceTreeEditor : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Both outlive the editor; `view` shows the device groups of the open installation.
+  DeviceTreeEditor(Workspace& workspace, DeviceTreeView& view, QObject* parent);
+
+  ~DeviceTreeEditor() override;
+
+  /// Adds the commands to `menu`.
+  void AddTo(QMenu& menu);
+  /// Names all commands in the language of the workspace.
+  void ShowTexts();
+  /// Takes back the chance to undo and redo, since something else changed the device groups.
+  void Forget() { m_undo.clear(); }
+
+ signals:
+  /// The device groups are others now: they have to be shown.
+  void Changed();
+
+ private:
+  using Places = std::vector<TreePlace>;
+  /// Changes the tree and gives the places to select then; no change if none.
+  using Edit = std::function<Places(qv::XmlNode&)>;
+
+  QAction* NewCommand(OwnText text, const QKeySequence& keys, void (DeviceTreeEditor::*run)());
+  void MakeUndo();
+  void ListenToView();
+
+  void OnNewGroup();
+  void OnRename();
+  void OnRemove();
+  void OnUp();
+  void OnDown();
+  void Rename(const TreePlace& place, const QString& name);
+  void Move(const Places& what, const TreePlace& group, std::optional<int> row);
+  void MoveBy(int rows);
+
+  void Apply(OwnText what, const Edit& edit);
+  void ShowState();
+  void ShowUndoTexts();
+  void FillMoveTo();
+  void AddTarget(const QString& name, const TreePlace& group);
+
+  const qv::XmlNode& Groups() const;
+  bool IsSelectedGroup() const;
+  bool CanMoveBy(int rows) const;
+
+  Workspace& m_workspace;
+  DeviceTreeView& m_view;
+  QUndoStack m_undo;
+  std::vector<std::pair<QAction*, OwnText>> m_commands;
+  QAction* m_undoCommand = nullptr;
+  QAction* m_redoCommand = nullptr;
+  QAction* m_rename = nullptr;
+  QAction* m_remove = nullptr;
+  QAction* m_up = nullptr;
+  QAction* m_down = nullptr;
+  std::unique_ptr<QMenu> m_moveTo;
+};
+
+}  // namespace configurator
