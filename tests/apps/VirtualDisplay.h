@@ -1,0 +1,62 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+namespace configurator {
+
+/// How long a process may take to do anything, in milliseconds: the machine may be busy.
+inline constexpr int patience = 120000;
+
+/// A screen of X that nobody sees, with real windows, keys and a clipboard.
+class VirtualDisplay {
+ public:
+  VirtualDisplay() {
+    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
+    EXPECT_TRUE(m_server.waitForReadyRead(patience)) << qPrintable(m_server.errorString());
+    m_environment.insert("DISPLAY", ':' + m_server.readLine().trimmed());
+    m_environment.insert("QT_QPA_PLATFORM", "xcb");
+  }
+
+  ~VirtualDisplay() { End(m_server); }
+
+  /// Starts a program on this screen, to be given to `End`.
+  void Start(QProcess& process, const QString& program, const QStringList& arguments) const {
+    process.setProcessEnvironment(m_environment);
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForStarted(patience)) << qPrintable(process.errorString());
+  }
+
+  static void End(QProcess& process) {
+    process.terminate();
+    if (!process.waitForFinished(patience)) {
+      process.kill();
+    }
+  }
+
+  /// Waits until `process` has a window, and gives it the keys from now on.
+  void Focus(const QProcess& process) const {
+    Do({"search", "--sync", "--all", "--onlyvisible", "--pid", QString::number(process.processId()),
+        "--name", ".*", "windowfocus", "--sync"});
+  }
+
+  /// Presses keys as the keyboard does, as in "shift+End".
+  void Press(const QString& keys) const { Do({"key", keys}); }
+
+ private:
+  void Do(const QStringList& command) const {
+    QProcess tool;
+    tool.setProcessEnvironment(m_environment);
+    tool.start("xdotool", command);
+    EXPECT_TRUE(tool.waitForFinished(patience)) << qPrintable(tool.errorString());
+    EXPECT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().toStdString();
+  }
+
+  QProcess m_server;
+  QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+};
+
+}  // namespace configurator
