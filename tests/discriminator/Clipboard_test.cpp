@@ -208,6 +208,20 @@ TEST_F(ClipboardTest, AnythingElseOnTheClipboardDoesNothing) {
   EXPECT_TRUE(files.log.empty());
 }
 
+TEST_F(ClipboardTest, ForeignTextOfAnySizeDoesNothing) {
+  constexpr std::size_t size = std::size_t{50} * 1024 * 1024;
+  std::string document = "<html>";
+  while (document.size() < size) {
+    document += "<p>something else</p>";
+  }
+  for (const std::string& text :
+       {std::string(size, 'x'), std::string(size, ' '), document + "</html>"}) {
+    PasteText(text.c_str());
+    EXPECT_EQ(refreshes, 1);
+    EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, false}));
+  }
+}
+
 TEST_F(ClipboardTest, APayloadThatAMailProgramHasWrappedStillWorks) {
   PasteText(
       "\r\n<discriminatorClipboard>\r\n  <discriminator>\r\n<main>\r\n<name>mailed</name>\r\n"

@@ -98,6 +98,13 @@ TEST_F(RemovalTest, SeveralRowsGoFromTheTopWithOneQuestion) {
   EXPECT_TRUE(list.Changed());
 }
 
+TEST_F(RemovalTest, ARowGoesBetweenItsTwoNotices) {
+  prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
+  std::vector<std::vector<int>> noticesBefore;
+  list.OnRemove({1, 2}, [&](int) { noticesBefore.push_back(host.guids.notices); });
+  EXPECT_EQ(noticesBefore, (std::vector<std::vector<int>>{{5}, {5, 8, 5}}));
+}
+
 TEST_F(RemovalTest, TheRowThatMovedUpIsSelectedOrElseTheNewLastOne) {
   EXPECT_EQ(Remove({1}).rowToSelect, 1);
   EXPECT_EQ(Remove({2}).rowToSelect, 1);

@@ -94,7 +94,8 @@ TEST_F(FormTest, OnlyTheTextBetweenTheFirstTwoDotsOfAFileNameIsTaken) {
 TEST_F(FormTest, ANameIsTakenByADirectoryAndByAFileThatTheListLeavesOut) {
   files.directories.insert(L"/cfg/1.folder.xdct");
   files.contents[L"/cfg/2.broken.xdct"] = "<";
-  for (const wchar_t* name : {L"folder", L"broken"}) {
+  files.contents[L"/cfg/3.Renamed.xdct"] = "<main><id>3</id><name>renamed</name></main>";
+  for (const wchar_t* name : {L"folder", L"broken", L"renamed"}) {
     prompter.ExpectShow(Text::DiscriminatorNameTaken);
     EXPECT_FALSE(New().Save(Named(name)));
   }

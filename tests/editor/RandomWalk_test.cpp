@@ -37,7 +37,7 @@ class Walk {
     m_notices.clear();
     host.guids.notices.clear();
     files.log.clear();
-    switch (Below(7)) {
+    switch (Below(8)) {
       case 0:
       case 1:
         Add();
@@ -53,6 +53,9 @@ class Walk {
         break;
       case 5:
         Paste();
+        break;
+      case 6:
+        MoveEntryIntoGroup();
         break;
       default:
         m_list.OnAdd([](XmlNode*, const QVWideString*) { return EditorEnd{}; }, [] {});
@@ -197,10 +200,17 @@ class Walk {
     const auto before = Ids();
     const auto payload = host.clipboard.text ? ParsePayloadNames() : std::vector<Known>();
     const auto rowsBefore = NamesOfRows();
+    const bool diskFails = Below(6) == 0;
+    if (diskFails) {
+      files.diskSpace = 0;
+    }
     m_list.PasteFromClipboard([this] { Refresh(); });
+    files.diskSpace.reset();
     std::multiset<std::wstring> expected;
     for (const Known& item : payload) {
-      expected.insert(FreeName(item.name, rowsBefore));
+      if (!diskFails) {
+        expected.insert(FreeName(item.name, rowsBefore));
+      }
       m_notices.insert(m_notices.end(), {8, 5});
       m_changed = true;
     }
@@ -210,10 +220,35 @@ class Walk {
       if (!before.contains(id)) {
         pasted.insert(std::wstring(row.shown.name.ToView()));
         m_known[id] = Stored(id);
-        ++m_entries[id];
       }
     }
     EXPECT_EQ(pasted, expected);
+    // Each item has its entry, also one that the disk did not take.
+    const auto entries = Entries();
+    const auto entriesBefore = m_entries.size();
+    m_entries.insert(entries.begin(), entries.end());
+    EXPECT_EQ(m_entries.size(), entriesBefore + payload.size());
+  }
+
+  /// What the host's user does between two runs.
+  void MoveEntryIntoGroup() {
+    XmlNode* devices = m_groups.Root()->Node(L"devices");
+    if (!devices || devices->ChildsBegin() == devices->ChildsEnd()) {
+      return;
+    }
+    XmlNode* level = m_groups.Root();
+    for (int depth = Below(3); depth >= 0; --depth) {
+      XmlNode* groups = level->Node(L"groups");
+      groups = groups ? groups : level->NewChild(L"groups", nullptr);
+      level = Below(2) == 0 && groups->ChildsBegin() != groups->ChildsEnd()
+                  ? *groups->ChildsBegin()
+                  : groups->NewChild(L"any", nullptr);
+    }
+    XmlNode* target = level->Node(L"devices");
+    target = target ? target : level->NewChild(L"devices", nullptr);
+    XmlNode* entry = *devices->ChildsBegin();
+    *target->NewChild(L"device", nullptr) = *entry;
+    devices->RemoveChild(entry);
   }
 
   static std::wstring FreeName(const std::wstring& name, const std::vector<std::wstring>& taken) {
@@ -295,18 +330,28 @@ class Walk {
     EXPECT_EQ(m_list.Rows().size(), m_known.size());
     EXPECT_EQ(host.guids.notices, m_notices);
     EXPECT_EQ(m_list.Changed(), m_changed);
-    CheckEntries();
+    EXPECT_EQ(Entries(), m_entries);
   }
 
-  void CheckEntries() {
-    std::map<std::wstring, int> actual;
-    if (const XmlNode* devices = m_groups.Root()->Node(L"devices")) {
+  /// How many entries each id has, at any level.
+  std::map<std::wstring, int> Entries() {
+    std::map<std::wstring, int> entries;
+    CountEntries(*m_groups.Root(), entries);
+    return entries;
+  }
+
+  static void CountEntries(XmlNode& level, std::map<std::wstring, int>& entries) {
+    if (const XmlNode* devices = level.Node(L"devices")) {
       for (auto child = devices->ChildsBegin(); child != devices->ChildsEnd(); ++child) {
         EXPECT_EQ((*child)->Value(L"type", L""), L"R$DISC");
-        ++actual[std::wstring((*child)->Value(L"id", L"").ToView())];
+        ++entries[std::wstring((*child)->Value(L"id", L"").ToView())];
       }
     }
-    EXPECT_EQ(actual, m_entries);
+    if (XmlNode* groups = level.Node(L"groups")) {
+      for (XmlNode* group : std::vector(groups->ChildsBegin(), groups->ChildsEnd())) {
+        CountEntries(*group, entries);
+      }
+    }
   }
 
   FakeHost host;

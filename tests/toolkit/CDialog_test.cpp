@@ -220,6 +220,20 @@ TEST_F(CDialogTest, TheIconIsTheHostsPictureByTheLowSixteenBits) {
   });
 }
 
+TEST_F(CDialogTest, WithoutThatPictureTheIconIsTheApplications) {
+  const QTemporaryDir images;
+  host->setup.imagePath = ToWide(images.path() + QLatin1Char('/'));
+  QPixmap picture(32, 32);
+  picture.fill(Qt::blue);
+  QApplication::setWindowIcon(picture);
+  Run(dialog, [] {
+    EXPECT_EQ(TopWindow()->windowIcon().pixmap(32, 32).toImage().pixelColor(3, 3),
+              QColor(Qt::blue));
+    Click(IDOK);
+  });
+  QApplication::setWindowIcon(QIcon());
+}
+
 TEST_F(CDialogTest, AControlThatIsMissingIsNull) { EXPECT_EQ(dialog.Control(999), nullptr); }
 
 }  // namespace
