@@ -120,7 +120,7 @@ void AddInstallationOptions(CLI::App& app, Texts& texts) {
   Restrict(app.add_option("--language", texts.language,
                           "Language of all texts: that of the system if this is not given,\n"
                           "and English if the system's is neither"),
-           Column(languageNames, &LanguageName::code));
+           Column(qv::languageNames, &qv::LanguageName::code));
 }
 
 void AddWindowOptions(CLI::App& app, Texts& texts) {
@@ -168,7 +168,7 @@ Arguments ReadTexts(Texts texts) {
     throw CLI::ValidationError("--list", "The window " + texts.show + " lists no rows");
   }
   return {.installation = std::move(texts.installation),
-          .language = LanguageOf(texts.language),
+          .language = qv::LanguageOf(texts.language),
           .show = window.window,
           .picture = Given(std::move(texts.picture)),
           .size = ReadSize(texts.size),

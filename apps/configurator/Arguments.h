@@ -6,7 +6,7 @@
 #include <string_view>
 #include <variant>
 
-#include "apps/configurator/Language.h"
+#include "hostkit/Language.h"
 
 namespace configurator {
 
@@ -40,8 +40,8 @@ struct WindowSize {
 
 /// What the command line asks for.
 struct Arguments {
-  std::string installation;          ///< an existing directory, in UTF-8
-  std::optional<Language> language;  ///< nothing for that of the user's system
+  std::string installation;              ///< an existing directory, in UTF-8
+  std::optional<qv::Language> language;  ///< nothing for that of the user's system
   ShownWindow show = ShownWindow::Main;
   std::optional<std::string> picture;  ///< the file to make, in UTF-8
   std::optional<WindowSize> size;

@@ -26,7 +26,8 @@ constexpr int indentation = 4;
 
 class DeviceGroupsChange : public QUndoCommand {
  public:
-  DeviceGroupsChange(Configuration& configuration, OwnText what, Snapshot before, Snapshot after)
+  DeviceGroupsChange(qv::Configuration& configuration, OwnText what, Snapshot before,
+                     Snapshot after)
       : m_configuration(configuration),
         m_what(what),
         m_before(std::move(before)),
@@ -37,7 +38,7 @@ class DeviceGroupsChange : public QUndoCommand {
   void redo() override { m_configuration.SetDeviceGroups(m_after.get()); }
 
  private:
-  Configuration& m_configuration;
+  qv::Configuration& m_configuration;
   OwnText m_what;
   Snapshot m_before;
   Snapshot m_after;
@@ -50,7 +51,7 @@ TreePlace Parent(TreePlace place) {
 
 /// "Undo" and what, or the bare word if there is nothing to undo.
 QString StepText(const QUndoStack& stack, int index, OwnText bare, OwnText named,
-                 Language language) {
+                 qv::Language language) {
   const auto* step = dynamic_cast<const DeviceGroupsChange*>(stack.command(index));
   return step ? Words(named, language).arg(Words(step->What(), language)) : Words(bare, language);
 }
@@ -137,7 +138,7 @@ void DeviceTreeEditor::ShowTexts() {
 
 void DeviceTreeEditor::ShowUndoTexts() {
   const int next = m_undo.index();
-  const Language language = m_workspace.CurrentLanguage();
+  const qv::Language language = m_workspace.CurrentLanguage();
   m_undoCommand->setText(StepText(m_undo, next - 1, OwnText::Undo, OwnText::UndoEdit, language));
   m_undoCommand->setEnabled(m_undo.canUndo());
   m_redoCommand->setText(StepText(m_undo, next, OwnText::Redo, OwnText::RedoEdit, language));
@@ -190,7 +191,7 @@ void DeviceTreeEditor::MoveBy(int rows) {
 }
 
 void DeviceTreeEditor::Apply(OwnText what, const Edit& edit) {
-  Configuration& configuration = m_workspace.Config();
+  qv::Configuration& configuration = m_workspace.Config();
   const XmlNode* groups = configuration.DeviceGroups();
   const Snapshot before = groups ? std::make_shared<const XmlNode>(*groups) : nullptr;
   const auto after = std::make_shared<XmlNode>(Groups());

@@ -86,7 +86,7 @@ QModelIndex DeviceTreeView::IndexOf(const TreePlace& place) const {
   return index;
 }
 
-void DeviceTreeView::Show(const std::vector<DeviceTreeItem>& items, Language language) {
+void DeviceTreeView::Show(const std::vector<DeviceTreeItem>& items, qv::Language language) {
   QSet<QString> collapsed;
   ForEachLine(*m_model, {}, [&](const QModelIndex& line) {
     if (m_model->hasChildren(line) && !isExpanded(line)) {
@@ -103,7 +103,7 @@ void DeviceTreeView::Show(const std::vector<DeviceTreeItem>& items, Language lan
   setColumnWidth(0, columnWidth(0) + gapBetweenColumns);
 }
 
-void DeviceTreeView::SetTexts(Language language) {
+void DeviceTreeView::SetTexts(qv::Language language) {
   setAccessibleName(Words(OwnText::Tree, language));
   setAccessibleDescription(Words(OwnText::TreeHint, language));
   m_model->setHorizontalHeaderLabels(

@@ -23,7 +23,7 @@ class DeviceTreeView : public QTreeView {
 
   /// Shows `items` in `language` in place of what was shown. What was collapsed stays so, and the
   /// current line stays current, as far as they are still there.
-  void Show(const std::vector<DeviceTreeItem>& items, Language language);
+  void Show(const std::vector<DeviceTreeItem>& items, qv::Language language);
 
   /// The places of the selected lines, in the order of the tree.
   std::vector<TreePlace> Selected() const;
@@ -38,7 +38,7 @@ class DeviceTreeView : public QTreeView {
 
  private:
   QModelIndex IndexOf(const TreePlace& place) const;
-  void SetTexts(Language language);
+  void SetTexts(qv::Language language);
   void AddItems(QStandardItem* parent, const std::vector<DeviceTreeItem>& items);
   QList<QStandardItem*> Line(const DeviceTreeItem& item, const QString& key) const;
   QString NameText(const DeviceTreeItem& item) const;
@@ -48,7 +48,7 @@ class DeviceTreeView : public QTreeView {
 
   DeviceTreeModel* m_model;
   QIcon m_discriminatorIcon;
-  Language m_language = Language::English;
+  qv::Language m_language = qv::Language::English;
 };
 
 }  // namespace configurator

@@ -134,7 +134,7 @@ void MainWindow::MakeSettingsMenu() {
 
 void MainWindow::MakeLanguageMenu(QMenu* settings) {
   QMenu* menu = NewMenu(settings, OwnText::LanguageMenu);
-  for (const LanguageName& known : languageNames) {
+  for (const qv::LanguageName& known : qv::languageNames) {
     // A language is called by its own name in every language.
     QAction* action = m_languageChoice->addAction(menu->addAction(QString::fromUtf8(known.name)));
     action->setObjectName(QStringLiteral("language-") + QString::fromLatin1(known.code));
@@ -192,7 +192,7 @@ bool MainWindow::OnSave() {
   return !problem;
 }
 
-void MainWindow::OnLanguage(Language language) {
+void MainWindow::OnLanguage(qv::Language language) {
   if (const auto problem = m_workspace.SetLanguage(language)) {
     Report(*problem);
   }
@@ -242,7 +242,7 @@ void MainWindow::ShowInstallation() {
 }
 
 void MainWindow::ShowTree() {
-  const Configuration& configuration = m_workspace.Config();
+  const qv::Configuration& configuration = m_workspace.Config();
   m_tree->Show(ReadDeviceTree(configuration.DeviceGroups(), configuration.CommSystem(),
                               m_workspace.Services().Setup().CfgPath().ToView()),
                m_workspace.CurrentLanguage());

@@ -50,7 +50,7 @@ class MainWindow : public QMainWindow {
 
   void OnOpen();
   bool OnSave();
-  void OnLanguage(Language language);
+  void OnLanguage(qv::Language language);
   void OnEmbedded(bool embedded);
   void OnDiscriminators();
   void OnAbout();
@@ -65,7 +65,7 @@ class MainWindow : public QMainWindow {
   Workspace& m_workspace;
   std::vector<std::pair<QAction*, OwnText>> m_captions;
   QActionGroup* m_languageChoice;
-  std::map<Language, QAction*> m_languages;
+  std::map<qv::Language, QAction*> m_languages;
   QAction* m_open = nullptr;
   QAction* m_save = nullptr;
   QAction* m_embedded = nullptr;

@@ -119,9 +119,9 @@ static_assert(EachRowStandsAtItsText());
 
 }  // namespace
 
-QString Words(OwnText text, Language language) {
+QString Words(OwnText text, qv::Language language) {
   const Row& row = rows.at(static_cast<std::size_t>(text));
-  return QString::fromUtf8(language == Language::Spanish ? row.spanish : row.english);
+  return QString::fromUtf8(language == qv::Language::Spanish ? row.spanish : row.english);
 }
 
 }  // namespace configurator

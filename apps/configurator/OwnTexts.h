@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "apps/configurator/Language.h"
+#include "hostkit/Language.h"
 
 namespace configurator {
 
@@ -71,6 +71,6 @@ enum class OwnText {
 };
 
 /// The text in this language. A letter that follows "&" is the key that selects it.
-QString Words(OwnText text, Language language);
+QString Words(OwnText text, qv::Language language);
 
 }  // namespace configurator

@@ -17,14 +17,14 @@ namespace {
 
 constexpr int failed = 1;
 
-Language SystemLanguage() {
+qv::Language SystemLanguage() {
   const auto locales = QLocale::system().uiLanguages();
   for (const QString& locale : locales) {
-    if (const auto language = LanguageOf(locale.toStdString())) {
+    if (const auto language = qv::LanguageOf(locale.toStdString())) {
       return *language;
     }
   }
-  return Language::English;
+  return qv::Language::English;
 }
 
 int Fail(const QString& problem) {

@@ -44,7 +44,7 @@ void StatusLine::AddNotice(int id) {
   Refresh();
 }
 
-void StatusLine::SetLanguage(Language language) {
+void StatusLine::SetLanguage(qv::Language language) {
   m_language = language;
   Refresh();
 }

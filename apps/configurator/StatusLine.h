@@ -27,7 +27,7 @@ class StatusLine : public QStatusBar {
   /// Tells of a notice, together with those before it.
   void AddNotice(int id);
   /// The same from now on in `language`.
-  void SetLanguage(Language language);
+  void SetLanguage(qv::Language language);
 
   /// What stands on the left.
   QString Told() const;
@@ -38,7 +38,7 @@ class StatusLine : public QStatusBar {
 
   QLabel* m_told;
   QLabel* m_path;
-  Language m_language = Language::English;
+  qv::Language m_language = qv::Language::English;
   OwnText m_text = OwnText::Ready;
   std::vector<std::pair<int, int>> m_notices;  // id and how often
 };

@@ -11,14 +11,14 @@
 namespace configurator {
 namespace {
 
-std::optional<OwnText> RefusalOf(Configuration::Loaded loaded) {
+std::optional<OwnText> RefusalOf(qv::Configuration::Loaded loaded) {
   switch (loaded) {
-    case Configuration::Loaded::Unreadable:
+    case qv::Configuration::Loaded::Unreadable:
       return OwnText::ConfigurationUnreadable;
-    case Configuration::Loaded::Foreign:
+    case qv::Configuration::Loaded::Foreign:
       return OwnText::ConfigurationForeign;
-    case Configuration::Loaded::FromFile:
-    case Configuration::Loaded::New:
+    case qv::Configuration::Loaded::FromFile:
+    case qv::Configuration::Loaded::New:
       break;
   }
   return std::nullopt;
@@ -39,7 +39,7 @@ Workspace::Workspace(ProgramDirectories directories)
 
 Workspace::~Workspace() { QCoreApplication::removeTranslator(&m_translator); }
 
-Workspace::Problem Workspace::SetLanguage(Language language) {
+Workspace::Problem Workspace::SetLanguage(qv::Language language) {
   const QString file = LanguageFile(language);
   if (!m_services.SetLanguageFile(file.toStdWString())) {
     return Words(OwnText::LanguageFileMissing).arg(file);
@@ -61,7 +61,7 @@ Workspace::Problem Workspace::Open(const QString& directory) {
     return Words(*refusal).arg(QDir(path).filePath(QStringLiteral("configuration.xml")));
   }
   m_directory = path;
-  m_isNew = loaded == Configuration::Loaded::New;
+  m_isNew = loaded == qv::Configuration::Loaded::New;
   m_services.SetDirectory(path.toStdWString());
   return std::nullopt;
 }
@@ -78,15 +78,15 @@ QString Workspace::ImageFile(const char* name) const {
   return QDir(m_directories.images).filePath(QString::fromLatin1(name));
 }
 
-QString Workspace::LanguageFile(Language language) const {
+QString Workspace::LanguageFile(qv::Language language) const {
   return QDir(m_directories.languages)
-      .filePath(QString::fromLatin1(NameOf(language).code) + QStringLiteral(".txt"));
+      .filePath(QString::fromLatin1(qv::NameOf(language).code) + QStringLiteral(".txt"));
 }
 
-void Workspace::TranslateQt(Language language) {
+void Workspace::TranslateQt(qv::Language language) {
   // Qt's own buttons are English without a translation.
   QCoreApplication::removeTranslator(&m_translator);
-  const QString code = QString::fromLatin1(NameOf(language).code);
+  const QString code = QString::fromLatin1(qv::NameOf(language).code);
   if (m_translator.load(QStringLiteral("qtbase_") + code,
                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&m_translator);

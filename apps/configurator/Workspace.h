@@ -4,9 +4,9 @@
 #include <QTranslator>
 #include <optional>
 
-#include "apps/configurator/Configuration.h"
 #include "apps/configurator/HostServices.h"
 #include "apps/configurator/OwnTexts.h"
+#include "hostkit/Configuration.h"
 
 namespace configurator {
 
@@ -31,8 +31,8 @@ class Workspace {
 
   /// Switches the language of this program's texts, of the library's and of Qt's own. If the
   /// library's can't be read, all stays as it was.
-  Problem SetLanguage(Language language);
-  Language CurrentLanguage() const { return m_language; }
+  Problem SetLanguage(qv::Language language);
+  qv::Language CurrentLanguage() const { return m_language; }
   QString Words(OwnText text) const { return configurator::Words(text, m_language); }
 
   /// Opens the installation in `directory`. If it has to be refused, the one that was open stays.
@@ -45,21 +45,21 @@ class Workspace {
   /// Whether the open installation's configuration had no file when it was opened.
   bool IsNew() const { return m_isNew; }
 
-  Configuration& Config() { return m_configuration; }
-  const Configuration& Config() const { return m_configuration; }
+  qv::Configuration& Config() { return m_configuration; }
+  const qv::Configuration& Config() const { return m_configuration; }
   HostServices& Services() { return m_services; }
   /// The path of an image of the host's.
   QString ImageFile(const char* name) const;
 
  private:
-  QString LanguageFile(Language language) const;
-  void TranslateQt(Language language);
+  QString LanguageFile(qv::Language language) const;
+  void TranslateQt(qv::Language language);
 
   ProgramDirectories m_directories;
   HostServices m_services;
-  Configuration m_configuration;
+  qv::Configuration m_configuration;
   QTranslator m_translator;
-  Language m_language = Language::English;
+  qv::Language m_language = qv::Language::English;
   QString m_directory;
   bool m_isNew = true;
 };

@@ -53,7 +53,7 @@ TEST(Arguments, EachOptionIsTakenOver) {
   const Arguments read =
       Good({"--installation", ".", "--language", "es", "--show", "discriminators", "--picture",
             "a.png", "--theme", "dark", "--size", "640x480", "--list"});
-  EXPECT_EQ(read.language, Language::Spanish);
+  EXPECT_EQ(read.language, qv::Language::Spanish);
   EXPECT_EQ(read.show, ShownWindow::Discriminators);
   EXPECT_EQ(read.picture, "a.png");
   EXPECT_EQ(read.theme, Theme::Dark);
@@ -65,7 +65,7 @@ TEST(Arguments, EachOptionIsTakenOver) {
 TEST(Arguments, TheOtherChoicesAreTakenOver) {
   const Arguments read =
       Good({"--installation", ".", "--language", "en", "--show", "main", "--theme", "light"});
-  EXPECT_EQ(read.language, Language::English);
+  EXPECT_EQ(read.language, qv::Language::English);
   EXPECT_EQ(read.show, ShownWindow::Main);
   EXPECT_EQ(read.theme, Theme::Light);
 }
@@ -80,7 +80,7 @@ TEST(Arguments, TheLastOfARepeatedOptionCounts) {
             "b.png",          "--theme",    "light",      "--size", "800x600",        "--list",
             "--installation", installation});
   EXPECT_EQ(read.installation, installation);
-  EXPECT_EQ(read.language, Language::English);
+  EXPECT_EQ(read.language, qv::Language::English);
   EXPECT_EQ(read.show, ShownWindow::Discriminators);
   EXPECT_EQ(read.picture, "b.png");
   EXPECT_EQ(read.theme, Theme::Light);
@@ -201,22 +201,6 @@ TEST(Arguments, OnlyTwoNumbersInRangeAreASize) {
     EXPECT_THAT(end.error, HasSubstr("--size: ")) << size;
   }
   EXPECT_EQ(Good({"--installation", ".", "--size", "1x16384"}).size, (WindowSize{1, 16384}));
-}
-
-TEST(Language, IsFoundByTheCodeThatOpensALocale) {
-  EXPECT_EQ(LanguageOf("es"), Language::Spanish);
-  EXPECT_EQ(LanguageOf("es_ES.UTF-8"), Language::Spanish);
-  EXPECT_EQ(LanguageOf("es-419"), Language::Spanish);
-  EXPECT_EQ(LanguageOf("en_GB@euro"), Language::English);
-  EXPECT_EQ(LanguageOf("est"), std::nullopt);
-  EXPECT_EQ(LanguageOf("C"), std::nullopt);
-  EXPECT_EQ(LanguageOf(""), std::nullopt);
-}
-
-TEST(Language, StandsInTheTableAtItsOwnPlace) {
-  for (const LanguageName& known : languageNames) {
-    EXPECT_EQ(NameOf(known.language).language, known.language) << known.code;
-  }
 }
 
 }  // namespace

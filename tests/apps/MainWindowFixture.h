@@ -27,7 +27,7 @@ inline constexpr int removeButton = 5347;
 class MainWindowTest : public testing::Test {
  protected:
   MainWindowTest() {
-    EXPECT_FALSE(workspace.SetLanguage(Language::English));
+    EXPECT_FALSE(workspace.SetLanguage(qv::Language::English));
     EXPECT_FALSE(workspace.Open(installation.Directory()));
     window = std::make_unique<MainWindow>(workspace);
     window->show();

@@ -32,7 +32,7 @@ constexpr int modify = 5349;
 
 using FilesByName = std::map<std::string, std::string>;
 
-class ManagerFlow : public testing::TestWithParam<Language> {
+class ManagerFlow : public testing::TestWithParam<qv::Language> {
  protected:
   ManagerFlow() {
     EXPECT_FALSE(workspace.SetLanguage(GetParam()));
@@ -159,9 +159,9 @@ TEST_P(ManagerFlow, AddChangeRenameSwitchAndCancel) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ManagerFlow,
-                         testing::Values(Language::English, Language::Spanish),
+                         testing::Values(qv::Language::English, qv::Language::Spanish),
                          [](const auto& test) {
-                           return test.param == Language::English ? "English" : "Spanish";
+                           return test.param == qv::Language::English ? "English" : "Spanish";
                          });
 
 }  // namespace

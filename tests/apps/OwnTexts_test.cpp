@@ -10,7 +10,7 @@ namespace {
 constexpr int count = static_cast<int>(OwnText::Count);
 
 /// Texts beside each other are selected by one key each.
-void ExpectOwnKeys(std::initializer_list<OwnText> texts, Language language) {
+void ExpectOwnKeys(std::initializer_list<OwnText> texts, qv::Language language) {
   QSet<QChar> keys;
   for (const OwnText text : texts) {
     const QString words = Words(text, language);
@@ -18,15 +18,15 @@ void ExpectOwnKeys(std::initializer_list<OwnText> texts, Language language) {
     EXPECT_GE(mark, 0) << words.toStdString();
     keys.insert(words.at(mark + 1).toLower());
   }
-  EXPECT_EQ(keys.size(), static_cast<qsizetype>(texts.size())) << NameOf(language).code;
+  EXPECT_EQ(keys.size(), static_cast<qsizetype>(texts.size())) << qv::NameOf(language).code;
 }
 
 TEST(OwnTexts, EachTextExistsInEachLanguageWithTheSamePlaceholders) {
   ASSERT_GT(count, 20);
   for (int i = 0; i < count; ++i) {
     const auto text = static_cast<OwnText>(i);
-    const QString spanish = Words(text, Language::Spanish);
-    const QString english = Words(text, Language::English);
+    const QString spanish = Words(text, qv::Language::Spanish);
+    const QString english = Words(text, qv::Language::English);
     EXPECT_FALSE(spanish.isEmpty()) << i;
     EXPECT_NE(spanish, english) << i;
     EXPECT_EQ(spanish.count(QStringLiteral("%1")), english.count(QStringLiteral("%1"))) << i;
@@ -35,7 +35,7 @@ TEST(OwnTexts, EachTextExistsInEachLanguageWithTheSamePlaceholders) {
 }
 
 TEST(OwnTexts, NoTwoCaptionsBesideEachOtherShareTheirKey) {
-  for (const LanguageName& known : languageNames) {
+  for (const qv::LanguageName& known : qv::languageNames) {
     ExpectOwnKeys({OwnText::FileMenu, OwnText::EditMenu, OwnText::SettingsMenu, OwnText::HelpMenu,
                    OwnText::Discriminators},
                   known.language);

@@ -29,11 +29,11 @@ TEST(StatusLine, AnotherPartIsToldByItsNumber) {
 
 TEST(StatusLine, WhatWasToldChangesItsLanguage) {
   StatusLine line;
-  line.SetLanguage(Language::Spanish);
+  line.SetLanguage(qv::Language::Spanish);
   EXPECT_EQ(line.Told(), "Listo");
   line.AddNotice(5);
   EXPECT_EQ(line.Told(), "Han cambiado los grupos de dispositivos (5)");
-  line.SetLanguage(Language::English);
+  line.SetLanguage(qv::Language::English);
   EXPECT_EQ(line.Told(), "Device groups changed (5)");
 }
 

@@ -1,4 +1,4 @@
-#include "apps/configurator/Configuration.h"
+#include "hostkit/Configuration.h"
 
 #include <algorithm>
 #include <iterator>
@@ -8,30 +8,28 @@
 #include "host/Installation.h"
 #include "tools/Guid.h"
 
-namespace configurator {
+namespace qv {
 namespace {
-
-using qv::XmlNode;
 
 constexpr wchar_t fileName[] = L"configuration.xml";
 constexpr wchar_t rootTag[] = L"configuration";
 
-bool Exists(std::wstring_view directory, qv::Files& files) {
+bool Exists(std::wstring_view directory, Files& files) {
   const auto names = files.Walk(std::wstring(directory) + L"*" + fileName);
   return std::find(names.begin(), names.end(), fileName) != names.end();
 }
 
 void AddEmbeddedDevice(XmlNode& commSystem) {
   XmlNode* device = commSystem.NewChild(L"device", nullptr);
-  device->SetValue(L"id", qv::NewGuidText());
+  device->SetValue(L"id", NewGuidText());
   device->SetValue(L"name", L"EMBEDDED");
-  device->SetValue(L"driver", qv::embeddedDriver);
+  device->SetValue(L"driver", embeddedDriver);
 }
 
 void RemoveEmbeddedDevices(XmlNode& commSystem) {
   std::vector<XmlNode*> marks;
   std::copy_if(commSystem.ChildsBegin(), commSystem.ChildsEnd(), std::back_inserter(marks),
-               [](const XmlNode* node) { return qv::IsEmbeddedDevice(*node); });
+               [](const XmlNode* node) { return IsEmbeddedDevice(*node); });
   for (XmlNode* mark : marks) {
     commSystem.RemoveChild(mark);
   }
@@ -39,7 +37,7 @@ void RemoveEmbeddedDevices(XmlNode& commSystem) {
 
 }  // namespace
 
-Configuration::Configuration(QVMainCfg& document, qv::Files& files)
+Configuration::Configuration(QVMainCfg& document, Files& files)
     : m_document(document), m_files(files) {
   m_document.Create(rootTag);
 }
@@ -105,4 +103,4 @@ void Configuration::SetEmbedded(bool embedded) {
   }
 }
 
-}  // namespace configurator
+}  // namespace qv

@@ -1,4 +1,4 @@
-#include "apps/configurator/Configuration.h"
+#include "hostkit/Configuration.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include "host/Installation.h"
 #include "tests/support/ScriptedFiles.h"
 
-namespace configurator {
+namespace qv {
 namespace {
 
 using Loaded = Configuration::Loaded;
@@ -38,7 +38,7 @@ class ConfigurationTest : public testing::Test {
 
   std::string Code() const { return CodeOf(document); }
 
-  qv::ScriptedFiles files;
+  ScriptedFiles files;
   QVMainCfg document;
   Configuration configuration{document, files};
 };
@@ -150,7 +150,7 @@ TEST_F(ConfigurationTest, EmbeddedAddsOneDeviceWithAnIdOfItsOwn) {
       "</configuration>");
   configuration.SetEmbedded(true);
   EXPECT_TRUE(configuration.IsEmbedded());
-  EXPECT_TRUE(qv::IsEmbedded(document));
+  EXPECT_TRUE(IsEmbedded(document));
   const auto* device =
       document.Root()->Node(L"commSystem")->NodeV(L"device?driver=%s?", L"KORVAXEMBEDDED");
   ASSERT_TRUE(device);
@@ -203,4 +203,4 @@ TEST_F(ConfigurationTest, NotEmbeddedWithoutACommSystemMakesNone) {
 }
 
 }  // namespace
-}  // namespace configurator
+}  // namespace qv

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-namespace configurator {
+namespace qv {
 
 /// A language that the program speaks.
 enum class Language { Spanish, English };
@@ -36,4 +36,4 @@ constexpr std::optional<Language> LanguageOf(std::string_view locale) {
   return std::nullopt;
 }
 
-}  // namespace configurator
+}  // namespace qv

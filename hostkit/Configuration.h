@@ -6,7 +6,7 @@
 #include "host/QVMainCfg.h"
 #include "tools/Files.h"
 
-namespace configurator {
+namespace qv {
 
 /// The main configuration of the open installation and its file, `configuration.xml`.
 ///
@@ -23,7 +23,7 @@ class Configuration {
   };
 
   /// `document` isn't owned.
-  explicit Configuration(QVMainCfg& document, qv::Files& files = qv::Files::Disk());
+  explicit Configuration(QVMainCfg& document, Files& files = Files::Disk());
 
   /// Takes over the configuration of `directory`, which ends in its separator. For a file that is
   /// unreadable or foreign the document, and the file that `Save` writes, stay what they were.
@@ -40,15 +40,15 @@ class Configuration {
 
   /// The node that the manager of the discriminators works on; null if there is none, which is what
   /// the manager is to be told then.
-  qv::XmlNode* DeviceGroups();
-  const qv::XmlNode* DeviceGroups() const;
+  XmlNode* DeviceGroups();
+  const XmlNode* DeviceGroups() const;
 
   /// Replaces the content of that node, which is made if there is none, by that of `content`; null
   /// removes the node.
-  void SetDeviceGroups(const qv::XmlNode* content);
+  void SetDeviceGroups(const XmlNode* content);
 
   /// The devices that the installation talks to; null if there are none.
-  const qv::XmlNode* CommSystem() const;
+  const XmlNode* CommSystem() const;
 
   /// Whether the installation is an embedded one.
   bool IsEmbedded() const;
@@ -59,8 +59,8 @@ class Configuration {
 
  private:
   QVMainCfg& m_document;
-  qv::Files& m_files;
+  Files& m_files;
   std::wstring m_path;
 };
 
-}  // namespace configurator
+}  // namespace qv
