@@ -9,23 +9,40 @@ namespace {
 constexpr wchar_t payloadTag[] = L"discriminatorClipboard";
 constexpr wchar_t itemTag[] = L"discriminator";
 
+constexpr char opening[] = "<discriminatorClipboard>";
+constexpr char closing[] = "</discriminatorClipboard>";
+
+/// Appends the document as an item. What would make the payload too large to be read again is
+/// passed over.
+void AppendItem(const XmlDocument& document, QVNarrowString& payload) {
+  QVNarrowString code;
+  if (document.CreateXmlCode(code, false) && payload.Length() + code.Length() < maxXmlSize) {
+    payload += "<discriminator>";
+    payload += code;
+    payload += "</discriminator>";
+  }
+}
+
 }  // namespace
 
 QVNarrowString ComposePayload(const std::vector<QVWideString>& paths, Files& files) {
   QVNarrowString payload(QVNarrowString::GrowSmall);
-  payload += "<discriminatorClipboard>";
+  payload += opening;
   XmlDocument document;
   for (const QVWideString& path : paths) {
-    QVNarrowString code;
-    // What would make the payload too large to be read again is passed over as well.
-    if (document.Load(path, files) && document.CreateXmlCode(code, false) &&
-        payload.Length() + code.Length() < maxXmlSize) {
-      payload += "<discriminator>";
-      payload += code;
-      payload += "</discriminator>";
+    if (document.Load(path, files)) {
+      AppendItem(document, payload);
     }
   }
-  payload += "</discriminatorClipboard>";
+  payload += closing;
+  return payload;
+}
+
+QVNarrowString ComposePayload(const XmlNode& root) {
+  QVNarrowString payload(QVNarrowString::GrowSmall);
+  payload += opening;
+  AppendItem(XmlDocument(root), payload);
+  payload += closing;
   return payload;
 }
 

@@ -14,6 +14,9 @@ namespace qv {
 /// The payload of the files at `paths`, in their order; what can't be loaded is passed over.
 QVNarrowString ComposePayload(const std::vector<QVWideString>& paths, Files& files);
 
+/// The payload of the one discriminator whose document has this root.
+QVNarrowString ComposePayload(const XmlNode& root);
+
 /// The document of a payload, or null for any other text. Foreign text is refused at its first
 /// element.
 std::unique_ptr<XmlDocument> ParsePayload(const char* text);

@@ -13,11 +13,21 @@ inline constexpr wchar_t SetZeroOutsideSlot[] = L"setZeroOutsideSlot";
 inline constexpr wchar_t Type[] = L"type";
 inline constexpr wchar_t Revision[] = L"revision";
 inline constexpr wchar_t Color[] = L"color";
+inline constexpr wchar_t Value[] = L"value";
+inline constexpr wchar_t From[] = L"from";
+inline constexpr wchar_t To[] = L"to";
+inline constexpr wchar_t Expression[] = L"exp";
 
 inline constexpr wchar_t HourTypes[] = L"hourTypes";
 inline constexpr wchar_t DayTypes[] = L"dayTypes";
 inline constexpr wchar_t Calendar[] = L"calendar";
 inline constexpr wchar_t Conditions[] = L"conditions";
+
+inline constexpr wchar_t Hour[] = L"hour";            ///< child of hourTypes
+inline constexpr wchar_t Day[] = L"day";              ///< child of dayTypes
+inline constexpr wchar_t Slot[] = L"slot";            ///< child of a day
+inline constexpr wchar_t Year[] = L"year";            ///< child of calendar, and its field
+inline constexpr wchar_t Condition[] = L"condition";  ///< child of conditions
 
 inline constexpr wchar_t DeviceGroups[] = L"deviceGroups";
 inline constexpr wchar_t Devices[] = L"devices";

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "hostkit/Language.h"
+
+namespace CLI {
+class App;
+}
+
+namespace qvdisc {
+
+enum class Verb { List, Show, Index, Copy, Paste, Add, Modify, Remove, Check };
+
+/// What is to become of the fields of a discriminator; nothing where a field stays as it is.
+struct FieldChanges {
+  std::optional<std::wstring> name;
+  std::optional<std::wstring> description;
+  std::optional<bool> slots;  ///< whether the type is time slots, or else conditions
+  std::optional<bool> setZeroOutsideSlot;
+
+  friend bool operator==(const FieldChanges&, const FieldChanges&) = default;
+};
+
+/// What the command line asks for.
+struct Arguments {
+  Verb verb = Verb::List;
+  std::string verbName;
+  std::wstring installation;             ///< an existing directory
+  std::optional<qv::Language> language;  ///< nothing for that of the user's system
+  bool json = false;
+  std::optional<bool> answer;       ///< to every question; nothing asks the user
+  std::vector<std::wstring> stems;  ///< which discriminators, as the user calls them
+  FieldChanges changes;
+};
+
+/// The program ends before it begins: with help, the version, a page, or the reason why not.
+struct EarlyEnd {
+  int status = 0;
+  std::string output;  ///< for standard output
+  std::string error;   ///< for standard error
+};
+
+/// The exit status of a call that can't be carried out.
+inline constexpr int badCall = 2;
+
+/// Reads the command line, of which the first is the program's name. A call that can't be carried
+/// out gives the status 2 and the reason in words. Arguments may hold any bytes.
+std::variant<Arguments, EarlyEnd> ReadArguments(int count, const char* const* arguments);
+
+/// The line that the program puts on standard error for `reason`.
+std::string ErrorLine(const std::string& reason);
+
+}  // namespace qvdisc

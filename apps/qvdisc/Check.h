@@ -1,0 +1,31 @@
+#pragma once
+
+#include <vector>
+
+#include "apps/qvdisc/Finding.h"
+#include "hostkit/Configuration.h"
+#include "tools/Files.h"
+#include "tools/QVBasicString.h"
+
+namespace qvdisc {
+
+/// What a check has found.
+struct CheckedInstallation {
+  std::vector<std::wstring> files;  ///< the names of all discriminator files
+  std::vector<Finding> findings;    ///< by file, then those of the entries
+};
+
+/// Looks at every discriminator file of `directory`, at their index files, and at the entries of
+/// discriminators in the device groups of `configuration`.
+///
+/// Told is which files the list leaves out and why, slots and dates that lead nowhere, parts, ids
+/// and names that come twice, index files that are missing, out of date or of no use, and entries
+/// that don't fit the files. Nothing is changed.
+CheckedInstallation CheckInstallation(const QVWideString& directory,
+                                      const qv::Configuration& configuration, qv::Files& files);
+
+/// What is wrong within the document of a discriminator: links that lead nowhere, and parts that
+/// come twice.
+std::vector<Finding> CheckDocument(const qv::XmlNode& root, const std::wstring& file);
+
+}  // namespace qvdisc

@@ -1,0 +1,115 @@
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "apps/qvdisc/Reports.h"
+#include "discriminator/Fields.h"
+#include "discriminator/FileNames.h"
+#include "discriminator/ValueForms.h"
+
+namespace qvdisc {
+namespace {
+
+using Json = nlohmann::ordered_json;
+using qv::XmlNode;
+
+/// Changes with every change of the form that a reader could trip over.
+constexpr int formVersion = 1;
+
+std::string Text(const XmlNode& node, const wchar_t* tag) {
+  return Utf8(node.Value(tag, L"").ToView());
+}
+
+Json Row(const qv::DiscriminatorSummary& row) {
+  return {{"stem", Utf8(row.fileStem.ToView())},
+          {"id", Utf8(qv::IdOfStem(row.fileStem).ToView())},
+          {"name", Utf8(row.name.ToView())},
+          {"description", Utf8(row.description.ToView())}};
+}
+
+Json Spoken(const SpokenText& spoken) {
+  Json json = {{"number", spoken.number},
+               {"kind", spoken.isQuestion ? "question" : "message"},
+               {"text", Utf8(spoken.text)}};
+  if (spoken.isQuestion) {
+    json["answer"] = spoken.answer ? Json(*spoken.answer) : Json(nullptr);
+  }
+  return json;
+}
+
+Json Found(const Finding& finding) {
+  return {{"kind", KindName(finding.kind)}, {"fault", finding.IsFault()},
+          {"file", Utf8(finding.file)},     {"place", Utf8(finding.place)},
+          {"value", Utf8(finding.value)},   {"expected", Utf8(finding.expected)},
+          {"line", finding.line},           {"column", finding.column}};
+}
+
+Json Index(const IndexEnd& index) {
+  return {{"stem", Utf8(index.stem)}, {"needed", index.needed}, {"written", index.written}};
+}
+
+/// The node as it stands: its value, or its children in order, each as an object of its tag.
+Json Tree(const XmlNode& node) {
+  if (node.ChildsBegin() == node.ChildsEnd()) {
+    return Utf8(node.Value().ToView());
+  }
+  Json children = Json::array();
+  for (auto child = node.ChildsBegin(); child != node.ChildsEnd(); ++child) {
+    children.push_back({{Utf8((*child)->Tag().ToView()), Tree(**child)}});
+  }
+  return children;
+}
+
+Json Document(const XmlNode& root) {
+  return {{"id", Text(root, qv::tag::Id)},
+          {"name", Text(root, qv::tag::Name)},
+          {"description", Text(root, qv::tag::Description)},
+          {"setZeroOutsideSlot", qv::IsFlagSet(root.Value(qv::tag::SetZeroOutsideSlot, L"T"))},
+          {"type", Text(root, qv::tag::Type)},
+          {"revision", Text(root, qv::tag::Revision)},
+          {"rootTag", Utf8(root.Tag().ToView())},
+          {"content", Tree(root)}};
+}
+
+template <class Values, class ToJson>
+Json List(const Values& values, ToJson toJson) {
+  Json list = Json::array();
+  for (const auto& value : values) {
+    list.push_back(toJson(value));
+  }
+  return list;
+}
+
+void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome) {
+  if (outcome.document) {
+    json["document"] = Document(*outcome.document->Root());
+  }
+  if (outcome.payload) {
+    json["payload"] = *outcome.payload;
+  }
+  if (arguments.verb == Verb::Index) {
+    json["indexes"] = List(outcome.indexes, Index);
+  }
+  if (arguments.verb == Verb::Check) {
+    json["filesChecked"] = outcome.filesChecked;
+    json["findings"] = List(outcome.findings, Found);
+  }
+}
+
+}  // namespace
+
+std::string JsonReport(const Arguments& arguments, const Outcome& outcome) {
+  Json json = {{"form", formVersion},
+               {"verb", arguments.verbName},
+               {"status", outcome.status},
+               {"rows", List(outcome.rows, Row)},
+               {"texts", List(outcome.texts, Spoken)},
+               {"notices", outcome.notices},
+               {"hostHasToSave", outcome.hostHasToSave},
+               {"saved", outcome.saved},
+               {"errors", List(outcome.errors, Utf8)}};
+  AddVerbsOwn(json, arguments, outcome);
+  constexpr int indentation = 2;
+  return json.dump(indentation, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace qvdisc

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "apps/qvdisc/Finding.h"
+#include "discriminator/DiscriminatorFile.h"
+#include "host/Text.h"
+#include "tools/XmlDocument.h"
+
+namespace qvdisc {
+
+/// A text that the rules showed or asked.
+struct SpokenText {
+  unsigned number = 0;  ///< 0 for a text without number
+  std::wstring text;
+  bool isQuestion = false;
+  std::optional<bool> answer;  ///< nothing if there was no answer
+};
+
+/// An index file that was to be made.
+struct IndexEnd {
+  std::wstring stem;
+  bool needed = false;
+  bool written = false;
+};
+
+/// What a call did, as both forms of output tell it.
+struct Outcome {
+  int status = 0;
+  std::vector<qv::DiscriminatorSummary> rows;  ///< of the list, after all was done
+  std::vector<SpokenText> texts;
+  std::vector<int> notices;
+  bool hostHasToSave = false;
+  bool saved = false;                ///< the configuration, because it had to be
+  std::vector<std::wstring> errors;  ///< in words
+
+  std::unique_ptr<XmlDocument> document;  ///< what `show` shows
+  std::optional<std::string> payload;     ///< what `copy` copies, or what could not be saved
+  std::vector<IndexEnd> indexes;
+  std::vector<Finding> findings;
+  unsigned filesChecked = 0;
+
+  void Fail(std::wstring reason) {
+    errors.push_back(std::move(reason));
+    status = 1;
+  }
+};
+
+}  // namespace qvdisc

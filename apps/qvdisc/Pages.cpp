@@ -1,0 +1,172 @@
+#include "apps/qvdisc/Pages.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <vector>
+
+namespace qvdisc {
+namespace {
+
+using Options = std::vector<const CLI::Option*>;
+
+/// `text` as it stands on a manual page.
+std::string Literal(const std::string& text) {
+  std::string literal;
+  for (const char letter : text) {
+    literal += letter == '-' ? std::string("\\-") : letter == '\\' ? "\\e" : std::string(1, letter);
+  }
+  // A line that starts with these would be a command.
+  return !literal.empty() && (literal[0] == '.' || literal[0] == '\'') ? "\\&" + literal : literal;
+}
+
+std::string ManualOption(const CLI::Option& option) {
+  const std::string type = option.get_type_name();
+  std::string page = ".TP\n\\fB" + Literal(option.get_name()) + "\\fR";
+  if (!type.empty() && option.nonpositional()) {
+    page += " \\fI" + Literal(type) + "\\fR";
+  }
+  return page + "\n" + Literal(option.get_description()) + "\n";
+}
+
+std::string ManualOptions(const CLI::App& app) {
+  std::string page;
+  for (const CLI::Option* option : app.get_options()) {
+    page += ManualOption(*option);
+  }
+  return page;
+}
+
+std::vector<const CLI::App*> VerbsOf(const CLI::App& app) {
+  return app.get_subcommands([](const CLI::App*) { return true; });
+}
+
+std::string Joined(const std::vector<std::string>& words) {
+  std::string joined;
+  for (const std::string& word : words) {
+    joined += (joined.empty() ? "" : " ") + word;
+  }
+  return joined;
+}
+
+std::string OptionNames(const CLI::App& app) {
+  std::vector<std::string> names;
+  for (const CLI::Option* option : app.get_options()) {
+    for (const std::string& name : option->get_lnames()) {
+      names.push_back("--" + name);
+    }
+  }
+  return Joined(names);
+}
+
+/// The values that an option is restricted to, with blanks between them; empty for any other.
+std::string ChoicesOf(const CLI::Option& option) {
+  std::string type = option.get_type_name();
+  if (type.find('|') == std::string::npos) {
+    return {};
+  }
+  std::replace(type.begin(), type.end(), '|', ' ');
+  return type;
+}
+
+/// A line for each option of any verb that is restricted to some values.
+std::string ValueCases(const CLI::App& app) {
+  std::vector<std::string> lines;
+  for (const CLI::App* verb : VerbsOf(app)) {
+    for (const CLI::Option* option : verb->get_options()) {
+      const std::string choices = ChoicesOf(*option);
+      if (!choices.empty()) {
+        lines.push_back("    --" + option->get_lnames().front() + ") _qvdisc_words \"" + choices +
+                        "\"; return ;;\n");
+      }
+    }
+  }
+  std::sort(lines.begin(), lines.end());
+  lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
+  std::string cases;
+  for (const std::string& line : lines) {
+    cases += line;
+  }
+  return cases;
+}
+
+bool TakesStems(const CLI::App& verb) {
+  const Options options = verb.get_options();
+  return std::any_of(options.begin(), options.end(),
+                     [](const CLI::Option* option) { return option->get_positional(); });
+}
+
+std::string VerbCases(const CLI::App& app) {
+  std::string cases;
+  for (const CLI::App* verb : VerbsOf(app)) {
+    cases += "    " + verb->get_name() + ") options=\"" + OptionNames(*verb) + "\"" +
+             (TakesStems(*verb) ? "; stems=yes" : "") + " ;;\n";
+  }
+  return cases;
+}
+
+constexpr const char* completionStart = R"bash(# Completes calls of qvdisc in bash.
+_qvdisc_words() {
+  mapfile -t COMPREPLY < <(compgen -W "$1" -- "$current")
+}
+_qvdisc_stems() {
+  local file stem
+  for file in "$1"/*.xdct; do
+    stem=${file##*/}
+    stem=${stem%.xdct}
+    if [[ -e $file && $stem == "$current"* ]]; then
+      COMPREPLY+=("$(printf '%q' "$stem")")
+    fi
+  done
+}
+_qvdisc() {
+  local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
+  local installation verb options stems i
+  for ((i = 1; i < COMP_CWORD; i++)); do
+    case ${COMP_WORDS[i]} in
+    --installation) installation=${COMP_WORDS[i + 1]} ;;
+    -*) ;;
+    *) verb=${verb:-${COMP_WORDS[i]}} ;;
+    esac
+  done
+  COMPREPLY=()
+  case $before in
+    --installation) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
+)bash";
+
+constexpr const char* completionEnd = R"bash(  esac
+  if [[ $current == -* ]]; then
+    _qvdisc_words "$options"
+  elif [[ $stems && $installation ]]; then
+    _qvdisc_stems "$installation"
+  fi
+}
+complete -F _qvdisc qvdisc
+)bash";
+
+}  // namespace
+
+std::string ManualPage(const CLI::App& app) {
+  std::string page = ".TH QVDISC 1 \"\" \"QVDiscriminator " QVDISC_VERSION
+                     "\"\n.SH NAME\nqvdisc \\- " +
+                     Literal(app.get_description()) +
+                     "\n.SH SYNOPSIS\n.B qvdisc\n\\fIVERB\\fR \\-\\-installation \\fIDIR\\fR "
+                     "[\\fIOPTION\\fR]... [\\fISTEM\\fR]...\n.SH OPTIONS\n" +
+                     ManualOptions(app);
+  for (const CLI::App* verb : VerbsOf(app)) {
+    page += ".SH " + Literal(verb->get_name()) + "\n" + Literal(verb->get_description()) + ".\n" +
+            ManualOptions(*verb);
+  }
+  return page + ".SH NOTES\n" + Literal(app.get_footer()) + "\n";
+}
+
+std::string BashCompletion(const CLI::App& app) {
+  std::vector<std::string> verbs;
+  for (const CLI::App* verb : VerbsOf(app)) {
+    verbs.push_back(verb->get_name());
+  }
+  return completionStart + ValueCases(app) + "  esac\n  case $verb in\n    '') _qvdisc_words \"" +
+         Joined(verbs) + " " + OptionNames(app) + "\"; return ;;\n" + VerbCases(app) +
+         completionEnd;
+}
+
+}  // namespace qvdisc

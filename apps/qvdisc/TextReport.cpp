@@ -1,0 +1,204 @@
+#include <algorithm>
+#include <map>
+#include <vector>
+
+#include "apps/qvdisc/Reports.h"
+#include "discriminator/Fields.h"
+#include "discriminator/ValueForms.h"
+
+namespace qvdisc {
+namespace {
+
+using qv::XmlNode;
+using Cells = std::vector<std::wstring>;
+
+std::wstring Field(const XmlNode& node, const wchar_t* tag) {
+  return OneLine(std::wstring(node.Value(tag, L"").ToView()));
+}
+
+class Writer {
+ public:
+  Writer(qv::Language language, bool isTerminal) : m_language(language), m_bold(isTerminal) {}
+
+  std::wstring Said(Word word) const { return Words(word, m_language); }
+
+  void Line(const std::wstring& text) { m_text += text + L"\n"; }
+
+  void Heading(const std::wstring& text) { Line(m_bold ? L"\033[1m" + text + L"\033[0m" : text); }
+
+  /// Lines with their cells below each other; the first is a heading.
+  void Table(std::vector<Cells> lines) {
+    std::vector<std::size_t> widths;
+    for (const Cells& cells : lines) {
+      widths.resize(std::max(widths.size(), cells.size()));
+      for (std::size_t i = 0; i < cells.size(); ++i) {
+        widths[i] = std::max(widths[i], cells[i].size());
+      }
+    }
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      const std::wstring line = Aligned(lines[i], widths);
+      i == 0 ? Heading(line) : Line(line);
+    }
+  }
+
+  std::string Text() const { return Utf8(m_text); }
+
+ private:
+  static std::wstring Aligned(const Cells& cells, const std::vector<std::size_t>& widths) {
+    constexpr std::size_t gap = 2;
+    std::wstring line;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      line += cells[i];
+      line.append(widths[i] - cells[i].size() + gap, L' ');
+    }
+    line.erase(line.find_last_not_of(L' ') + 1);
+    return line;
+  }
+
+  qv::Language m_language;
+  bool m_bold;
+  std::wstring m_text;
+};
+
+void WriteRows(Writer& writer, const Outcome& outcome) {
+  std::vector<Cells> lines = {
+      {writer.Said(Word::Name), writer.Said(Word::Stem), writer.Said(Word::Description)}};
+  for (const auto& row : outcome.rows) {
+    lines.push_back({OneLine(std::wstring(row.name.ToView())),
+                     OneLine(std::wstring(row.fileStem.ToView())),
+                     OneLine(std::wstring(row.description.ToView()))});
+  }
+  writer.Table(std::move(lines));
+}
+
+void WriteFields(Writer& writer, const XmlNode& root) {
+  const bool zero = qv::IsFlagSet(root.Value(qv::tag::SetZeroOutsideSlot, L"T"));
+  const std::vector<std::pair<Word, std::wstring>> fields = {
+      {Word::Name, Field(root, qv::tag::Name)},
+      {Word::Description, Field(root, qv::tag::Description)},
+      {Word::Id, Field(root, qv::tag::Id)},
+      {Word::Type, Field(root, qv::tag::Type)},
+      {Word::ZeroOutside, writer.Said(zero ? Word::Yes : Word::No)},
+      {Word::Revision, Field(root, qv::tag::Revision)},
+  };
+  constexpr std::size_t width = 22;
+  for (const auto& [word, value] : fields) {
+    std::wstring label = writer.Said(word);
+    label.resize(value.empty() ? label.size() : std::max(width, label.size() + 1), L' ');
+    writer.Line(label + value);
+  }
+}
+
+/// The children of the container with this tag, under a heading if there is such a container.
+std::vector<const XmlNode*> Section(Writer& writer, const XmlNode& root, const wchar_t* container,
+                                    const wchar_t* tag, Word heading) {
+  std::vector<const XmlNode*> children;
+  if (const XmlNode* node = root.Node(container)) {
+    writer.Line(L"");
+    writer.Heading(writer.Said(heading));
+    std::copy_if(node->ChildsBegin(), node->ChildsEnd(), std::back_inserter(children),
+                 [&](const XmlNode* child) { return child->Tag() == tag; });
+  }
+  return children;
+}
+
+using NamesById = std::map<std::wstring, std::wstring>;
+
+NamesById WriteHourTypes(Writer& writer, const XmlNode& root) {
+  NamesById names;
+  for (const XmlNode* hour :
+       Section(writer, root, qv::tag::HourTypes, qv::tag::Hour, Word::HourTypes)) {
+    const std::wstring value = Field(*hour, qv::tag::Value);
+    names[Field(*hour, qv::tag::Id)] = Field(*hour, qv::tag::Name);
+    writer.Line(L"  " + Field(*hour, qv::tag::Name) + (value.empty() ? L"" : L" = " + value));
+  }
+  return names;
+}
+
+void WriteDayTypes(Writer& writer, const XmlNode& root, const NamesById& hours) {
+  for (const XmlNode* day :
+       Section(writer, root, qv::tag::DayTypes, qv::tag::Day, Word::DayTypes)) {
+    writer.Line(L"  " + Field(*day, qv::tag::Name));
+    for (auto child = day->ChildsBegin(); child != day->ChildsEnd(); ++child) {
+      if ((*child)->Tag() == qv::tag::Slot) {
+        const auto hour = hours.find(Field(**child, qv::tag::Id));
+        writer.Line(L"    " + Field(**child, qv::tag::From) + L" " + Field(**child, qv::tag::To) +
+                    L" " + (hour == hours.end() ? L"?" : hour->second));
+      }
+    }
+  }
+}
+
+int DatesIn(const XmlNode& year) {
+  int dates = 0;
+  for (auto month = year.ChildsBegin(); month != year.ChildsEnd(); ++month) {
+    dates += static_cast<int>(std::distance((*month)->ChildsBegin(), (*month)->ChildsEnd()));
+  }
+  return dates;
+}
+
+void WriteCalendar(Writer& writer, const XmlNode& root, qv::Language language) {
+  for (const XmlNode* year :
+       Section(writer, root, qv::tag::Calendar, qv::tag::Year, Word::Calendar)) {
+    const std::wstring name = Field(*year, qv::tag::Year);
+    writer.Line(L"  " + Words(Word::DatesOfYear, language, {name.c_str(), DatesIn(*year)}));
+  }
+}
+
+void WriteConditions(Writer& writer, const XmlNode& root) {
+  for (const XmlNode* condition :
+       Section(writer, root, qv::tag::Conditions, qv::tag::Condition, Word::Conditions)) {
+    writer.Line(L"  " + Field(*condition, qv::tag::Name) + L": " +
+                Field(*condition, qv::tag::Expression));
+  }
+}
+
+void WriteDocument(Writer& writer, const XmlNode& root, qv::Language language) {
+  WriteFields(writer, root);
+  const NamesById hours = WriteHourTypes(writer, root);
+  WriteDayTypes(writer, root, hours);
+  WriteCalendar(writer, root, language);
+  WriteConditions(writer, root);
+}
+
+void WriteIndexes(Writer& writer, const Outcome& outcome, qv::Language language) {
+  for (const IndexEnd& index : outcome.indexes) {
+    if (!index.needed || index.written) {
+      const Word word = index.needed ? Word::IndexWritten : Word::IndexNotNeeded;
+      writer.Line(OneLine(Words(word, language, {index.stem.c_str()})));
+    }
+  }
+}
+
+void WriteFindings(Writer& writer, const Outcome& outcome, qv::Language language) {
+  for (const Finding& finding : outcome.findings) {
+    const std::wstring file = finding.file.empty() ? L"configuration.xml" : finding.file;
+    writer.Line(OneLine(file + L": " + Sentence(finding, language)));
+  }
+  const auto faults = static_cast<unsigned>(
+      std::count_if(outcome.findings.begin(), outcome.findings.end(),
+                    [](const Finding& finding) { return finding.IsFault(); }));
+  writer.Line(faults == 0 ? Words(Word::NothingFound, language, {outcome.filesChecked})
+                          : Words(Word::Found, language, {faults, outcome.filesChecked}));
+}
+
+}  // namespace
+
+std::string TextReport(const Arguments& arguments, const Outcome& outcome, qv::Language language,
+                       bool isTerminal) {
+  Writer writer(language, isTerminal);
+  if (outcome.payload) {
+    return *outcome.payload + "\n";
+  }
+  if (outcome.document) {
+    WriteDocument(writer, *outcome.document->Root(), language);
+  } else if (arguments.verb == Verb::List && outcome.errors.empty()) {
+    WriteRows(writer, outcome);
+  } else if (arguments.verb == Verb::Check && outcome.errors.empty()) {
+    WriteFindings(writer, outcome, language);
+  }
+  WriteIndexes(writer, outcome, language);
+  return writer.Text();
+}
+
+}  // namespace qvdisc

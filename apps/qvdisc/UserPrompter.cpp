@@ -1,0 +1,70 @@
+#include "apps/qvdisc/UserPrompter.h"
+
+#include <istream>
+#include <ostream>
+#include <string>
+#include <utility>
+
+#include "apps/qvdisc/Words.h"
+#include "tools/Format.h"
+
+namespace qvdisc {
+
+UserPrompter::UserPrompter(const Surroundings& surroundings, const QVLoadString& texts,
+                           std::optional<bool> answer, qv::Language language, Outcome& outcome)
+    : m_surroundings(surroundings),
+      m_texts(texts),
+      m_answer(answer),
+      m_language(language),
+      m_outcome(outcome) {}
+
+void UserPrompter::Show(Text text, Arguments arguments) {
+  Tell(Number(text), Worded(text, arguments));
+}
+
+void UserPrompter::ShowText(std::wstring_view text) { Tell(0, std::wstring(text)); }
+
+void UserPrompter::Tell(unsigned number, const std::wstring& text) {
+  m_outcome.texts.push_back({number, text, false, std::nullopt});
+  m_surroundings.err << Utf8(text) << '\n';
+}
+
+bool UserPrompter::Ask(Text text, Arguments arguments) {
+  const std::wstring question = Worded(text, arguments);
+  m_surroundings.err << Utf8(question) << ' ';
+  const auto answer = AnswerTo(question);
+  m_outcome.texts.push_back({Number(text), question, true, answer});
+  if (!answer) {
+    m_surroundings.err << '\n';
+    m_outcome.Fail(Words(Word::AnswerNeeded, m_language));
+  }
+  return answer.value_or(false);
+}
+
+std::optional<bool> UserPrompter::AnswerTo(const std::wstring& question) const {
+  std::ostream& err = m_surroundings.err;
+  if (m_answer) {
+    const std::wstring word = Words(*m_answer ? Word::Yes : Word::No, m_language);
+    err << NarrowWords(Word::Answer, m_language, {word.c_str()}) << '\n';
+    return m_answer;
+  }
+  if (!m_surroundings.inIsTerminal || !m_surroundings.errIsTerminal) {
+    return std::nullopt;
+  }
+  // Yes begins with y or s, in one of the languages; the end of the input is No.
+  for (std::string line; err << NarrowWords(Word::YesOrNo, m_language) << ' ' << std::flush,
+                         std::getline(m_surroundings.in, line);
+       err << Utf8(question) << ' ') {
+    const char letter = line.empty() ? ' ' : line.front();
+    if (std::string_view("yYsSnN").find(letter) != std::string_view::npos) {
+      return letter != 'n' && letter != 'N';
+    }
+  }
+  return false;
+}
+
+std::wstring UserPrompter::Worded(Text text, Arguments arguments) const {
+  return qv::Format(m_texts.Load(text).ToView(), arguments);
+}
+
+}  // namespace qvdisc

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <optional>
+
+#include "apps/qvdisc/Outcome.h"
+#include "apps/qvdisc/Surroundings.h"
+#include "host/Prompter.h"
+#include "host/QVLoadString.h"
+
+namespace qvdisc {
+
+/// Tells and asks on standard error, and keeps what was said.
+///
+/// A question takes the answer of the call; without one a user at a terminal is asked, and where
+/// there is none the answer is No and the call fails.
+class UserPrompter : public qv::Prompter {
+ public:
+  /// All references outlive the prompter.
+  UserPrompter(const Surroundings& surroundings, const QVLoadString& texts,
+               std::optional<bool> answer, qv::Language language, Outcome& outcome);
+
+  void Show(Text text, Arguments arguments = {}) override;
+  bool Ask(Text text, Arguments arguments = {}) override;
+  void ShowText(std::wstring_view text) override;
+
+ private:
+  std::wstring Worded(Text text, Arguments arguments) const;
+  void Tell(unsigned number, const std::wstring& text);
+  std::optional<bool> AnswerTo(const std::wstring& question) const;
+
+  const Surroundings& m_surroundings;
+  const QVLoadString& m_texts;
+  std::optional<bool> m_answer;
+  qv::Language m_language;
+  Outcome& m_outcome;
+};
+
+}  // namespace qvdisc

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "hostkit/Language.h"
+#include "tools/Format.h"
+
+namespace qvdisc {
+
+/// What this program says itself. What the rules say is in the language files.
+enum class Word {
+  // Why something was refused
+  NoSuchDiscriminator,      ///< the text of the call
+  SeveralDiscriminators,    ///< the text of the call
+  ConfigurationUnreadable,  ///< the directory
+  ConfigurationForeign,     ///< the directory
+  ConfigurationNotSaved,    ///< the directory
+  LanguageFileMissing,      ///< the file
+  TypeNotSelectable,
+  DiscriminatorUnreadable,  ///< the stem
+  ContentFollows,
+  IndexNotWritten,  ///< the name
+  NothingToPaste,
+  NotAllPasted,  ///< how many are missing
+  AnswerNeeded,
+  OutputFailed,
+
+  // Questions
+  YesOrNo,
+
+  // What is shown to people
+  Name,
+  Description,
+  Stem,
+  Id,
+  Type,
+  ZeroOutside,
+  Revision,
+  HourTypes,
+  DayTypes,
+  Calendar,
+  Conditions,
+  Yes,
+  No,
+  DatesOfYear,     ///< year and number of dates
+  Answer,          ///< the answer that was given to a question
+  IndexWritten,    ///< the stem
+  IndexNotNeeded,  ///< the stem
+  Reading,         ///< how many of how many
+  NothingFound,    ///< how many files
+  Found,           ///< how many findings in how many files
+
+  // What a check finds
+  Unreadable,  ///< line, column, reason
+  HiddenType,
+  FileNameForm,
+  IdDiffers,     ///< the field's, the file's
+  NameDiffers,   ///< the field's, the file's
+  DeadHourType,  ///< place, id
+  DeadDayType,   ///< date, id
+  IndexMissing,
+  IndexStale,
+  IndexUnreadable,
+  IndexWithoutUse,
+  EntryWithoutDiscriminator,  ///< place, id
+  DiscriminatorWithoutEntry,
+  DuplicateEntry,  ///< place, id
+  DuplicateId,     ///< the id
+  DuplicateName,   ///< the name
+  DuplicatePart,   ///< tag of the field, place, value
+
+  Count
+};
+
+/// The text in this language, its placeholders filled in.
+std::wstring Words(Word word, qv::Language language,
+                   std::initializer_list<qv::FormatArgument> arguments = {});
+
+/// The same in UTF-8.
+std::string NarrowWords(Word word, qv::Language language,
+                        std::initializer_list<qv::FormatArgument> arguments = {});
+
+/// `text` on one line, with blanks for control characters, which would do things to a terminal.
+std::wstring OneLine(std::wstring text);
+
+/// `text` in UTF-8, with U+FFFD for what is no character.
+std::string Utf8(std::wstring_view text);
+
+}  // namespace qvdisc

@@ -1,0 +1,101 @@
+#include "apps/qvdisc/Arguments.h"
+
+#include <gmock/gmock.h>
+
+#include "tests/apps/qvdisc/CommandLine.h"
+
+namespace qvdisc {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+TEST(Arguments, AWrongCallGivesItsReasonAndStatus2) {
+  const std::string here = "--installation=.";
+  const std::vector<std::vector<std::string>> calls = {
+      {},
+      {"frobnicate"},
+      {"list"},
+      {"list", "--installation", "nowhere"},
+      {"list", "--installation", "/dev/null"},
+      {"list", here, "stem"},
+      {"list", here, "--name", "x"},
+      {"list", here, "--nonsense"},
+      {"list", here, "--language", "de"},
+      {"list", here, "--language", "\xff"},
+      {"list", "--installation", "\xff\xfe"},
+      {"list", here, "--yes"},
+      {"show", here},
+      {"show", here, "a", "b"},
+      {"show", here, "\xc3"},
+      {"copy", here},
+      {"remove", here},
+      {"remove", here, "a", "--yes", "--no"},
+      {"modify", here},
+      {"modify", here, "a", "--type", "slots"},
+      {"modify", here, "a", "--zero-outside", "maybe"},
+      {"modify", here, "a", "--description", "bell\a"},
+      {"add", here},
+      {"add", here, "--name", std::string(81, 'x')},
+      {"add", here, "--name", "\x01"},
+      {"add", here, "--name"},
+  };
+  for (const auto& call : calls) {
+    const Ended ended = Call(call);
+    EXPECT_EQ(ended.status, 2) << testing::PrintToString(call);
+    EXPECT_EQ(ended.output, "") << testing::PrintToString(call);
+    EXPECT_THAT(ended.errors, StartsWith("qvdisc: ")) << testing::PrintToString(call);
+  }
+}
+
+TEST(Arguments, ANameMayHave80CharactersOfAnyLength) {
+  const char* const call[] = {"qvdisc", "add", "--installation", ".", "--name"};
+  std::vector<const char*> words(std::begin(call), std::end(call));
+  std::string name;
+  for (int i = 0; i < 80; ++i) {
+    name += "\xC3\xB1";
+  }
+  words.push_back(name.c_str());
+  const auto read = ReadArguments(static_cast<int>(words.size()), words.data());
+  ASSERT_TRUE(std::holds_alternative<Arguments>(read));
+  EXPECT_EQ(std::get<Arguments>(read).changes.name, std::wstring(80, L'\u00f1'));
+}
+
+TEST(Arguments, FieldsThatAreNotGivenStayAsTheyAre) {
+  const char* const call[] = {"qvdisc", "modify", "--installation", ".", "s", "--description", ""};
+  const auto read = ReadArguments(static_cast<int>(std::size(call)), call);
+  ASSERT_TRUE(std::holds_alternative<Arguments>(read));
+  FieldChanges expected;
+  expected.description = L"";
+  EXPECT_EQ(std::get<Arguments>(read).changes, expected);
+  EXPECT_EQ(std::get<Arguments>(read).stems, std::vector<std::wstring>{L"s"});
+}
+
+TEST(Arguments, HelpOfTheProgramAndOfEachVerb) {
+  const Ended program = Call({"--help"});
+  EXPECT_EQ(program.status, 0);
+  for (const char* verb :
+       {"list", "show", "index", "copy", "paste", "add", "modify", "remove", "check"}) {
+    EXPECT_THAT(program.output, HasSubstr(std::string("\n  ") + verb + " "));
+    const Ended help = Call({verb, "--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_THAT(help.output, HasSubstr(std::string("qvdisc ") + verb));
+    EXPECT_THAT(help.output, HasSubstr("--installation"));
+    EXPECT_THAT(help.output, HasSubstr("Exit status: 0 done, 1 refused or something found, 2"));
+  }
+}
+
+TEST(Arguments, VersionAndPages) {
+  EXPECT_EQ(Call({"--version"}).output, "qvdisc " QVDISC_VERSION "\n");
+  const Ended page = Call({"--manual-page"});
+  EXPECT_EQ(page.status, 0);
+  EXPECT_THAT(page.output, StartsWith(".TH QVDISC 1"));
+  EXPECT_THAT(page.output, HasSubstr(".SH modify\n"));
+  EXPECT_THAT(page.output, HasSubstr("\\fB\\-\\-type\\fR \\fISLOTS|CONDITIONS\\fR\n"));
+  const Ended completion = Call({"--bash-completion"});
+  EXPECT_EQ(completion.status, 0);
+  EXPECT_THAT(completion.output, HasSubstr("--type) _qvdisc_words \"SLOTS CONDITIONS\""));
+}
+
+}  // namespace
+}  // namespace qvdisc

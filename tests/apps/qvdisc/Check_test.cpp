@@ -1,0 +1,216 @@
+// Each kind of fault, planted in a copy of the example and found.
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+#include <set>
+
+#include "tests/apps/qvdisc/CommandLine.h"
+
+namespace qvdisc {
+namespace {
+
+using Json = nlohmann::json;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class CheckTest : public CommandLine {
+ protected:
+  /// The findings, and whether the exit status says that some of them are faults.
+  std::vector<Json> Findings(bool faulty = true, std::vector<std::string> stems = {}) {
+    stems.insert(stems.begin(), {"check", "--json"});
+    const Contents before = All();
+    const Ended ended = Do(stems);
+    EXPECT_EQ(ended.status, faulty ? 1 : 0) << ended.errors;
+    EXPECT_EQ(All(), before) << "a check changes nothing";
+    const Json json = Json::parse(ended.output);
+    return json["findings"].get<std::vector<Json>>();
+  }
+
+  /// The kinds of the findings, one a line.
+  static std::string Kinds(const std::vector<Json>& findings) {
+    std::string kinds;
+    for (const Json& finding : findings) {
+      kinds += finding["kind"].get<std::string>() + "\n";
+    }
+    return kinds;
+  }
+
+  /// The only finding there is, after its kind was compared.
+  Json Only(const std::string& kind) {
+    const auto findings = Findings();
+    EXPECT_EQ(Kinds(findings), kind + "\n");
+    return findings.empty() ? Json() : findings.front();
+  }
+
+  const std::string file = dayAndNight + ".xdct";
+};
+
+TEST_F(CheckTest, TheExampleIsFlawless) {
+  EXPECT_TRUE(Findings(false).empty());
+  EXPECT_EQ(Do({"check"}).output, "4 files, nothing found\n");
+}
+
+TEST_F(CheckTest, AFileThatCannotBeReadIsToldWithItsPlace) {
+  Write(file, "<main>\n  <id>1</i>\n");
+  const Json found = Only("unreadable");
+  EXPECT_EQ(found["file"], file);
+  EXPECT_EQ(found["line"], 2);
+  EXPECT_GT(found["column"], 0);
+  EXPECT_THAT(Do({"check"}).output, HasSubstr(file + ": cannot be read: line 2, column " +
+                                              std::to_string(found["column"].get<int>()) + ": "));
+}
+
+TEST_F(CheckTest, AFieldThatDisagreesWithTheFileNameIsTold) {
+  Edit(file, "<name>Day and night</name>", "<name>day and night</name>");
+  Json found = Only("name-differs");
+  EXPECT_EQ(found["value"], "day and night");
+  EXPECT_EQ(found["expected"], "Day and night");
+
+  Edit(file, "<name>day and night</name>", "<name>Day and night</name>");
+  Edit(file, "<id>3cb7ab9e-", "<id>00000000-");
+  EXPECT_EQ(Kinds(Findings()),
+            "id-differs\ndiscriminator-without-entry\nentry-without-discriminator\n");
+}
+
+TEST_F(CheckTest, AFileNameOfAnotherFormIsTold) {
+  std::filesystem::rename(File(file), File("copy.xdct"));
+  std::filesystem::remove(File(file + "I"));
+  EXPECT_EQ(Only("file-name")["file"], "copy.xdct");
+}
+
+TEST_F(CheckTest, AHiddenTypeIsExplainedAndNoFault) {
+  Edit("configuration.xml", "MODBUSTCP", "KORVAXEMBEDDED");
+  const auto findings = Findings(false);
+  ASSERT_EQ(Kinds(findings), "hidden-type\n");
+  EXPECT_EQ(findings[0]["fault"], false);
+  EXPECT_THAT(Do({"check"}).output, HasSubstr("hides the type CONDITIONS\n4 files, nothing found"));
+}
+
+TEST_F(CheckTest, ASlotWithoutItsHourTypeIsToldWithItsPlace) {
+  // The second slot of the first day.
+  std::string content = Read(file);
+  std::size_t at = content.find("<slot>", content.find("<dayTypes>"));
+  at = content.find("<id>", content.find("<slot>", at + 1));
+  Write(file, content.replace(at + 4, 8, "deaddead"));
+  const Json found = Only("dead-hour-type");
+  EXPECT_EQ(found["place"], "dayTypes/Winter day/slot 2 (08:00-18:00)");
+  EXPECT_THAT(found["value"].get<std::string>(), testing::StartsWith("deaddead"));
+}
+
+TEST_F(CheckTest, ADateWithoutItsDayTypeIsTold) {
+  std::string content = Read(file);
+  const std::size_t at = content.find("<day7>", content.find("<month3>"));
+  ASSERT_NE(at, std::string::npos);
+  Write(file, content.replace(at + 6, 8, "deaddead"));
+  EXPECT_EQ(Only("dead-day-type")["place"], "calendar/2026-03-07");
+}
+
+TEST_F(CheckTest, PartsThatComeTwiceAreTold) {
+  Edit(file, "<name>Night</name>", "<name>Day</name>");
+  EXPECT_EQ(Kinds(Findings()), "index-stale\nduplicate-part\n");
+  Edit(file, "<name>Summer day</name>", "<name>Winter day</name>");
+  const auto findings = Findings();
+  ASSERT_EQ(findings.size(), 3U);
+  EXPECT_EQ(findings[1]["place"], "hourTypes");
+  EXPECT_EQ(findings[1]["expected"], "name");
+  EXPECT_EQ(findings[2]["place"], "dayTypes");
+  EXPECT_EQ(findings[2]["value"], "Winter day");
+}
+
+TEST_F(CheckTest, IndexFilesAreCompared) {
+  std::filesystem::remove(File(file + "I"));
+  EXPECT_EQ(Only("index-missing")["file"], file);
+  Write(file + "I", "<hourTypes/>");
+  Only("index-stale");
+  Write(file + "I", "<hourTypes>");
+  Only("index-unreadable");
+  Do({"index", dayAndNight});
+  EXPECT_TRUE(Findings(false).empty());
+}
+
+TEST_F(CheckTest, IndexFilesOfNoUseAreTold) {
+  Write(station + ".xdctI", "<hourTypes/>");
+  EXPECT_EQ(Only("index-without-use")["file"], station + ".xdctI");
+}
+
+TEST_F(CheckTest, TheIndexOfAnUnreadableFileIsLeftAlone) {
+  Write(file, "");
+  EXPECT_EQ(Only("unreadable")["file"], file);
+}
+
+TEST_F(CheckTest, EntriesAndDiscriminatorsAreCompared) {
+  Edit("configuration.xml", "<id>b4f5b7a3-", "<id>00000000-");
+  const auto findings = Findings();
+  ASSERT_EQ(Kinds(findings), "discriminator-without-entry\nentry-without-discriminator\n");
+  EXPECT_EQ(findings[0]["file"], station + ".xdct");
+  EXPECT_EQ(findings[1]["place"], "deviceGroups/Transformer station");
+  EXPECT_EQ(findings[1]["value"], "00000000-3a57-4f3e-92cb-dab16be737f9");
+  EXPECT_THAT(Do({"check"}).output, HasSubstr("\nconfiguration.xml: deviceGroups/Transformer"));
+}
+
+TEST_F(CheckTest, ARepeatedEntryIsTold) {
+  Edit("configuration.xml", "<id>b4f5b7a3-3a57-4f3e-92cb-dab16be737f9</id>",
+       "<id>3cb7ab9e-fc2c-4de8-882f-a8ed7fb19e6b</id>");
+  EXPECT_EQ(Kinds(Findings()), "discriminator-without-entry\nduplicate-entry\n");
+}
+
+TEST_F(CheckTest, WithoutDeviceGroupsEveryDiscriminatorLacksItsEntry) {
+  std::filesystem::remove(File("configuration.xml"));
+  EXPECT_EQ(Findings().size(), 4U);
+}
+
+TEST_F(CheckTest, IdsAndNamesThatComeTwiceAreTold) {
+  Write("3cb7ab9e-fc2c-4de8-882f-a8ed7fb19e6b.DAY AND NIGHT.xdct",
+        "<main><id>3cb7ab9e-fc2c-4de8-882f-a8ed7fb19e6b</id><name>DAY AND NIGHT</name></main>");
+  EXPECT_EQ(Kinds(Findings()), "duplicate-id\nduplicate-name\nduplicate-id\nduplicate-name\n");
+}
+
+TEST_F(CheckTest, OnlyTheFilesOfTheCallAreTold) {
+  Write(file, "");
+  std::filesystem::remove(File(tariff2 + ".xdctI"));
+  EXPECT_EQ(Kinds(Findings(true, {tariff2})), "index-missing\n");
+  EXPECT_EQ(Kinds(Findings(true, {"Day and night", "Day and night"})), "unreadable\n");
+  EXPECT_TRUE(Findings(false, {station}).empty());
+  EXPECT_EQ(Do({"check", station}).output, "1 files, nothing found\n");
+  const Ended none = Do({"check", "none"});
+  EXPECT_EQ(none.status, 1);
+  EXPECT_THAT(none.errors, HasSubstr("There is no discriminator “none”"));
+}
+
+TEST_F(CheckTest, AwkwardFilesAreToldAndDoNoHarm) {
+  for (const auto& awkward : std::filesystem::directory_iterator(AWKWARD_FILES)) {
+    if (awkward.is_regular_file()) {
+      std::filesystem::copy(awkward, directory.Path(),
+                            std::filesystem::copy_options::overwrite_existing);
+    }
+  }
+  Write("configuration.xml", "<configuration/>");
+  std::set<std::string> told;
+  for (const Json& finding : Findings()) {
+    told.insert(finding["file"].get<std::string>());
+  }
+  EXPECT_GE(told.size(), 5U);
+  EXPECT_EQ(Do({"check"}).status, 1);
+}
+
+TEST_F(CheckTest, SpeaksSpanish) {
+  std::filesystem::remove(File(file + "I"));
+  EXPECT_EQ(Do({"check", "--language", "es"}).output,
+            file + ": falta el archivo de índice\n1 hallazgos en 4 archivos\n");
+}
+
+TEST(Finding, EachKindHasItsNameAndItsSentenceInBothLanguages) {
+  std::set<std::string> names;
+  for (int i = static_cast<int>(Word::Unreadable); i < static_cast<int>(Word::Count); ++i) {
+    const auto kind = static_cast<Word>(i);
+    EXPECT_TRUE(names.insert(KindName(kind)).second) << i;
+    EXPECT_STRNE(KindName(kind), "") << i;
+    const Finding finding{
+        .kind = kind, .file = L"f", .place = L"p", .value = L"v", .expected = L"e"};
+    EXPECT_NE(Sentence(finding, qv::Language::Spanish), Sentence(finding, qv::Language::English));
+    EXPECT_EQ(Sentence(finding, qv::Language::Spanish).find(L'%'), std::wstring::npos);
+  }
+}
+
+}  // namespace
+}  // namespace qvdisc
