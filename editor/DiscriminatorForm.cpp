@@ -49,6 +49,18 @@ void DiscriminatorForm::SelectType(int index) {
   EnsureContainers(*m_document.Root(), m_type);
 }
 
+void DiscriminatorForm::OnHourTypes(
+    const std::function<PartsEnd(XmlNode*, XmlNode*)>& runHourTypes) {
+  XmlDocument hourTypes(Part(tag::HourTypes));
+  XmlDocument dayTypes(Part(tag::DayTypes));
+  const PartsEnd end = runHourTypes(hourTypes.Root(), dayTypes.Root());
+  if (end.confirmed) {
+    m_modified = m_modified || end.modified;
+    Part(tag::DayTypes) = *dayTypes.Root();
+    Part(tag::HourTypes) = *hourTypes.Root();
+  }
+}
+
 bool DiscriminatorForm::Save(const DiscriminatorFields& typed) {
   if (!IsAccepted(typed)) {
     return false;

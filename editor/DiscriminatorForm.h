@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "discriminator/DiscriminatorDocument.h"
 #include "host/Host.h"
 #include "host/Prompter.h"
@@ -58,6 +60,17 @@ class DiscriminatorForm {
   /// missing and removes nothing, so that switching back finds all as it was.
   void SelectType(int index);
 
+  /// How a dialog over parts of the document ended.
+  struct PartsEnd {
+    bool confirmed = false;
+    bool modified = false;
+  };
+
+  /// Runs the dialog of the hour types on copies of hour types and day types, and takes both over
+  /// if it was confirmed, also without a change. On any other end the document stays as it was.
+  void OnHourTypes(
+      const std::function<PartsEnd(XmlNode* hourTypes, XmlNode* dayTypes)>& runHourTypes);
+
   /// Checks what was typed, writes the discriminator's file in place of the old one, and has its
   /// index made. True if the file was written; otherwise the user has been told why.
   ///
@@ -74,6 +87,7 @@ class DiscriminatorForm {
   bool IsAccepted(const DiscriminatorFields& typed);
   bool NameExists(const QVWideString& name) const;
   void TakeOver(const wchar_t* tag, const QVWideString& value);
+  XmlNode& Part(const wchar_t* tag) { return *m_document.Root()->Node(tag); }
   void RemoveOldFiles();
   bool WriteFile();
 

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 
+#include "timestructure/ui/CDlgHourTypes.h"
 #include "toolkit/ChoiceBox.h"
 #include "toolkit/LimitTyping.h"
 #include "toolkit/QVHyperlink.h"
@@ -37,6 +38,8 @@ CDlgAddModifyDiscriminator::CDlgAddModifyDiscriminator(qv::XmlNode* deviceGroups
   }
   connect(Find<qv::ChoiceBox>(typeCombo), &QComboBox::activated, this,
           &CDlgAddModifyDiscriminator::OnSelchangeType);
+  connect(Find<QVHyperlink>(hourTypesLink), &QVHyperlink::clicked, this,
+          &CDlgAddModifyDiscriminator::OnHourTypes);
 }
 
 CDlgAddModifyDiscriminator::~CDlgAddModifyDiscriminator() = default;
@@ -77,7 +80,7 @@ void CDlgAddModifyDiscriminator::InitializeTexts() {
   SetButton(IDOK, Text::Ok, L"OK-16.png");
   SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
   SetText(0, m_form->IsNew() ? Text::AddDiscriminatorTitle : Text::ModifyDiscriminatorTitle);
-  for (const int link : {calendarLink, dayTypesLink, hourTypesLink, conditionsLink}) {
+  for (const int link : {calendarLink, dayTypesLink, conditionsLink}) {
     Control(link)->setEnabled(false);
     Find<QVHyperlink>(link)->SetHint(qv::OwnText(Services().loadString, Text::LinkNotReady));
   }
@@ -112,6 +115,14 @@ void CDlgAddModifyDiscriminator::OnSelchangeType(int index) {
   m_form->SelectType(index);
   ShowLinksOfType();
   PositioningControls();
+}
+
+void CDlgAddModifyDiscriminator::OnHourTypes() {
+  m_form->OnHourTypes([this](qv::XmlNode* hourTypes, qv::XmlNode* dayTypes) {
+    CDlgHourTypes dialog(this, hourTypes, dayTypes);
+    const bool confirmed = dialog.DoModal() == IDOK;
+    return qv::DiscriminatorForm::PartsEnd{confirmed, dialog.m_modified};
+  });
 }
 
 void CDlgAddModifyDiscriminator::AddLinks(QVHoritzontalLayout& row) const {

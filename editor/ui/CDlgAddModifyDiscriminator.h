@@ -38,6 +38,7 @@ class CDlgAddModifyDiscriminator : public CDialog {
   void AddLinks(QVHoritzontalLayout& row) const;
   void AddDetails(QVHoritzontalLayout& row) const;
   void OnSelchangeType(int index);
+  void OnHourTypes();
   qv::DiscriminatorFields Typed() const;
 
   qv::XmlNode* m_deviceGroups;

@@ -1,5 +1,7 @@
 #include "editor/DiscriminatorForm.h"
 
+#include <stdexcept>
+
 #include "tests/editor/FormFixture.h"
 
 namespace qv {
@@ -103,6 +105,72 @@ TEST_F(FormTest, ANewDiscriminatorSwitchedToConditionsKeepsOnlyThese) {
             L"id name description setZeroOutsideSlot type hourTypes dayTypes calendar conditions");
   ASSERT_TRUE(form.Save(Named(L"n")));
   EXPECT_EQ(Tags(form.Root()), L"id name description setZeroOutsideSlot type conditions revision");
+}
+
+constexpr char withParts[] =
+    "<main><id>1</id><name>old</name><type>SLOTS</type>"
+    "<hourTypes><hour><id>h</id></hour></hourTypes><dayTypes><day><id>d</id></day></dayTypes>"
+    "<calendar/></main>";
+
+/// The form's document as it stands.
+std::wstring PartsOf(const DiscriminatorForm& form) {
+  std::wstring ids;
+  for (const wchar_t* part : {L"hourTypes", L"dayTypes"}) {
+    const XmlNode& node = *form.Root().Node(part);
+    for (auto child = node.ChildsBegin(); child != node.ChildsEnd(); ++child) {
+      ids += (*child)->Value(L"id", L"?").ToView();
+    }
+    ids += L"|";
+  }
+  return ids;
+}
+
+TEST_F(FormTest, TheHourTypesDialogWorksOnCopies) {
+  auto form = OpenContent(withParts);
+  form.OnHourTypes([&](XmlNode* hourTypes, XmlNode* dayTypes) {
+    EXPECT_EQ(*hourTypes, *form.Root().Node(L"hourTypes"));
+    EXPECT_EQ(*dayTypes, *form.Root().Node(L"dayTypes"));
+    EXPECT_NE(hourTypes, form.Root().Node(L"hourTypes"));
+    hourTypes->Reset();
+    dayTypes->Reset();
+    EXPECT_EQ(PartsOf(form), L"h|d|");
+    return DiscriminatorForm::PartsEnd{false, true};
+  });
+  EXPECT_EQ(PartsOf(form), L"h|d|");
+  EXPECT_FALSE(form.IsModified());
+}
+
+TEST_F(FormTest, ConfirmedHourTypesComeBackWithTheDayTypes) {
+  auto form = OpenContent(withParts);
+  const XmlNode* hours = form.Root().Node(L"hourTypes");
+  form.OnHourTypes([](XmlNode* hourTypes, XmlNode* dayTypes) {
+    hourTypes->NewChild(L"hour", nullptr)->SetValue(L"id", L"H");
+    dayTypes->Reset();
+    return DiscriminatorForm::PartsEnd{true, true};
+  });
+  EXPECT_EQ(PartsOf(form), L"hH||");
+  EXPECT_TRUE(form.IsModified());
+  EXPECT_EQ(form.Root().Node(L"hourTypes"), hours) << "the node stays, its content changes";
+}
+
+TEST_F(FormTest, HourTypesConfirmedWithoutAChangeComeBackToo) {
+  auto form = OpenContent(withParts);
+  form.OnHourTypes([](XmlNode* hourTypes, XmlNode*) {
+    hourTypes->NewChild(L"hour", nullptr)->SetValue(L"id", L"H");
+    return DiscriminatorForm::PartsEnd{true, false};
+  });
+  EXPECT_EQ(PartsOf(form), L"hH|d|");
+  EXPECT_FALSE(form.IsModified());
+}
+
+TEST_F(FormTest, AHourTypesDialogThatThrowsLeavesTheDocumentAsItWas) {
+  auto form = OpenContent(withParts);
+  EXPECT_THROW(form.OnHourTypes([](XmlNode* hourTypes, XmlNode*) -> DiscriminatorForm::PartsEnd {
+    hourTypes->Reset();
+    throw std::runtime_error("dialog");
+  }),
+               std::runtime_error);
+  EXPECT_EQ(PartsOf(form), L"h|d|");
 }
 
 }  // namespace

@@ -151,8 +151,8 @@ TEST_F(Editor, LabelsNameTheirControls) {
 TEST_F(Editor, LinksThatCannotBeOpenedYetSayWhy) {
   host->loadString.additions = {60005};
   Add([] {
-    EXPECT_FALSE(TopControl(hourTypesLink)->isEnabled());
-    EXPECT_EQ(TopControl(hourTypesLink)->toolTip(), "<p>[60005]</p>");
+    EXPECT_FALSE(TopControl(dayTypesLink)->isEnabled());
+    EXPECT_EQ(TopControl(dayTypesLink)->toolTip(), "<p>[60005]</p>");
     Click(IDCANCEL);
   });
 }
@@ -270,6 +270,57 @@ TEST_F(Editor, TheTypeIsSwitchedByKeyboard) {
   const QByteArray content = Content(Files()[0]);
   EXPECT_TRUE(content.contains("<type>CONDITIONS</type>"));
   EXPECT_FALSE(content.contains("hourTypes"));
+}
+
+/// Controls of the dialogs of hour types.
+constexpr int hourTypeName = 5350;
+constexpr int addHourType = 5348;
+
+/// Adds an hour type in the dialog that the next click opens, and ends that dialog by `end`.
+void AddHourTypeNext(int end) {
+  WhenNextWindow([=] {
+    EXPECT_EQ(TopWindow()->windowTitle(), "[478]");
+    WhenNextWindow([] {
+      QTest::keyClicks(TopControl(hourTypeName), "peak");
+      Click(IDOK);
+    });
+    Click(addHourType);
+    Click(end);
+  });
+}
+
+TEST_F(Editor, HourTypesAreAddedThroughTheirButtonAndSaved) {
+  const QString path = AddFile("1.old.xdct", oldFile);
+  Modify(path, [&] {
+    AddHourTypeNext(IDOK);
+    Click(hourTypesLink);
+    EXPECT_EQ(Content("1.old.xdct"), oldFile) << "nothing reaches the disk before OK";
+    Click(IDOK);
+  });
+  EXPECT_TRUE(modified);
+  EXPECT_TRUE(Content("1.old.xdct").contains("<name>peak</name>"));
+  EXPECT_FALSE(Content("1.old.xdct").contains("<revision>r</revision>"));
+}
+
+TEST_F(Editor, CancelledHourTypesLeaveTheDiscriminatorAsItWas) {
+  const QString path = AddFile("1.old.xdct", oldFile);
+  Modify(path, [&] {
+    AddHourTypeNext(IDCANCEL);
+    Click(hourTypesLink);
+    Click(IDOK);
+  });
+  EXPECT_FALSE(modified);
+  EXPECT_FALSE(Content("1.old.xdct").contains("peak"));
+}
+
+TEST_F(Editor, CancellingTheEditorDropsConfirmedHourTypes) {
+  const QString path = AddFile("1.old.xdct", oldFile);
+  Modify(path, [&] {
+    AddHourTypeNext(IDOK);
+    Click(hourTypesLink);
+    Click(IDCANCEL);
+  });
+  EXPECT_EQ(Content("1.old.xdct"), oldFile);
 }
 
 TEST_F(Editor, TheWheelWithoutFocusLeavesTheType) {

@@ -1,0 +1,192 @@
+#include "timestructure/ui/CDlgAddModifyHourType.h"
+
+#include "tests/timestructure/ui/HourTypesFixture.h"
+
+namespace qv {
+namespace {
+
+class HourTypeEditor : public HourTypesFixture {
+ protected:
+  /// Runs the editor on this node while `script` plays the user.
+  int Run(XmlNode& hour, const std::function<void()>& script) {
+    CDlgAddModifyHourType editor(nullptr, &Hours(), &hour);
+    const int result = Drive([&] { return editor.DoModal(); }, script);
+    modified = editor.m_modified;
+    return result;
+  }
+
+  bool modified = false;
+};
+
+TEST_F(HourTypeEditor, ShowsNameColourAndTexts) {
+  const int result = Run(Hour(L"day"), [&] {
+    EXPECT_EQ(Edit(nameEdit)->text(), "day");
+    EXPECT_EQ(Edit(valueEdit)->text(), "7");
+    EXPECT_EQ(Swatch()->Colour(), 0x0000FFU);
+    EXPECT_EQ(TopWindow()->windowTitle(), TextOf(475));
+    EXPECT_EQ(Swatch()->accessibleName(), TextOf(411));
+    EXPECT_EQ(Edit(nameEdit)->accessibleName(), TextOf(355));
+    QTest::keyClick(TopWindow(), Qt::Key_Escape);
+  });
+  EXPECT_EQ(result, IDCANCEL);
+  EXPECT_FALSE(modified);
+  EXPECT_EQ(Hours(), *before);
+}
+
+TEST_F(HourTypeEditor, AnHourTypeWithoutANameIsANewOne) {
+  XmlNode hour(L"hour");
+  Run(hour, [&] {
+    EXPECT_EQ(TopWindow()->windowTitle(), TextOf(476));
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(HourTypeEditor, OkWritesAndReturnPressesIt) {
+  EXPECT_EQ(Run(Hour(L"day"),
+                [&] {
+                  Type(nameEdit, "noon");
+                  QTest::keyClick(Edit(nameEdit), Qt::Key_Return);
+                }),
+            IDOK);
+  EXPECT_TRUE(modified);
+  EXPECT_EQ(Hour(L"noon").Value(L"value", L""), L"7");
+}
+
+TEST_F(HourTypeEditor, TheValueIsShownOnEmbeddedInstallationsOnly) {
+  int without = 0;
+  Run(Hour(L"day"), [&] {
+    EXPECT_FALSE(TopControl(valueEdit)->isVisible());
+    EXPECT_FALSE(TopControl(valueLabel)->isVisible());
+    without = TopWindow()->height();
+    Click(IDOK);
+  });
+  EXPECT_EQ(Hour(L"day").Value(L"value", L""), L"7") << "a hidden value survives";
+  EXPECT_FALSE(modified);
+  MakeEmbedded();
+  Run(Hour(L"day"), [&] {
+    EXPECT_TRUE(TopControl(valueEdit)->isVisible());
+    EXPECT_TRUE(TopControl(valueLabel)->isVisible());
+    EXPECT_GT(TopWindow()->height(), without);
+    Type(valueEdit, "x y");
+    Click(IDOK);
+  });
+  EXPECT_EQ(Hour(L"day").Value(L"value", L""), L"x y");
+  EXPECT_TRUE(modified);
+}
+
+TEST_F(HourTypeEditor, ItsHeightFitsAndCanNotBeChanged) {
+  for (const bool embedded : {false, true}) {
+    if (embedded) {
+      MakeEmbedded();
+    }
+    Run(Hour(L"day"), [] {
+      const QWidget* window = TopWindow();
+      EXPECT_EQ(window->minimumSize(), window->maximumSize());
+      const QRect ok = TopControl(IDOK)->geometry();
+      const QRect cancel = TopControl(IDCANCEL)->geometry();
+      EXPECT_EQ(ok.bottom(), cancel.bottom());
+      EXPECT_LT(ok.right(), cancel.left());
+      EXPECT_LE(window->height() - ok.bottom(), 20);
+      EXPECT_GT(window->height(), ok.bottom());
+      EXPECT_GT(ok.top(), Swatch()->geometry().bottom());
+      Click(IDCANCEL);
+    });
+  }
+}
+
+TEST_F(HourTypeEditor, AClickAndSpaceChooseAColour) {
+  Run(Hour(L"day"), [&] {
+    ChooseNextColour(QColor(0, 128, 0));
+    Click(swatch);
+    EXPECT_EQ(Swatch()->Colour(), 0x008000U);
+    ChooseNextColour(QColor(1, 2, 3));
+    Swatch()->setFocus();
+    QTest::keyClick(Swatch(), Qt::Key_Space);
+    EXPECT_EQ(Swatch()->Colour(), 0x030201U);
+    Click(IDOK);
+  });
+  EXPECT_EQ(Hour(L"day").Value(L"color", L""), L"030201");
+  EXPECT_TRUE(modified);
+}
+
+TEST_F(HourTypeEditor, ACancelledChoiceOfColourChangesNothing) {
+  Run(Hour(L"day"), [&] {
+    ChooseNextColour(QColor(0, 128, 0), false);
+    Click(swatch);
+    EXPECT_EQ(Swatch()->Colour(), 0x0000FFU);
+    Click(IDOK);
+  });
+  EXPECT_FALSE(modified);
+}
+
+TEST_F(HourTypeEditor, TheColourDialogOpensWithTheColourInForce) {
+  Run(Hour(L"night"), [&] {
+    WhenNextWindow([] {
+      EXPECT_EQ(qobject_cast<QColorDialog*>(TopWindow())->currentColor(), QColor(Qt::blue));
+      QTest::keyClick(TopWindow(), Qt::Key_Escape);
+    });
+    Click(swatch);
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(HourTypeEditor, ARefusedNameLeavesTheEditorOpenAndTheFocusWhereItWas) {
+  Run(Hour(L"day"), [&] {
+    Type(nameEdit, "night");
+    AnswerNextBox(466, QMessageBox::Ok);
+    QTest::keyClick(Edit(nameEdit), Qt::Key_Return);
+    EXPECT_EQ(TopWindow()->focusWidget(), Edit(nameEdit));
+    EXPECT_EQ(Edit(nameEdit)->text(), "night");
+    Click(IDCANCEL);
+  });
+  EXPECT_EQ(Hours(), *before);
+}
+
+TEST_F(HourTypeEditor, AnotherOnesColourIsAskedAboutAndNoKeepsIt) {
+  const int result = Run(Hour(L"day"), [&] {
+    ChooseNextColour(Qt::blue);
+    Click(swatch);
+    AnswerNextBox(465, QMessageBox::No);
+    Click(IDOK);
+    EXPECT_EQ(Swatch()->Colour(), 0xFF0000U);
+    AnswerNextBox(465, QMessageBox::Yes);
+    Click(IDOK);
+  });
+  EXPECT_EQ(result, IDOK);
+  EXPECT_EQ(Hour(L"day").Value(L"color", L""), L"FF0000");
+}
+
+TEST_F(HourTypeEditor, ANameHasAtMost128Characters) {
+  Run(Hour(L"day"), [&] {
+    Type(nameEdit, QString(200, 'x'));
+    EXPECT_EQ(Edit(nameEdit)->text().size(), 128);
+    Click(IDCANCEL);
+  });
+  Hour(L"day").SetValue(L"name", std::wstring(200, L'y').c_str());
+  Run(Hour(std::wstring(200, L'y').c_str()), [&] {
+    EXPECT_EQ(Edit(nameEdit)->text().size(), 200) << "what was loaded is never cut";
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(HourTypeEditor, TabGoesThroughTheFields) {
+  MakeEmbedded();
+  Run(Hour(L"day"), [&] {
+    Edit(nameEdit)->setFocus();
+    for (const int next : {valueEdit, swatch, IDOK, IDCANCEL, nameEdit}) {
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+      EXPECT_EQ(QApplication::focusWidget(), TopControl(next)) << next;
+    }
+    Click(IDCANCEL);
+  });
+}
+
+TEST(HourTypeEditorAlone, WithoutAHostItGivesMinusOne) {
+  XmlNode hours(L"hourTypes");
+  XmlNode hour(L"hour");
+  CDlgAddModifyHourType editor(nullptr, &hours, &hour);
+  EXPECT_EQ(editor.DoModal(), -1);
+}
+
+}  // namespace
+}  // namespace qv

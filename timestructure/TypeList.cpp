@@ -1,0 +1,103 @@
+#include "timestructure/TypeList.h"
+
+#include <algorithm>
+
+#include "discriminator/Fields.h"
+#include "discriminator/ValueForms.h"
+#include "tools/Guid.h"
+#include "tools/Names.h"
+#include "tools/XmlDocument.h"
+
+namespace qv {
+namespace {
+
+constexpr wchar_t white[] = L"FFFFFF";
+
+/// A new child that is removed again unless it is kept.
+class NewType {
+ public:
+  NewType(XmlNode& container, const wchar_t* tag)
+      : m_container(container), m_node(container.NewChild(tag, nullptr)) {
+    m_node->SetValue(tag::Id, NewGuidText());
+    m_node->SetValue(tag::Name, L"");
+    m_node->SetValue(tag::Color, white);
+  }
+  NewType(const NewType&) = delete;
+  NewType& operator=(const NewType&) = delete;
+  ~NewType() {
+    if (!m_kept) {
+      m_container.RemoveChild(m_node);
+    }
+  }
+
+  XmlNode& Node() { return *m_node; }
+  void Keep() { m_kept = true; }
+
+ private:
+  XmlNode& m_container;
+  XmlNode* m_node;
+  bool m_kept = false;
+};
+
+}  // namespace
+
+TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(container), m_tag(tag) {}
+
+void TypeList::Fill() {
+  m_rows.clear();
+  for (auto child = m_container.ChildsBegin(); child != m_container.ChildsEnd(); ++child) {
+    XmlNode& node = **child;
+    if (node.Tag() == m_tag) {
+      m_rows.push_back({&node, node.Value(tag::Name, L""), ColorOf(node.Value(tag::Color, L""))});
+    }
+  }
+  std::stable_sort(m_rows.begin(), m_rows.end(), [](const TypeRow& a, const TypeRow& b) {
+    return CompareLowered(a.name.ToView(), b.name.ToView()) < 0;
+  });
+}
+
+TypeListEnd TypeList::OnAdd(const RunEditor& runEditor) {
+  NewType added(m_container, m_tag);
+  if (!runEditor(added.Node()).confirmed) {
+    return {};
+  }
+  added.Keep();
+  m_modified = true;
+  Fill();
+  return {true, std::nullopt};
+}
+
+TypeListEnd TypeList::OnModify(std::optional<int> row, const RunEditor& runEditor) {
+  XmlNode* node = NodeOf(row);
+  if (!node) {
+    return {};
+  }
+  XmlDocument copy(*node);
+  const TypeEditorEnd end = runEditor(*copy.Root());
+  if (!end.confirmed) {
+    return {};
+  }
+  m_modified = m_modified || end.modified;
+  *node = *copy.Root();
+  Fill();
+  return {true, row};
+}
+
+TypeListEnd TypeList::OnRemove(std::optional<int> row) {
+  XmlNode* node = NodeOf(row);
+  if (!node) {
+    return {};
+  }
+  m_container.RemoveChild(node);
+  Fill();
+  m_modified = true;
+  const int last = static_cast<int>(m_rows.size()) - 1;
+  return {true, m_rows.empty() ? std::nullopt : std::optional(std::min(*row, last))};
+}
+
+XmlNode* TypeList::NodeOf(std::optional<int> row) const {
+  const bool isThere = row && *row >= 0 && *row < static_cast<int>(m_rows.size());
+  return isThere ? m_rows[static_cast<std::size_t>(*row)].node : nullptr;
+}
+
+}  // namespace qv

@@ -1,0 +1,131 @@
+#include "timestructure/ui/CDlgAddModifyHourType.h"
+
+#include <QColorDialog>
+#include <QLineEdit>
+
+#include "host/Installation.h"
+#include "toolkit/ColorSwatch.h"
+#include "toolkit/LimitTyping.h"
+#include "toolkit/PaintBox.h"
+#include "toolkit/QVLayout.h"
+#include "toolkit/Strings.h"
+#include "toolkit/Texts.h"
+#include "ui_1305.h"
+
+namespace {
+
+constexpr int groupBox = -1;
+constexpr int valueEdit = 5010;
+constexpr int swatch = 5261;
+constexpr int nameLabel = 5268;
+constexpr int valueLabel = 5269;
+constexpr int colourLabel = 5302;
+constexpr int nameEdit = 5350;
+
+void BuildTemplate(QDialog* dialog) { Ui::Template1305().setupUi(dialog); }
+
+}  // namespace
+
+CDlgAddModifyHourType::CDlgAddModifyHourType(CWnd* parent, qv::XmlNode* hourTypes,
+                                             qv::XmlNode* hour)
+    : CDialog(BuildTemplate, parent), m_hourTypes(hourTypes), m_hour(hour) {
+  connect(Find<qv::ColorSwatch>(swatch), &qv::ColorSwatch::clicked, this,
+          &CDlgAddModifyHourType::OnColor);
+}
+
+CDlgAddModifyHourType::~CDlgAddModifyHourType() = default;
+
+std::optional<int> CDlgAddModifyHourType::OnCreate() {
+  if (const auto refused = CDialog::OnCreate()) {
+    return refused;
+  }
+  m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
+  m_form = std::make_unique<qv::HourTypeForm>(*m_hourTypes, *m_hour, *m_boxes);
+  return std::nullopt;
+}
+
+void CDlgAddModifyHourType::OnInitDialog() {
+  qv::LimitTyping(Find<QLineEdit>(nameEdit), qv::TypeIdentity::longestTypedName);
+  qv::LimitTyping(Find<QLineEdit>(valueEdit), 0);
+  PositioningControls();
+  InitializeTexts();
+  InitializeData();
+}
+
+void CDlgAddModifyHourType::InitializeTexts() {
+  SetLabel(nameLabel, nameEdit, Text::Name);
+  SetLabel(valueLabel, valueEdit, Text::HourTypeValue);
+  SetLabel(colourLabel, swatch, Text::Colour);
+  SetButton(IDOK, Text::Ok, L"OK-16.png");
+  SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
+  SetText(0, m_form->Name().Empty() ? Text::AddHourTypeTitle : Text::ModifyHourTypeTitle);
+}
+
+void CDlgAddModifyHourType::InitializeData() {
+  Find<qv::ColorSwatch>(swatch)->SetColour(m_form->Colour());
+  qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Name()));
+  // Also into a hidden field, so that the value of another installation comes out as it went in.
+  qv::SetLoadedText(Find<QLineEdit>(valueEdit), qv::ToQString(m_form->Value()));
+}
+
+bool CDlgAddModifyHourType::HasValueField() const { return qv::IsEmbedded(Services().mainCfg); }
+
+void CDlgAddModifyHourType::PositioningControls() {
+  const bool withValue = HasValueField();
+  Control(valueEdit)->setVisible(withValue);
+  Control(valueLabel)->setVisible(withValue);
+  const QSize swatchSize = Control(swatch)->size();
+  QVVerticalLayout label(this);
+  label.AddGap(50);
+  label.AddControl(colourLabel, LayoutSizeLabel);
+  label.AddGap(50);
+  QVHoritzontalLayout colour(this);
+  colour.AddControl(swatch, QVLayout::Pixels2Size(swatchSize.width()).width);
+  colour.AddGap(LayoutSizeLabel);
+  colour.AddLayout(&label, 100);
+  QVVerticalLayout fields(this);
+  fields.SetBoxControl(groupBox, LayoutSizeStandard, false);
+  fields.AddControlAndLabel(nameEdit, nameLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
+  fields.AddGap(LayoutSizeStandard);
+  if (withValue) {
+    fields.AddControlAndLabel(valueEdit, valueLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
+    fields.AddGap(LayoutSizeStandard);
+  }
+  fields.AddLayout(&colour, QVLayout::Pixels2Size(swatchSize.height()).height);
+  QVHoritzontalLayout buttons(this);
+  buttons.AddGap(10);
+  buttons.AddControl(IDOK, 40);
+  buttons.AddGap(LayoutSizeStandard);
+  buttons.AddControl(IDCANCEL, 40);
+  buttons.AddGap(10);
+  QVVerticalLayout column(this);
+  column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
+  column.AddGap(LayoutSizeStandard);
+  column.AddLayout(&fields, 0);
+  column.AddGap(LayoutSizeStandard);
+  column.AddLayout(&buttons, LayoutSizeStandard);
+  column.AddGap(LayoutSizeStandard);
+  setFixedHeight(column.FixedSize().height());
+  column.Layout(rect());
+}
+
+void CDlgAddModifyHourType::OnColor() {
+  const QColor chosen = QColorDialog::getColor(qv::ColourOf(m_form->Colour()), this,
+                                               qv::HostText(Services().loadString, Text::Colour));
+  if (chosen.isValid() && m_form->ChooseColour(qv::NumberOf(chosen))) {
+    Find<qv::ColorSwatch>(swatch)->SetColour(m_form->Colour());
+  }
+}
+
+void CDlgAddModifyHourType::OnOK() {
+  if (m_form->Save(qv::ToWide(Find<QLineEdit>(nameEdit)->text()),
+                   qv::ToWide(Find<QLineEdit>(valueEdit)->text()))) {
+    CDialog::OnOK();
+  }
+}
+
+void CDlgAddModifyHourType::OnDestroy() {
+  m_modified = m_form->IsModified();
+  m_form.reset();
+  m_boxes.reset();
+}

@@ -1,0 +1,24 @@
+#include "timestructure/ui/CDlgHourTypes.h"
+
+#include "discriminator/Fields.h"
+#include "timestructure/ui/CDlgAddModifyHourType.h"
+#include "ui_1306.h"
+
+namespace {
+
+constexpr int box = 5317;
+
+void BuildTemplate(QDialog* dialog) { Ui::Template1306().setupUi(dialog); }
+
+}  // namespace
+
+CDlgHourTypes::CDlgHourTypes(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* /*dayTypes*/)
+    : TypeListDialog(parent, hourTypes,
+                     {BuildTemplate, qv::tag::Hour, box, Text::HourTypes, Text::HourTypeListTitle}),
+      m_hourTypes(hourTypes) {}
+
+qv::TypeEditorEnd CDlgHourTypes::RunEditor(qv::XmlNode& type) {
+  CDlgAddModifyHourType editor(this, m_hourTypes, &type);
+  const bool confirmed = editor.DoModal() == IDOK;
+  return {confirmed, editor.m_modified};
+}

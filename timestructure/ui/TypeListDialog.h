@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "timestructure/TypeList.h"
+#include "toolkit/CDialog.h"
+
+namespace qv {
+
+class ReportList;
+
+/// The dialog that lists hour types or day types: a row with a colour icon for each, and the
+/// buttons Add, Modify and Remove. What differs between the two is in `Kind` and the editor.
+class TypeListDialog : public CDialog {
+  Q_OBJECT
+
+ public:
+  ~TypeListDialog() override;
+
+  /// Whether the user changed anything. Stays readable after `DoModal`.
+  bool m_modified = false;
+
+ protected:
+  struct Kind {
+    Template build;
+    const wchar_t* tag;  ///< of the children that are listed
+    int box;             ///< control around the list
+    Text boxText;
+    Text title;
+  };
+
+  /// `container` outlives the dialog.
+  TypeListDialog(CWnd* parent, XmlNode* container, const Kind& kind);
+
+  /// Runs the editor of a type over this dialog.
+  virtual TypeEditorEnd RunEditor(XmlNode& type) = 0;
+
+  void OnInitDialog() override;
+  void PositioningControls() override;
+  void OnDestroy() override;
+
+ private:
+  void InitializeTexts();
+  void CreateColumns();
+  void ResizeColumn();
+  void EnableDisableButtons();
+  void OnAdd();
+  void OnModify();
+  void OnRemove();
+  void OnKeydown(int key);
+  void Follow(const TypeListEnd& end);
+  void FillList(std::optional<int> select);
+  std::optional<int> SelectedRow() const;
+
+  Kind m_kind;
+  XmlNode* m_container;
+  ReportList* m_listTypes;
+  std::unique_ptr<TypeList> m_list;
+};
+
+}  // namespace qv
