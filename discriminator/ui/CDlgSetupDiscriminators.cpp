@@ -190,6 +190,10 @@ void CDlgSetupDiscriminators::OnModify() {
 void CDlgSetupDiscriminators::OnRemove() {
   const auto end =
       m_list->OnRemove(m_listDiscriminators->SelectedRows(), [this](int row) { RemoveRow(row); });
+  if (end.outcome == qv::RemovalOutcome::NothingSelected ||
+      end.outcome == qv::RemovalOutcome::Stopped) {
+    return;
+  }
   if (end.rowToSelect) {
     SelectRow(*end.rowToSelect);
   }

@@ -248,6 +248,26 @@ TEST_F(SetupDiscriminators, AFileThatCannotBeDeletedStopsTheRemovalAndStaysSelec
             IDOK);
 }
 
+TEST_F(SetupDiscriminators, ARemovalThatStoppedLeavesTheButtonsAsTheyWere) {
+  AddFile("a", "alpha", "");
+  AddFile("b", "beta", "");
+  QFile::setPermissions(directory.filePath("b.beta.xdct"), QFile::ReadOwner);
+  Run([] {
+    ClickRow(0);
+    ClickRow(1, Qt::ShiftModifier);
+    EXPECT_FALSE(TopControl(modifyButton)->isEnabled());
+    WhenNextWindow([] {
+      qobject_cast<QMessageBox*>(TopWindow())->button(QMessageBox::Yes)->click();
+      AnswerNextBox(32369, QMessageBox::Ok);
+    });
+    Click(removeButton);
+    EXPECT_EQ(List()->selectedItems().size(), 1);
+    EXPECT_FALSE(TopControl(modifyButton)->isEnabled());
+    EXPECT_TRUE(TopControl(removeButton)->isEnabled());
+    Click(exitButton);
+  });
+}
+
 TEST_F(SetupDiscriminators, CopyAndPasteByKeysMakeNewRows) {
   AddFile("1", "alpha", "a");
   EXPECT_EQ(Run([] {
@@ -279,6 +299,81 @@ QStringList MenuAt(QWidget* viewport) {
   QApplication::sendEvent(viewport, &event);
   Settle();
   return captions;
+}
+
+/// Chooses the command with this caption in the menu that a right click brings up.
+void ChooseInMenu(QWidget* viewport, const QString& caption) {
+  QTimer::singleShot(0, viewport, [caption] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    for (QAction* action : menu->actions()) {
+      if (action->text() == caption) {
+        menu->setActiveAction(action);
+        QTest::keyClick(menu, Qt::Key_Return);
+        return;
+      }
+    }
+    ADD_FAILURE() << "no such command";
+  });
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+  QApplication::sendEvent(viewport, &event);
+  Settle();
+}
+
+TEST_F(SetupDiscriminators, TheMenuCopiesAndPastes) {
+  AddFile("1", "alpha", "a");
+  Run([this] {
+    ClickRow(0);
+    ChooseInMenu(List()->viewport(), "[732]\tCtrl+C");
+    EXPECT_TRUE(host->clipboard.text.has_value());
+    ChooseInMenu(List()->viewport(), "[742]\tCtrl+V");
+    EXPECT_EQ(Names(), QStringList({"alpha", "alpha_1"}));
+    Click(exitButton);
+  });
+}
+
+/// A clipboard that looks at the cursor of the top window while it is used.
+class WatchingClipboard : public QVClipboard {
+ public:
+  std::string text;
+  mutable std::vector<Qt::CursorShape> shapes;
+
+  bool PutToClipboard(const char* bytes, int size, int /*format*/) override {
+    shapes.push_back(TopWindow()->cursor().shape());
+    text.assign(bytes, static_cast<std::size_t>(size) - 1);
+    return true;
+  }
+  int GetFromClipboard(std::unique_ptr<char[]>& bytes, int /*format*/) const override {
+    shapes.push_back(TopWindow()->cursor().shape());
+    if (text.empty()) {
+      return 0;
+    }
+    bytes = std::make_unique<char[]>(text.size() + 1);
+    std::copy(text.begin(), text.end(), bytes.get());
+    return static_cast<int>(text.size()) + 1;
+  }
+};
+
+TEST_F(SetupDiscriminators, TheWaitCursorShowsDuringCopyAndPasteAndGoesOnEveryWayOut) {
+  WatchingClipboard clipboard;
+  QVClipboard* before = QVClipboard::Install(&clipboard);
+  AddFile("1", "alpha", "a");
+  Run([&] {
+    const auto press = [](Qt::Key key) {
+      QTest::keyClick(List(), key, Qt::ControlModifier);
+      EXPECT_EQ(TopWindow()->cursor().shape(), Qt::ArrowCursor);
+    };
+    press(Qt::Key_C);  // without a row
+    press(Qt::Key_V);  // nothing on the clipboard
+    clipboard.text = "foreign";
+    press(Qt::Key_V);
+    ClickRow(0);
+    press(Qt::Key_C);
+    press(Qt::Key_V);
+    Click(exitButton);
+  });
+  EXPECT_EQ(clipboard.shapes, std::vector<Qt::CursorShape>(4, Qt::WaitCursor));
+  QVClipboard::Install(before);
 }
 
 TEST_F(SetupDiscriminators, TheMenuOffersCopyAndPasteAsFarAsTheyCanBeDone) {
