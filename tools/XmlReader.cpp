@@ -38,8 +38,8 @@ bool IsIndentation(const OpenElement& element) {
 /// thrown through them: whatever goes wrong is kept and stops the parser.
 class XmlReader::Builder {
  public:
-  explicit Builder(std::wstring_view onlyRoot)
-      : m_onlyRoot(onlyRoot), m_parser(XML_ParserCreate(nullptr)) {
+  Builder(std::wstring_view onlyRoot, std::size_t maxDepth)
+      : m_onlyRoot(onlyRoot), m_maxDepth(maxDepth), m_parser(XML_ParserCreate(nullptr)) {
     XML_SetUserData(m_parser.get(), this);
     XML_SetElementHandler(m_parser.get(), OnStart, OnEnd);
     XML_SetCharacterDataHandler(m_parser.get(), OnText);
@@ -114,7 +114,7 @@ class XmlReader::Builder {
   }
 
   void Start(const XML_Char* name) {
-    if (m_open.size() >= maxXmlDepth) {
+    if (m_open.size() >= m_maxDepth) {
       Refuse("elements are nested more than 512 levels deep");
       return;
     }
@@ -174,6 +174,7 @@ class XmlReader::Builder {
   }
 
   std::wstring m_onlyRoot;
+  std::size_t m_maxDepth;
   ParserHandle m_parser;
   std::unique_ptr<XmlNode> m_root;
   std::vector<OpenElement> m_open;
@@ -185,9 +186,10 @@ class XmlReader::Builder {
   unsigned long m_column = 0;
 };
 
-XmlReader::XmlReader() : XmlReader(std::wstring_view()) {}
+XmlReader::XmlReader() : XmlReader(std::wstring_view(), 0) {}
 
-XmlReader::XmlReader(std::wstring_view onlyRoot) : m_builder(std::make_unique<Builder>(onlyRoot)) {}
+XmlReader::XmlReader(std::wstring_view onlyRoot, std::size_t wrappingLevels)
+    : m_builder(std::make_unique<Builder>(onlyRoot, maxXmlDepth + wrappingLevels)) {}
 
 XmlReader::~XmlReader() = default;
 

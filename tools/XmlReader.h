@@ -37,8 +37,9 @@ struct XmlError {
 class QVTOOLS_EXPORT XmlReader {
  public:
   XmlReader();
-  /// Refuses a text whose root has another tag, as soon as that root opens.
-  explicit XmlReader(std::wstring_view onlyRoot);
+  /// Refuses a text whose root has another tag, as soon as that root opens. The text may be deeper
+  /// by the levels that it wraps around documents.
+  explicit XmlReader(std::wstring_view onlyRoot, std::size_t wrappingLevels = 0);
   XmlReader(const XmlReader&) = delete;
   XmlReader& operator=(const XmlReader&) = delete;
   ~XmlReader();

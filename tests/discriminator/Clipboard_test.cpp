@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
+
 #include "discriminator/ClipboardPayload.h"
 #include "discriminator/DiscriminatorList.h"
 #include "tests/support/CountingProgress.h"
@@ -14,6 +17,8 @@ const std::string alphaFile =
     "<main><id>a</id><name>alpha</name><revision>r</revision><hourTypes><hour><id>h</id>"
     "<name>P1</name><color>0000FF</color><value>1</value></hour></hourTypes></main>";
 const std::string betaFile = "<root><id>b</id><name>beta</name><type>CONDITIONS</type></root>";
+
+using NameList = std::vector<std::wstring>;
 
 class ClipboardTest : public testing::Test {
  protected:
@@ -79,8 +84,6 @@ class ClipboardTest : public testing::Test {
                    : 0;
   }
 
-  using Names_ = std::vector<std::wstring>;
-
   FakeHost host;
   ScriptedFiles files;
   ScriptedPrompter prompter;
@@ -118,7 +121,7 @@ TEST_F(ClipboardTest, FilesThatCannotBeLoadedArePassedOver) {
 TEST_F(ClipboardTest, PastingMakesNewDiscriminators) {
   list->CopyToClipboard({0, 1});
   Paste();
-  EXPECT_EQ(Names(), (Names_{L"alpha", L"alpha_1", L"beta", L"beta_1"}));
+  EXPECT_EQ(Names(), (NameList{L"alpha", L"alpha_1", L"beta", L"beta_1"}));
   XmlDocument pasted;
   ASSERT_TRUE(pasted.Load(PathOf(L"alpha_1").c_str(), files));
   EXPECT_EQ(pasted.Root()->Value(L"id", L"").Length(), 36U);
@@ -135,7 +138,7 @@ TEST_F(ClipboardTest, PastingTwiceCountsOn) {
   list->CopyToClipboard({0});
   Paste();
   Paste();
-  EXPECT_EQ(Names(), (Names_{L"alpha", L"alpha_1", L"alpha_2", L"beta"}));
+  EXPECT_EQ(Names(), (NameList{L"alpha", L"alpha_1", L"alpha_2", L"beta"}));
   list->CopyToClipboard({1});
   Paste();
   EXPECT_EQ(Row(L"alpha_1_1").shown.name, L"alpha_1_1") << "the name as it came is alpha_1";
@@ -171,7 +174,7 @@ TEST_F(ClipboardTest, TheNameSearchIgnoresCase) {
 
 TEST_F(ClipboardTest, EqualNamesInOnePayloadStayEqual) {
   PasteText(Payload(Item("<main><name>n</name></main>") + Item("<main><name>n</name></main>")));
-  EXPECT_EQ(Names(), (Names_{L"alpha", L"beta", L"n", L"n"}));
+  EXPECT_EQ(Names(), (NameList{L"alpha", L"beta", L"n", L"n"}));
   EXPECT_NE(list->Rows()[2].shown.fileStem, list->Rows()[3].shown.fileStem);
 }
 
@@ -184,7 +187,7 @@ TEST_F(ClipboardTest, ANameOfAFileThatIsNotListedCountsAsFree) {
 TEST_F(ClipboardTest, ItemsOfOtherKindsArePassedOver) {
   PasteText(Payload("<other><main><name>x</name></main></other>" + Item("<body/>") +
                     Item("<main><name/></main>") + Item("<main/>")));
-  EXPECT_EQ(Names(), (Names_{L"alpha", L"beta"}));
+  EXPECT_EQ(Names(), (NameList{L"alpha", L"beta"}));
   EXPECT_EQ(Entries(), 0U);
   EXPECT_FALSE(list->Changed());
   EXPECT_EQ(refreshes, 2) << "a payload is always followed by a refresh";
@@ -192,7 +195,7 @@ TEST_F(ClipboardTest, ItemsOfOtherKindsArePassedOver) {
 
 TEST_F(ClipboardTest, OfAMainAndARootTheMainCounts) {
   PasteText(Payload(Item("<root><name>r</name></root><main><name>m</name></main>")));
-  EXPECT_EQ(Names(), (Names_{L"alpha", L"beta", L"m"}));
+  EXPECT_EQ(Names(), (NameList{L"alpha", L"beta", L"m"}));
 }
 
 TEST_F(ClipboardTest, AnythingElseOnTheClipboardDoesNothing) {
@@ -206,6 +209,28 @@ TEST_F(ClipboardTest, AnythingElseOnTheClipboardDoesNothing) {
   Paste();
   EXPECT_EQ(refreshes, 1);
   EXPECT_TRUE(files.log.empty());
+}
+
+TEST_F(ClipboardTest, ADocumentOfAnyDepthThatCanBeReadCanBePasted) {
+  constexpr int innerLevels = 510;
+  std::string deep = "<main><id>9</id><name>deep</name>";
+  for (int i = 0; i < innerLevels; ++i) {
+    deep += "<x>";
+  }
+  deep += "v";
+  for (int i = 0; i < innerLevels; ++i) {
+    deep += "</x>";
+  }
+  files.contents[L"/cfg/9.deep.xdct"] = deep + "</main>";
+  Refresh();
+  const auto found = std::find_if(list->Rows().begin(), list->Rows().end(),
+                                  [](const auto& row) { return row.shown.name == L"deep"; });
+  ASSERT_NE(found, list->Rows().end());
+  list->CopyToClipboard({static_cast<int>(found - list->Rows().begin())});
+  EXPECT_TRUE(list->Offer(0).paste);
+  Paste();
+  EXPECT_TRUE(std::any_of(list->Rows().begin(), list->Rows().end(),
+                          [](const auto& row) { return row.shown.name == L"deep_1"; }));
 }
 
 TEST_F(ClipboardTest, ForeignTextOfAnySizeDoesNothing) {
@@ -236,7 +261,47 @@ TEST_F(ClipboardTest, AFailedWriteStillMakesTheEntryAndTheNotices) {
   EXPECT_EQ(Entries(), 1U);
   EXPECT_EQ(host.guids.notices, (std::vector<int>{8, 5}));
   EXPECT_TRUE(list->Changed());
-  EXPECT_EQ(Names(), (Names_{L"alpha", L"beta"}));
+  EXPECT_EQ(Names(), (NameList{L"alpha", L"beta"}));
+}
+
+TEST_F(ClipboardTest, NamesThatCanNameNoFileMakeEntriesOnly) {
+  const std::size_t before = files.contents.size();
+  files.longestName = 255;
+  PasteText(Payload(Item("<main><name>" + std::string(250, 'n') + "</name></main>") +
+                    Item("<main><name>a/b</name></main>")));
+  EXPECT_EQ(files.contents.size(), before);
+  EXPECT_EQ(Entries(), 2U);
+  EXPECT_EQ(host.guids.notices, (std::vector<int>{8, 5, 8, 5}));
+  EXPECT_TRUE(list->Changed());
+}
+
+TEST_F(ClipboardTest, ANameThatIsTooLongForTheIndexOnlyMakesTheFile) {
+  files.longestName = 255;
+  // 36 characters of id, a dot, the name and ".xdct"; the index file has one more.
+  const std::string name(255 - 36 - 1 - 5, 'n');
+  PasteText(Payload(Item("<main><name>" + name + "</name><hourTypes/></main>")));
+  EXPECT_EQ(std::count_if(files.contents.begin(), files.contents.end(),
+                          [](const auto& file) { return file.first.size() > 200; }),
+            1);
+  EXPECT_EQ(Entries(), 1U);
+}
+
+TEST_F(ClipboardTest, TheEntryOfEachItemHasTheIdOfItsFile) {
+  list->CopyToClipboard({0, 1});
+  Paste();
+  std::set<std::wstring> ids;
+  std::set<std::wstring> revisions;
+  const XmlNode* devices = deviceGroups.Root()->Node(L"devices");
+  for (const wchar_t* name : {L"alpha_1", L"beta_1"}) {
+    XmlDocument document;
+    ASSERT_TRUE(document.Load(PathOf(name).c_str(), files));
+    const QVWideString id = document.Root()->Value(L"id", L"");
+    EXPECT_TRUE(devices->NodeV(L"device?id=%s?", id));
+    ids.insert(std::wstring(id.ToView()));
+    revisions.insert(std::wstring(document.Root()->Value(L"revision", L"").ToView()));
+  }
+  EXPECT_EQ(ids.size(), 2U);
+  EXPECT_EQ(revisions.size(), 2U);
 }
 
 TEST_F(ClipboardTest, ANameThatLeadsElsewhereIsNeverWrittenTo) {
@@ -252,7 +317,7 @@ TEST_F(ClipboardTest, OnAnEmbeddedInstallationConditionsAreWrittenButNotShown) {
   PasteText(Payload(Item("<main><name>c</name><type>CONDITIONS</type></main>")));
   EXPECT_EQ(files.contents.size(), 3U);
   EXPECT_EQ(Entries(), 1U);
-  EXPECT_EQ(Names(), Names_{L"alpha"});
+  EXPECT_EQ(Names(), NameList{L"alpha"});
 }
 
 TEST_F(ClipboardTest, WithoutATreeAPasteMakesFilesAndNoEntries) {

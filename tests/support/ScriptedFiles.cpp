@@ -69,7 +69,9 @@ std::unique_ptr<FileReader> ScriptedFiles::OpenForReading(std::wstring_view path
 std::unique_ptr<FileWriter> ScriptedFiles::OpenForWriting(std::wstring_view path) {
   std::wstring name(path);
   log.push_back(L"write " + name);
-  if (name.empty() || unwritable.contains(name) || directories.contains(name)) {
+  const std::size_t length = name.size() - (name.find_last_of(L'/') + 1);
+  if (length == 0 || length > longestName || unwritable.contains(name) ||
+      directories.contains(name)) {
     return nullptr;
   }
   contents[name].clear();

@@ -32,8 +32,9 @@ class ScriptedFiles : public Files {
   bool refuseDirectories = false;         ///< no directory can be made
   bool failClose = false;                 ///< flushing or closing a written file fails
   std::optional<std::size_t>
-      diskSpace;              ///< bytes that may still be written before the disk is full
-  std::size_t pieceSize = 0;  ///< the most that one read gives; 0 for no limit
+      diskSpace;                   ///< bytes that may still be written before the disk is full
+  std::size_t longestName = 4096;  ///< a file of a longer name can't be written
+  std::size_t pieceSize = 0;       ///< the most that one read gives; 0 for no limit
 
   std::unique_ptr<FileReader> OpenForReading(std::wstring_view path) override;
   std::unique_ptr<FileWriter> OpenForWriting(std::wstring_view path) override;
