@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "discriminator/Fields.h"
 #include "tools/QVBasicString.h"
 
 namespace configurator {
@@ -14,8 +15,8 @@ namespace {
 using qv::XmlNode;
 using NodeSet = std::set<const XmlNode*>;
 
-constexpr wchar_t groupsTag[] = L"groups";
-constexpr wchar_t devicesTag[] = L"devices";
+constexpr const wchar_t* groupsTag = qv::tag::Groups;
+constexpr const wchar_t* devicesTag = qv::tag::Devices;
 
 /// A line of the tree, and the container that its node is a child of.
 struct Line {
@@ -65,19 +66,14 @@ Line Find(const XmlNode& deviceGroups, const TreePlace& place) {
   return Find(const_cast<XmlNode&>(deviceGroups), place);
 }
 
-TreePlace Parent(TreePlace place) {
-  place.pop_back();
-  return place;
-}
-
 bool IsAtOrBelow(const TreePlace& place, const TreePlace& above) {
   return above.size() <= place.size() && std::equal(above.begin(), above.end(), place.begin());
 }
 
 /// In the order of the tree, without what stands below another or comes twice.
-std::vector<TreePlace> Outermost(std::vector<TreePlace> places) {
+Places Outermost(Places places) {
   std::sort(places.begin(), places.end());
-  std::vector<TreePlace> outermost;
+  Places outermost;
   for (TreePlace& place : places) {
     if (outermost.empty() || !IsAtOrBelow(place, outermost.back())) {
       outermost.push_back(std::move(place));
@@ -98,7 +94,7 @@ int Depth(const Line& line) {
   return below + 1;
 }
 
-XmlNode& Made(XmlNode& level, const wchar_t* containerTag) {
+XmlNode& FindOrMake(XmlNode& level, const wchar_t* containerTag) {
   XmlNode* container = level.Node(containerTag);
   return container ? *container : *level.NewChild(containerTag, nullptr);
 }
@@ -138,11 +134,11 @@ NodeSet MoveKind(const std::vector<Line>& lines, bool areGroups, XmlNode& level,
   NodeSet moved;
   for (const Line& line : lines) {
     if (line.isGroup == areGroups) {
-      moved.insert(Transfer(line, Made(level, tag)));
+      moved.insert(Transfer(line, FindOrMake(level, tag)));
     }
   }
   if (!moved.empty() && before) {
-    XmlNode& container = Made(level, tag);
+    XmlNode& container = *level.Node(tag);
     const auto end = container.ChildsEnd();
     std::rotate(std::find(container.ChildsBegin(), end, before),
                 std::prev(end, static_cast<std::ptrdiff_t>(moved.size())), end);
@@ -151,8 +147,7 @@ NodeSet MoveKind(const std::vector<Line>& lines, bool areGroups, XmlNode& level,
 }
 
 /// Adds the place of each of `nodes` that stands below `level`, which is at `place`.
-void AddPlaces(const XmlNode& level, const TreePlace& place, const NodeSet& nodes,
-               std::vector<TreePlace>& places) {
+void AddPlaces(const XmlNode& level, const TreePlace& place, const NodeSet& nodes, Places& places) {
   TreePlace below = place;
   below.push_back(0);
   for (const Line& line : LinesOf(level)) {
@@ -170,7 +165,7 @@ void AddGroups(const XmlNode& level, const TreePlace& place, std::vector<GroupLi
   below.push_back(0);
   for (const Line& line : LinesOf(level)) {
     if (line.isGroup) {
-      groups.push_back({below, std::wstring(line.node->Value(L"name", L"").ToView())});
+      groups.push_back({below, std::wstring(line.node->Value(qv::tag::Name, L"").ToView())});
       AddGroups(*line.node, below, groups);
       ++below.back();
     }
@@ -178,6 +173,11 @@ void AddGroups(const XmlNode& level, const TreePlace& place, std::vector<GroupLi
 }
 
 }  // namespace
+
+TreePlace ParentOf(TreePlace place) {
+  place.pop_back();
+  return place;
+}
 
 std::vector<GroupLine> GroupsOf(const XmlNode& deviceGroups) {
   std::vector<GroupLine> groups;
@@ -194,7 +194,7 @@ Siblings SiblingsOf(const XmlNode& deviceGroups, const TreePlace& place) {
   if (!line.node) {
     return {};
   }
-  const auto lines = LinesOf(*Find(deviceGroups, Parent(place)).node);
+  const auto lines = LinesOf(*Find(deviceGroups, ParentOf(place)).node);
   const auto isSibling = [&](const Line& other) { return other.isGroup == line.isGroup; };
   const auto first = std::find_if(lines.begin(), lines.end(), isSibling);
   return {static_cast<int>(first - lines.begin()),
@@ -207,8 +207,8 @@ std::optional<TreePlace> AddGroup(XmlNode& deviceGroups, const TreePlace& parent
   if (!line.isGroup || parent.size() >= maxGroupDepth) {
     return std::nullopt;
   }
-  XmlNode& groups = Made(*line.node, groupsTag);
-  groups.NewChild(L"group", nullptr)->SetValue(L"name", QVWideString(name));
+  XmlNode& groups = FindOrMake(*line.node, groupsTag);
+  groups.NewChild(L"group", nullptr)->SetValue(qv::tag::Name, QVWideString(name));
   TreePlace place = parent;
   place.push_back(static_cast<int>(std::distance(groups.ChildsBegin(), groups.ChildsEnd())) - 1);
   return place;
@@ -219,7 +219,7 @@ bool RenameGroup(XmlNode& deviceGroups, const TreePlace& place, std::wstring_vie
   if (!line.isGroup || place.empty()) {
     return false;
   }
-  line.node->SetValue(L"name", QVWideString(name));
+  line.node->SetValue(qv::tag::Name, QVWideString(name));
   return true;
 }
 
@@ -228,7 +228,7 @@ bool RemoveGroup(XmlNode& deviceGroups, const TreePlace& place) {
   if (!group.isGroup || place.empty()) {
     return false;
   }
-  XmlNode& around = *Find(deviceGroups, Parent(place)).node;
+  XmlNode& around = *Find(deviceGroups, ParentOf(place)).node;
   const auto lines = LinesOf(*group.node);
   MoveKind(lines, true, around, group.node);
   MoveKind(lines, false, around, nullptr);
@@ -236,18 +236,18 @@ bool RemoveGroup(XmlNode& deviceGroups, const TreePlace& place) {
   return true;
 }
 
-bool CanMove(const XmlNode& deviceGroups, const std::vector<TreePlace>& what,
-             const TreePlace& group) {
+bool CanMove(const XmlNode& deviceGroups, const Places& what, const TreePlace& group) {
   const auto fits = [&](const TreePlace& place) {
     const Line line = place.empty() ? Line{} : Find(deviceGroups, place);
     return line.node && !(line.isGroup && IsAtOrBelow(group, place)) &&
-           static_cast<int>(group.size()) + Depth(line) <= maxGroupDepth;
+           (group.size() < place.size() ||
+            static_cast<int>(group.size()) + Depth(line) <= maxGroupDepth);
   };
   return IsGroupPlace(deviceGroups, group) && std::all_of(what.begin(), what.end(), fits);
 }
 
-std::vector<TreePlace> MoveLines(XmlNode& deviceGroups, std::vector<TreePlace> what,
-                                 const TreePlace& group, std::optional<int> row) {
+Places MoveLines(XmlNode& deviceGroups, Places what, const TreePlace& group,
+                 std::optional<int> row) {
   if (!CanMove(deviceGroups, what, group)) {
     return {};
   }
@@ -259,7 +259,7 @@ std::vector<TreePlace> MoveLines(XmlNode& deviceGroups, std::vector<TreePlace> w
   const Gap gap = GapAt(level, row, lines);
   NodeSet moved = MoveKind(lines, true, level, gap.group);
   moved.merge(MoveKind(lines, false, level, gap.device));
-  std::vector<TreePlace> places;
+  Places places;
   AddPlaces(deviceGroups, {}, moved, places);
   return places;
 }

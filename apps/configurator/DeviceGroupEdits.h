@@ -13,6 +13,10 @@ namespace configurator {
 /// which the groups of a level come before its devices, as `ReadDeviceTree` gives them. Empty for
 /// what holds the top level. A place that isn't there names nothing, and edits refuse it.
 using TreePlace = std::vector<int>;
+using Places = std::vector<TreePlace>;
+
+/// The place of the group that holds the line at `place`, which isn't empty.
+TreePlace ParentOf(TreePlace place);
 
 /// How many groups may stand in each other. A file nested too deep could not be read again.
 inline constexpr int maxGroupDepth = 100;
@@ -52,9 +56,8 @@ bool RenameGroup(qv::XmlNode& deviceGroups, const TreePlace& place, std::wstring
 bool RemoveGroup(qv::XmlNode& deviceGroups, const TreePlace& place);
 
 /// Whether all lines of `what` can move into the group at `group`. A group can't move into itself
-/// or below itself, nor can any group end too deep.
-bool CanMove(const qv::XmlNode& deviceGroups, const std::vector<TreePlace>& what,
-             const TreePlace& group);
+/// or below itself, nor can any group come to stand deeper than it does and too deep.
+bool CanMove(const qv::XmlNode& deviceGroups, const Places& what, const TreePlace& group);
 
 /// Moves lines into the group at `group`, before its row `row`, or behind all others without one,
 /// in the order in which they stand. A group that would come to stand among the devices comes last
@@ -62,7 +65,7 @@ bool CanMove(const qv::XmlNode& deviceGroups, const std::vector<TreePlace>& what
 /// line of `what` moves along with that and stays where it is in it.
 ///
 /// Gives the new places of what was moved, in order; none if `CanMove` is false.
-std::vector<TreePlace> MoveLines(qv::XmlNode& deviceGroups, std::vector<TreePlace> what,
-                                 const TreePlace& group, std::optional<int> row);
+Places MoveLines(qv::XmlNode& deviceGroups, Places what, const TreePlace& group,
+                 std::optional<int> row);
 
 }  // namespace configurator

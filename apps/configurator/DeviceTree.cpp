@@ -84,11 +84,11 @@ DeviceTreeItem ReadGroup(const XmlNode& group, const Names& names) {
 /// The depth is bounded: a document is nested 512 levels deep at most.
 Items ReadLevel(const XmlNode& level, const Names& names) {
   Items items;
-  if (const XmlNode* groups = level.Node(L"groups")) {
+  if (const XmlNode* groups = level.Node(qv::tag::Groups)) {
     std::transform(groups->ChildsBegin(), groups->ChildsEnd(), std::back_inserter(items),
                    [&](const XmlNode* group) { return ReadGroup(*group, names); });
   }
-  if (const XmlNode* devices = level.Node(L"devices")) {
+  if (const XmlNode* devices = level.Node(qv::tag::Devices)) {
     std::transform(devices->ChildsBegin(), devices->ChildsEnd(), std::back_inserter(items),
                    [&](const XmlNode* device) { return ReadDevice(*device, names); });
   }

@@ -10,6 +10,7 @@
 
 #include "apps/configurator/DeviceTreeView.h"
 #include "apps/configurator/Strings.h"
+#include "discriminator/Fields.h"
 #include "toolkit/Strings.h"
 #include "tools/XmlText.h"
 
@@ -44,11 +45,6 @@ class DeviceGroupsChange : public QUndoCommand {
   Snapshot m_after;
 };
 
-TreePlace Parent(TreePlace place) {
-  place.pop_back();
-  return place;
-}
-
 /// "Undo" and what, or the bare word if there is nothing to undo.
 QString StepText(const QUndoStack& stack, int index, OwnText bare, OwnText named,
                  qv::Language language) {
@@ -61,8 +57,8 @@ QString StepText(const QUndoStack& stack, int index, OwnText bare, OwnText named
 DeviceTreeEditor::DeviceTreeEditor(Workspace& workspace, DeviceTreeView& view, QObject* parent)
     : QObject(parent), m_workspace(workspace), m_view(view), m_moveTo(new QMenu) {
   MakeUndo();
-  NewCommand(OwnText::NewGroup, Qt::CTRL | Qt::SHIFT | Qt::Key_N, &DeviceTreeEditor::OnNewGroup)
-      ->setObjectName(QStringLiteral("new-group"));
+  m_newGroup = NewCommand(OwnText::NewGroup, Qt::CTRL | Qt::SHIFT | Qt::Key_N,
+                          &DeviceTreeEditor::OnNewGroup);
   m_rename = NewCommand(OwnText::RenameGroup, Qt::Key_F2, &DeviceTreeEditor::OnRename);
   m_remove = NewCommand(OwnText::RemoveGroup, Qt::Key_Delete, &DeviceTreeEditor::OnRemove);
   m_up = NewCommand(OwnText::MoveUp, Qt::ALT | Qt::Key_Up, &DeviceTreeEditor::OnUp);
@@ -84,7 +80,10 @@ QAction* DeviceTreeEditor::NewCommand(OwnText text, const QKeySequence& keys,
   command->setShortcut(keys);
   // The keys are those of the lines, not of the whole window.
   command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-  connect(command, &QAction::triggered, this, run);
+  connect(command, &QAction::triggered, this, [this, run] {
+    m_view.CommitName();
+    (this->*run)();
+  });
   m_commands.emplace_back(command, text);
   m_view.addAction(command);
   return command;
@@ -94,10 +93,16 @@ void DeviceTreeEditor::MakeUndo() {
   m_undo.setUndoLimit(maxSteps);
   m_undoCommand = new QAction(this);
   m_undoCommand->setShortcut(QKeySequence::Undo);
-  connect(m_undoCommand, &QAction::triggered, &m_undo, &QUndoStack::undo);
+  connect(m_undoCommand, &QAction::triggered, this, [this] {
+    m_view.CommitName();
+    m_undo.undo();
+  });
   m_redoCommand = new QAction(this);
   m_redoCommand->setShortcuts(QKeySequence::Redo);
-  connect(m_redoCommand, &QAction::triggered, &m_undo, &QUndoStack::redo);
+  connect(m_redoCommand, &QAction::triggered, this, [this] {
+    m_view.CommitName();
+    m_undo.redo();
+  });
   connect(&m_undo, &QUndoStack::indexChanged, this, [this] {
     ShowUndoTexts();
     emit Changed();
@@ -106,13 +111,11 @@ void DeviceTreeEditor::MakeUndo() {
 
 void DeviceTreeEditor::ListenToView() {
   DeviceTreeModel& lines = m_view.Lines();
-  lines.whenRenamed = [this](const TreePlace& place, const QString& name) { Rename(place, name); };
   lines.mayDrop = [this](const Places& what, const TreePlace& group) {
     return CanMove(Groups(), what, group);
   };
-  lines.whenDropped = [this](const Places& what, const TreePlace& group, std::optional<int> row) {
-    Move(what, group, row);
-  };
+  connect(&lines, &DeviceTreeModel::Renamed, this, &DeviceTreeEditor::Rename);
+  connect(&lines, &DeviceTreeModel::Dropped, this, &DeviceTreeEditor::Move);
   m_view.setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &DeviceTreeEditor::ShowState);
@@ -145,20 +148,22 @@ void DeviceTreeEditor::ShowUndoTexts() {
   m_redoCommand->setEnabled(m_undo.canRedo());
 }
 
-void DeviceTreeEditor::OnNewGroup() {
+TreePlace DeviceTreeEditor::ParentOfNewGroup() const {
   const auto selected = m_view.Selected();
-  TreePlace parent = selected.size() == 1 ? selected.front() : TreePlace();
-  if (!IsGroupPlace(Groups(), parent)) {
-    parent = Parent(parent);
-  }
-  TreePlace made;
-  Apply(OwnText::GroupMade, [&](XmlNode& groups) -> Places {
+  const TreePlace place = selected.size() == 1 ? selected.front() : TreePlace();
+  return IsGroupPlace(Groups(), place) ? place : ParentOf(place);
+}
+
+void DeviceTreeEditor::OnNewGroup() {
+  std::optional<TreePlace> made;
+  Apply(OwnText::GroupMade, [&](XmlNode& groups) {
     const auto name = m_workspace.Words(OwnText::NewGroupName).toStdWString();
-    const auto place = AddGroup(groups, parent, name);
-    made = place.value_or(TreePlace());
-    return place ? Places{*place} : Places();
+    made = AddGroup(groups, ParentOfNewGroup(), name);
+    return made ? Places{*made} : Places();
   });
-  m_view.EditName(made);
+  if (made) {
+    m_view.EditName(*made);
+  }
 }
 
 void DeviceTreeEditor::OnRename() { m_view.EditName(m_view.Selected().front()); }
@@ -187,7 +192,7 @@ void DeviceTreeEditor::Move(const Places& what, const TreePlace& group, std::opt
 
 void DeviceTreeEditor::MoveBy(int rows) {
   const TreePlace place = m_view.Selected().front();
-  Move({place}, Parent(place), place.back() + (rows < 0 ? rows : rows + 1));
+  Move({place}, ParentOf(place), place.back() + (rows < 0 ? rows : rows + 1));
 }
 
 void DeviceTreeEditor::Apply(OwnText what, const Edit& edit) {
@@ -202,7 +207,14 @@ void DeviceTreeEditor::Apply(OwnText what, const Edit& edit) {
   }
 }
 
+void DeviceTreeEditor::Forget() {
+  const QSignalBlocker silent(m_undo);
+  m_undo.clear();
+  ShowUndoTexts();
+}
+
 void DeviceTreeEditor::ShowState() {
+  m_newGroup->setEnabled(ParentOfNewGroup().size() < maxGroupDepth);
   const bool isGroup = IsSelectedGroup();
   m_rename->setEnabled(isGroup);
   m_remove->setEnabled(isGroup);
@@ -223,7 +235,7 @@ void DeviceTreeEditor::FillMoveTo() {
 
 void DeviceTreeEditor::AddTarget(const QString& name, const TreePlace& group) {
   const auto what = m_view.Selected();
-  const auto stands = [&](const TreePlace& place) { return Parent(place) == group; };
+  const auto stands = [&](const TreePlace& place) { return ParentOf(place) == group; };
   const QString margin(indentation * static_cast<int>(group.size()), QLatin1Char(' '));
   QAction* target = m_moveTo->addAction(margin + LiteralCaption(name), this,
                                         [this, what, group] { Move(what, group, {}); });
@@ -232,7 +244,7 @@ void DeviceTreeEditor::AddTarget(const QString& name, const TreePlace& group) {
 }
 
 const XmlNode& DeviceTreeEditor::Groups() const {
-  static const XmlNode none(L"deviceGroups");
+  static const XmlNode none(qv::tag::DeviceGroups);
   const XmlNode* groups = std::as_const(m_workspace).Config().DeviceGroups();
   return groups ? *groups : none;
 }

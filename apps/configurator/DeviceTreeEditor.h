@@ -33,15 +33,15 @@ class DeviceTreeEditor : public QObject {
   void AddTo(QMenu& menu);
   /// Names all commands in the language of the workspace.
   void ShowTexts();
-  /// Takes back the chance to undo and redo, since something else changed the device groups.
-  void Forget() { m_undo.clear(); }
+  /// Takes back the chance to undo and redo, since something else changed the device groups. They
+  /// have to be shown by whoever calls this.
+  void Forget();
 
  signals:
   /// The device groups are others now: they have to be shown.
   void Changed();
 
  private:
-  using Places = std::vector<TreePlace>;
   /// Changes the tree and gives the places to select then; no change if none.
   using Edit = std::function<Places(qv::XmlNode&)>;
 
@@ -67,6 +67,7 @@ class DeviceTreeEditor : public QObject {
   const qv::XmlNode& Groups() const;
   bool IsSelectedGroup() const;
   bool CanMoveBy(int rows) const;
+  TreePlace ParentOfNewGroup() const;
 
   Workspace& m_workspace;
   DeviceTreeView& m_view;
@@ -74,6 +75,7 @@ class DeviceTreeEditor : public QObject {
   std::vector<std::pair<QAction*, OwnText>> m_commands;
   QAction* m_undoCommand = nullptr;
   QAction* m_redoCommand = nullptr;
+  QAction* m_newGroup = nullptr;
   QAction* m_rename = nullptr;
   QAction* m_remove = nullptr;
   QAction* m_up = nullptr;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDataStream>
+#include <QEvent>
 #include <QIODevice>
 #include <QMimeData>
 #include <algorithm>
@@ -29,8 +30,8 @@ QByteArray Packed(const QModelIndexList& cells) {
   return bytes;
 }
 
-DeviceTreeModel::Places Unpacked(const QMimeData& lines) {
-  DeviceTreeModel::Places places;
+Places Unpacked(const QMimeData& lines) {
+  Places places;
   QDataStream stream(lines.data(LinesType()));
   while (!stream.atEnd()) {
     QList<int> place;
@@ -58,14 +59,18 @@ QVariant DeviceTreeModel::data(const QModelIndex& index, int role) const {
 }
 
 bool DeviceTreeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-  if (role != Qt::EditRole || !whenRenamed) {
-    return false;
+  if (role == Qt::EditRole) {
+    TellLater(
+        [this, place = PlaceOf(index), name = value.toString()] { emit Renamed(place, name); });
   }
-  const auto tell = [this, place = PlaceOf(index), name = value.toString()] {
-    whenRenamed(place, name);
-  };
-  return QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+  return role == Qt::EditRole;
 }
+
+void DeviceTreeModel::TellLater(const std::function<void()>& tell) {
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+void DeviceTreeModel::TellNow() { QCoreApplication::sendPostedEvents(this, QEvent::MetaCall); }
 
 QStringList DeviceTreeModel::mimeTypes() const { return {LinesType()}; }
 
@@ -83,12 +88,11 @@ bool DeviceTreeModel::canDropMimeData(const QMimeData* lines, Qt::DropAction act
 
 bool DeviceTreeModel::dropMimeData(const QMimeData* lines, Qt::DropAction action, int row,
                                    int column, const QModelIndex& parent) {
-  if (whenDropped && canDropMimeData(lines, action, row, column, parent)) {
-    const auto tell = [this, what = Unpacked(*lines), group = PlaceOf(parent),
-                       before = row < 0 ? std::nullopt : std::optional(row)] {
-      whenDropped(what, group, before);
-    };
-    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+  if (canDropMimeData(lines, action, row, column, parent)) {
+    TellLater([this, what = Unpacked(*lines), group = PlaceOf(parent),
+               before = row < 0 ? std::nullopt : std::optional(row)] {
+      emit Dropped(what, group, before);
+    });
   }
   // The view would remove the lines itself from a model that took them.
   return false;

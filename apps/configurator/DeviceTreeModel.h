@@ -14,23 +14,17 @@ TreePlace PlaceOf(const QModelIndex& index);
 
 /// The lines of the tree of device groups.
 ///
-/// It never changes by what a user does to it: a name that is typed, and lines that are dragged and
-/// dropped, are told to whom it was said to tell, once the view is done with them.
+/// It never changes by what a user does to it: it tells of names that are typed and of lines that
+/// are dropped, and is filled anew.
 class DeviceTreeModel : public QStandardItemModel {
   Q_OBJECT
 
  public:
-  using Places = std::vector<TreePlace>;
-
   /// What of a cell is edited, if that isn't what it shows.
   static constexpr int nameRole = Qt::UserRole + 1;
 
-  /// Is told the new name of the group at a place.
-  std::function<void(const TreePlace&, const QString&)> whenRenamed;
   /// Is asked whether lines may be dropped into the group at a place.
   std::function<bool(const Places&, const TreePlace&)> mayDrop;
-  /// Is told that lines were dropped into a group, before the given row or behind all.
-  std::function<void(const Places&, const TreePlace&, std::optional<int>)> whenDropped;
 
   explicit DeviceTreeModel(QObject* parent);
 
@@ -44,6 +38,18 @@ class DeviceTreeModel : public QStandardItemModel {
                        const QModelIndex& parent) const override;
   bool dropMimeData(const QMimeData* lines, Qt::DropAction action, int row, int column,
                     const QModelIndex& parent) override;
+
+  /// Tells at once what is still to be told.
+  void TellNow();
+
+ signals:
+  /// The user gave the group at `place` this name. Comes when the view is done with it.
+  void Renamed(const TreePlace& place, const QString& name);
+  /// The user dropped lines into a group, before the given row or behind all. Comes likewise.
+  void Dropped(const Places& lines, const TreePlace& group, std::optional<int> row);
+
+ private:
+  void TellLater(const std::function<void()>& tell);
 };
 
 }  // namespace configurator

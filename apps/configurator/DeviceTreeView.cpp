@@ -1,7 +1,9 @@
 #include "apps/configurator/DeviceTreeView.h"
 
+#include <QHash>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QLineEdit>
 #include <algorithm>
 #include <functional>
 #include <iterator>
@@ -13,7 +15,8 @@
 namespace configurator {
 namespace {
 
-/// What tells a line from all others after a refresh: the names from the top down to it.
+/// What tells a line from all others after a refresh: from the top down to it the names, each with
+/// a number that tells it from others of that name beside it.
 constexpr int keyRole = Qt::UserRole;
 
 constexpr int gapBetweenColumns = 24;
@@ -75,6 +78,16 @@ void DeviceTreeView::Select(const std::vector<TreePlace>& places) {
 
 void DeviceTreeView::EditName(const TreePlace& place) { edit(IndexOf(place)); }
 
+void DeviceTreeView::CommitName() {
+  // Editors that were closed before this one may still wait for their end.
+  const auto editors = viewport()->findChildren<QLineEdit*>();
+  if (state() == EditingState && !editors.isEmpty()) {
+    commitData(editors.last());
+    closeEditor(editors.last(), QAbstractItemDelegate::NoHint);
+    m_model->TellNow();
+  }
+}
+
 QModelIndex DeviceTreeView::IndexOf(const TreePlace& place) const {
   QModelIndex index;
   for (const int row : place) {
@@ -86,21 +99,37 @@ QModelIndex DeviceTreeView::IndexOf(const TreePlace& place) const {
   return index;
 }
 
-void DeviceTreeView::Show(const std::vector<DeviceTreeItem>& items, qv::Language language) {
+/// Which lines were collapsed, selected and current, by their keys.
+struct DeviceTreeView::Shown {
   QSet<QString> collapsed;
-  ForEachLine(*m_model, {}, [&](const QModelIndex& line) {
-    if (m_model->hasChildren(line) && !isExpanded(line)) {
-      collapsed.insert(line.data(keyRole).toString());
-    }
-  });
-  const QString current = currentIndex().siblingAtColumn(0).data(keyRole).toString();
+  QSet<QString> selected;
+  QString current;
+};
+
+void DeviceTreeView::Show(const std::vector<DeviceTreeItem>& items, qv::Language language) {
+  const Shown shown = Remembered();
   m_language = language;
   m_model->clear();
   SetTexts(language);
   AddItems(m_model->invisibleRootItem(), items);
-  Restore(collapsed, current);
+  Restore(shown);
   resizeColumnToContents(0);
   setColumnWidth(0, columnWidth(0) + gapBetweenColumns);
+}
+
+DeviceTreeView::Shown DeviceTreeView::Remembered() const {
+  Shown shown;
+  shown.current = currentIndex().siblingAtColumn(0).data(keyRole).toString();
+  ForEachLine(*m_model, {}, [&](const QModelIndex& line) {
+    const QString key = line.data(keyRole).toString();
+    if (m_model->hasChildren(line) && !isExpanded(line)) {
+      shown.collapsed.insert(key);
+    }
+    if (selectionModel()->isSelected(line)) {
+      shown.selected.insert(key);
+    }
+  });
+  return shown;
 }
 
 void DeviceTreeView::SetTexts(qv::Language language) {
@@ -112,8 +141,11 @@ void DeviceTreeView::SetTexts(qv::Language language) {
 
 void DeviceTreeView::AddItems(QStandardItem* parent, const std::vector<DeviceTreeItem>& items) {
   const QString above = parent->data(keyRole).toString();
+  QHash<QString, int> sameName;
   for (const DeviceTreeItem& item : items) {
-    const auto line = Line(item, above + QLatin1Char('\n') + NameText(item));
+    const QString name = NameText(item);
+    const auto line =
+        Line(item, above + QStringLiteral("\n%1\t%2").arg(++sameName[name]).arg(name));
     parent->appendRow(line);
     AddItems(line.front(), item.below);
   }
@@ -164,14 +196,19 @@ QIcon DeviceTreeView::IconOf(const DeviceTreeItem& item) const {
              : style()->standardIcon(QStyle::SP_ComputerIcon);
 }
 
-void DeviceTreeView::Restore(const QSet<QString>& collapsed, const QString& current) {
+void DeviceTreeView::Restore(const Shown& shown) {
   expandAll();
   setCurrentIndex(m_model->index(0, 0));
   ForEachLine(*m_model, {}, [&](const QModelIndex& line) {
     const QString key = line.data(keyRole).toString();
-    setExpanded(line, !collapsed.contains(key));
-    if (key == current) {
+    setExpanded(line, !shown.collapsed.contains(key));
+    if (key == shown.current) {
       setCurrentIndex(line);
+    }
+  });
+  ForEachLine(*m_model, {}, [&](const QModelIndex& line) {
+    if (shown.selected.contains(line.data(keyRole).toString())) {
+      selectionModel()->select(line, QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
   });
 }

@@ -32,6 +32,8 @@ class DeviceTreeView : public QTreeView {
   void Select(const std::vector<TreePlace>& places);
   /// Lets the user type the name of the group at `place`.
   void EditName(const TreePlace& place);
+  /// Takes the name that is being typed, if there is one, as if it had been confirmed.
+  void CommitName();
 
   /// The model of the lines, which tells of what the user does to them.
   DeviceTreeModel& Lines() { return *m_model; }
@@ -44,7 +46,9 @@ class DeviceTreeView : public QTreeView {
   QString NameText(const DeviceTreeItem& item) const;
   QString TypeText(const DeviceTreeItem& item) const;
   QIcon IconOf(const DeviceTreeItem& item) const;
-  void Restore(const QSet<QString>& collapsed, const QString& current);
+  struct Shown;
+  Shown Remembered() const;
+  void Restore(const Shown& shown);
 
   DeviceTreeModel* m_model;
   QIcon m_discriminatorIcon;

@@ -58,14 +58,14 @@ void MainWindow::Open(const QString& directory) {
   } else {
     m_editor->Forget();
     ShowInstallation();
-    ShowTree();
-    ShowState();
+    ShowDocument();
   }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(MayLeaveInstallation()); }
 
 bool MainWindow::MayLeaveInstallation() {
+  m_tree->CommitName();
   if (!m_workspace.Config().IsChanged()) {
     return true;
   }
@@ -117,10 +117,7 @@ void MainWindow::MakeFileMenu() {
 void MainWindow::MakeEditMenu() {
   m_editor = new DeviceTreeEditor(m_workspace, *m_tree, this);
   m_editor->AddTo(*NewMenu(nullptr, OwnText::EditMenu));
-  connect(m_editor, &DeviceTreeEditor::Changed, this, [this] {
-    ShowTree();
-    ShowState();
-  });
+  connect(m_editor, &DeviceTreeEditor::Changed, this, &MainWindow::ShowDocument);
 }
 
 void MainWindow::MakeSettingsMenu() {
@@ -182,6 +179,7 @@ void MainWindow::OnOpen() {
 }
 
 bool MainWindow::OnSave() {
+  m_tree->CommitName();
   const auto problem = m_workspace.Save();
   if (problem) {
     Report(*problem);
@@ -205,13 +203,13 @@ void MainWindow::OnEmbedded(bool embedded) {
 }
 
 void MainWindow::OnDiscriminators() {
+  m_tree->CommitName();
   m_statusLine->Tell(OwnText::Ready);
   const ManagerEnd end = RunDiscriminatorManager(m_workspace, this);
   // What was undone before could not be redone on the tree that the manager leaves.
   m_editor->Forget();
   // Files and tree may have changed in every case: the result speaks of the configuration alone.
-  ShowTree();
-  ShowState();
+  ShowDocument();
   if (end.problem) {
     Report(*end.problem);
   }
@@ -232,13 +230,17 @@ void MainWindow::ShowTexts() {
   m_languages.at(m_workspace.CurrentLanguage())->setChecked(true);
   m_statusLine->SetLanguage(m_workspace.CurrentLanguage());
   m_editor->ShowTexts();
-  ShowTree();
-  ShowState();
+  ShowDocument();
 }
 
 void MainWindow::ShowInstallation() {
   m_statusLine->SetPath(QDir::toNativeSeparators(m_workspace.Directory()));
   m_statusLine->Tell(m_workspace.IsNew() ? OwnText::ConfigurationIsNew : OwnText::Ready);
+}
+
+void MainWindow::ShowDocument() {
+  ShowTree();
+  ShowState();
 }
 
 void MainWindow::ShowTree() {

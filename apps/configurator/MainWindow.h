@@ -58,6 +58,7 @@ class MainWindow : public QMainWindow {
   bool MayLeaveInstallation();
   void ShowTexts();
   void ShowInstallation();
+  void ShowDocument();
   void ShowTree();
   void ShowState();
   void Report(const QString& problem);

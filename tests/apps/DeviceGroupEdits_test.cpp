@@ -180,6 +180,26 @@ TEST_F(DeviceGroupEditsTest, GroupsNestOnlySoDeepThatTheFileCanBeReadAgain) {
   EXPECT_TRUE(again.Parse(text.ToView().data()));
 }
 
+TEST_F(DeviceGroupEditsTest, WhatStandsTooDeepAlreadyMayMoveUpAndAside) {
+  // A file may be nested deeper than this program nests it.
+  XmlNode* level = &tree;
+  TreePlace deep;
+  for (int depth = 0; depth < maxGroupDepth + 20; ++depth) {
+    XmlNode* groups = level->Node(L"groups");
+    groups = groups ? groups : level->NewChild(L"groups", nullptr);
+    level = groups->ChildsBegin() == groups->ChildsEnd() ? groups->NewChild(L"group", nullptr)
+                                                         : *groups->ChildsBegin();
+    deep.push_back(0);
+  }
+  level->NewChild(L"devices", nullptr)->NewChild(L"device", nullptr)->SetValue(L"id", L"8");
+  TreePlace device = deep;
+  device.push_back(0);
+  EXPECT_TRUE(CanMove(tree, {device}, deep));
+  EXPECT_TRUE(CanMove(tree, {device}, {}));
+  EXPECT_TRUE(CanMove(tree, {deep}, ParentOf(deep)));
+  EXPECT_FALSE(CanMove(tree, {{3}}, deep)) << "deeper than it stands";
+}
+
 /// Many random edits lose no device and make none, and what they say of places is true.
 TEST_F(DeviceGroupEditsTest, RandomEditsLoseNothing) {
   std::mt19937 random(1);

@@ -2,108 +2,13 @@
 #include <gmock/gmock.h>
 
 #include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QDropEvent>
-#include <QLineEdit>
 #include <QMenu>
-#include <QMenuBar>
-#include <QMimeData>
 #include <QTest>
 
-#include "apps/configurator/DeviceTreeModel.h"
-#include "apps/configurator/DeviceTreeView.h"
-#include "tests/apps/MainWindowFixture.h"
+#include "tests/apps/TreeEditingFixture.h"
 
 namespace configurator {
 namespace {
-
-using testing::HasSubstr;
-
-class TreeEditingTest : public MainWindowTest {
- protected:
-  TreeEditingTest() : view(*window->findChild<DeviceTreeView*>()) { view.setFocus(); }
-
-  /// All lines, in order, with a dot before each for each level.
-  QStringList Lines() const {
-    QStringList lines;
-    AddLines({}, QString(), lines);
-    return lines;
-  }
-
-  void AddLines(const QModelIndex& parent, const QString& margin, QStringList& lines) const {
-    for (int row = 0; row < view.model()->rowCount(parent); ++row) {
-      const QModelIndex line = view.model()->index(row, 0, parent);
-      lines += margin + line.data().toString();
-      AddLines(line, margin + '.', lines);
-    }
-  }
-
-  QString SelectedText() const {
-    QStringList texts;
-    for (const QModelIndex& line : view.selectionModel()->selectedRows()) {
-      texts += line.data().toString();
-    }
-    return texts.join('|');
-  }
-
-  QAction* Command(const QString& text) const {
-    for (const QAction* menu : window->menuBar()->actions()) {
-      for (QAction* action : menu->menu()->actions()) {
-        if (action->text().remove('&') == text) {
-          return action;
-        }
-      }
-    }
-    ADD_FAILURE() << qPrintable(text);
-    return nullptr;
-  }
-
-  /// Types into the name that is being edited.
-  void TypeName(const QString& name, Qt::Key end = Qt::Key_Return) {
-    auto* edit = view.findChild<QLineEdit*>();
-    ASSERT_TRUE(edit);
-    edit->selectAll();
-    QTest::keyClicks(edit, name);
-    QTest::keyClick(edit, end);
-    qv::Settle();
-  }
-
-  void Undo() { QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier); }
-  void Redo() { QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
-
-  /// Drops what is selected at a point of the view, as the view's own drag does.
-  bool DropAt(const QPoint& point) {
-    const std::unique_ptr<QMimeData> lines(
-        view.model()->mimeData(view.selectionModel()->selectedIndexes()));
-    QDragEnterEvent enter(point, Qt::MoveAction, lines.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &enter);
-    QDragMoveEvent move(point, Qt::MoveAction, lines.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &move);
-    const bool welcome = move.isAccepted();
-    QDropEvent drop(point, Qt::MoveAction, lines.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &drop);
-    qv::Settle();
-    return welcome;
-  }
-
-  QPoint Middle(const TreePlace& place) const { return RectOf(place).center(); }
-  QPoint UpperEdge(const TreePlace& place) const {
-    const QRect line = RectOf(place);
-    return {line.center().x(), line.top() + 1};
-  }
-
-  QRect RectOf(const TreePlace& place) const {
-    QModelIndex index;
-    for (const int row : place) {
-      index = view.model()->index(row, 0, index);
-    }
-    return view.visualRect(index);
-  }
-
-  DeviceTreeView& view;
-  const QStringList before = Lines();
-};
 
 TEST_F(TreeEditingTest, TheExampleIsAsTheseTestsExpect) {
   EXPECT_EQ(before, QStringList({"Transformer station", ".Feeders", "..FEEDER_1", "..FEEDER_2",
@@ -144,6 +49,48 @@ TEST_F(TreeEditingTest, AGroupIsRenamedByItsKey) {
   EXPECT_EQ(Lines().at(1), ".Lines & more");
   Undo();
   EXPECT_EQ(Lines(), before);
+}
+
+TEST_F(TreeEditingTest, ACommandTakesTheNameThatIsBeingTyped) {
+  view.Select({{0, 0}});
+  QTest::keyClick(&view, Qt::Key_F2);
+  auto* edit = view.findChild<QLineEdit*>();
+  edit->setText("Lines");
+  QTest::keyClick(edit, Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+  TypeName("New");
+  EXPECT_EQ(Lines().mid(1, 2), QStringList({".Lines", "..New"}));
+}
+
+TEST_F(TreeEditingTest, SavingTakesTheNameThatIsBeingTyped) {
+  view.Select({{1}});
+  QTest::keyClick(&view, Qt::Key_F2);
+  view.findChild<QLineEdit*>()->setText("Street");
+  QTest::keyClick(view.findChild<QLineEdit*>(), Qt::Key_S, Qt::ControlModifier);
+  EXPECT_FALSE(window->isWindowModified());
+  EXPECT_NE(installation.ConfigurationBytes().find("<name>Street</name>"), std::string::npos);
+}
+
+TEST_F(TreeEditingTest, NoGroupIsOfferedWhereItWouldStandTooDeep) {
+  TreePlace place;
+  while (const auto made = AddGroup(*workspace.Config().DeviceGroups(), place, L"G")) {
+    place = *made;
+  }
+  Find<QAction>("language-en")->trigger();
+  view.Select({place});
+  EXPECT_FALSE(Command("New group")->isEnabled());
+  EXPECT_TRUE(Command("Rename group")->isEnabled());
+}
+
+TEST_F(TreeEditingTest, LinesOfOneNameAreToldApartAfterARefresh) {
+  for (int i = 0; i < 2; ++i) {
+    view.clearSelection();
+    Command("New group")->trigger();
+    TypeName("", Qt::Key_Escape);
+  }
+  view.Select({{2}, {4}});
+  Find<QAction>("language-es")->trigger();
+  EXPECT_EQ(view.Selected(), (Places{{2}, {4}}));
+  EXPECT_EQ(view.currentIndex().row(), 2);
 }
 
 TEST_F(TreeEditingTest, AGroupKeepsItsNameWhereNoneIsGiven) {
@@ -339,79 +286,6 @@ TEST_F(TreeEditingTest, MovingByOneRowIsForOneLine) {
   EXPECT_FALSE(Command("Move up")->isEnabled());
   EXPECT_FALSE(Command("Move down")->isEnabled());
   EXPECT_TRUE(Command("Move to")->isEnabled());
-}
-
-/// Closing, with a device moved and not saved.
-class ClosingTest : public TreeEditingTest {
- protected:
-  ClosingTest() {
-    view.Select({{2}});
-    QTest::keyClick(&view, Qt::Key_Down, Qt::AltModifier);
-  }
-
-  const std::string saved = installation.ConfigurationBytes();
-};
-
-TEST_F(ClosingTest, CancelGoesBack) {
-  const QString asked = Message([this] { window->close(); }, QMessageBox::Cancel);
-  EXPECT_THAT(asked.toStdString(), HasSubstr("not saved"));
-  EXPECT_THAT(asked.toStdString(), HasSubstr(installation.Directory().toStdString()));
-  EXPECT_TRUE(window->isVisible());
-  EXPECT_TRUE(window->isWindowModified());
-}
-
-TEST_F(ClosingTest, DiscardLeavesTheFileAlone) {
-  Message([this] { window->close(); }, QMessageBox::Discard);
-  EXPECT_FALSE(window->isVisible());
-  EXPECT_EQ(installation.ConfigurationBytes(), saved);
-}
-
-TEST_F(ClosingTest, SaveSavesFirst) {
-  Message([this] { window->close(); }, QMessageBox::Save);
-  EXPECT_FALSE(window->isVisible());
-  EXPECT_NE(installation.ConfigurationBytes(), saved);
-}
-
-TEST_F(ClosingTest, AFailedSaveKeepsTheWindow) {
-  std::filesystem::remove(installation.File("configuration.xml"));
-  std::filesystem::create_directory(installation.File("configuration.xml"));
-  QString told;
-  Message(
-      [&] {
-        qv::WhenNextWindow([&] {
-          qv::WhenNextWindow([&] {
-            told = qobject_cast<QMessageBox*>(qv::TopWindow())->text();
-            QTest::keyClick(qv::TopWindow(), Qt::Key_Return);
-          });
-        });
-        window->close();
-      },
-      QMessageBox::Save);
-  EXPECT_THAT(told.toStdString(), HasSubstr("could not be saved"));
-  EXPECT_TRUE(window->isVisible());
-}
-
-TEST_F(ClosingTest, OpeningAnotherInstallationAsksTheSame) {
-  ExampleCopy other;
-  Message([&] { window->Open(other.Directory()); }, QMessageBox::Cancel);
-  EXPECT_EQ(workspace.Directory(), installation.Directory());
-  EXPECT_NE(Lines(), before);
-  Message([&] { window->Open(other.Directory()); }, QMessageBox::Discard);
-  EXPECT_EQ(workspace.Directory(), other.Directory());
-  EXPECT_EQ(installation.ConfigurationBytes(), saved);
-}
-
-TEST_F(ClosingTest, AfterUndoNothingIsAsked) {
-  Undo();
-  window->close();
-  EXPECT_FALSE(window->isVisible());
-}
-
-TEST_F(MainWindowTest, LeavingTheManagerByEscapeAfterAChangeMakesClosingAsk) {
-  const std::string saved = installation.ConfigurationBytes();
-  RemoveDayAndNight([] { QTest::keyClick(qv::TopWindow(), Qt::Key_Escape); });
-  EXPECT_NE(Message([this] { window->close(); }, QMessageBox::Save), "");
-  EXPECT_NE(installation.ConfigurationBytes(), saved);
 }
 
 }  // namespace

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QPoint>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
+#include <QThread>
 
 namespace configurator {
 
@@ -43,10 +45,30 @@ class VirtualDisplay {
         "--name", ".*", "windowfocus", "--sync"});
   }
 
+  /// Drags with the left button from one place of the window of `process` to another.
+  void Drag(const QProcess& process, QPoint from, QPoint to) const {
+    const auto moveTo = [&](QPoint place) {
+      Do({"search", "--all", "--onlyvisible", "--pid", QString::number(process.processId()),
+          "--name", ".*", "mousemove", "--window", "%1", QString::number(place.x()),
+          QString::number(place.y())});
+      QThread::msleep(handSpeed);
+    };
+    moveTo(from);
+    Do({"mousedown", "1"});
+    constexpr int steps = 8;
+    for (int step = 1; step <= steps; ++step) {
+      moveTo(from + (to - from) * step / steps);
+    }
+    Do({"mouseup", "1"});
+  }
+
   /// Presses keys as the keyboard does, as in "shift+End".
   void Press(const QString& keys) const { Do({"key", keys}); }
 
  private:
+  /// Milliseconds between two moves of the mouse.
+  static constexpr unsigned long handSpeed = 50;
+
   void Do(const QStringList& command) const {
     QProcess tool;
     tool.setProcessEnvironment(m_environment);
