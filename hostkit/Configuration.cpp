@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "discriminator/Fields.h"
 #include "host/Installation.h"
 #include "tools/Guid.h"
 
@@ -13,11 +14,6 @@ namespace {
 
 constexpr wchar_t fileName[] = L"configuration.xml";
 constexpr wchar_t rootTag[] = L"configuration";
-
-bool Exists(std::wstring_view directory, Files& files) {
-  const auto names = files.Walk(std::wstring(directory) + L"*" + fileName);
-  return std::find(names.begin(), names.end(), fileName) != names.end();
-}
 
 void AddEmbeddedDevice(XmlNode& commSystem) {
   XmlNode* device = commSystem.NewChild(L"device", nullptr);
@@ -46,7 +42,7 @@ Configuration::Loaded Configuration::Load(std::wstring_view directory) {
   const std::wstring path = std::wstring(directory) + fileName;
   XmlDocument found;
   const bool read = found.Load(path.c_str(), m_files);
-  if (!read && Exists(directory, m_files)) {
+  if (!read && m_files.Exists(path)) {
     return Loaded::Unreadable;
   }
   if (read && found.Root()->Tag() != rootTag) {
@@ -70,10 +66,10 @@ bool Configuration::IsChanged() const {
   return *std::as_const(m_document).Root() != *saved.Root();
 }
 
-XmlNode* Configuration::DeviceGroups() { return m_document.Root()->Node(L"deviceGroups"); }
+XmlNode* Configuration::DeviceGroups() { return m_document.Root()->Node(tag::DeviceGroups); }
 
 const XmlNode* Configuration::DeviceGroups() const {
-  return std::as_const(m_document).Root()->Node(L"deviceGroups");
+  return std::as_const(m_document).Root()->Node(tag::DeviceGroups);
 }
 
 void Configuration::SetDeviceGroups(const XmlNode* content) {
@@ -81,7 +77,7 @@ void Configuration::SetDeviceGroups(const XmlNode* content) {
   if (!content) {
     m_document.Root()->RemoveChild(groups);
   } else {
-    *(groups ? groups : m_document.Root()->NewChild(L"deviceGroups", nullptr)) = *content;
+    *(groups ? groups : m_document.Root()->NewChild(tag::DeviceGroups, nullptr)) = *content;
   }
 }
 

@@ -120,6 +120,12 @@ class DiskFiles : public Files {
     return file ? std::make_unique<DiskWriter>(std::move(file)) : nullptr;
   }
 
+  bool Exists(std::wstring_view path) override {
+    const auto name = SystemPath(path);
+    std::error_code ignored;
+    return name && fs::symlink_status(*name, ignored).type() != fs::file_type::not_found;
+  }
+
   Removal Remove(std::wstring_view path) override {
     const auto name = SystemPath(path);
     std::error_code error;

@@ -50,6 +50,9 @@ class QVTOOLS_EXPORT Files {
   /// write-protected, as with `Remove`. Makes no directory.
   virtual std::unique_ptr<FileWriter> OpenForWriting(std::wstring_view path) = 0;
 
+  /// Whether there is anything of this name; also true where that can't be found out.
+  virtual bool Exists(std::wstring_view path) = 0;
+
   /// Unlinks a file or a link, never a directory. A file without any write permission counts as
   /// write-protected and is refused, whoever runs the program.
   virtual Removal Remove(std::wstring_view path) = 0;

@@ -34,6 +34,14 @@ void AppendCodePoint(std::wstring& out, utf8proc_int32_t codePoint) {
 
 }  // namespace
 
+std::size_t ColumnsOf(std::wstring_view text) {
+  std::size_t columns = 0;
+  while (!text.empty()) {
+    columns += static_cast<std::size_t>(utf8proc_charwidth(TakeCodePoint(text)));
+  }
+  return columns;
+}
+
 std::optional<std::string> ToUtf8(std::wstring_view text) {
   std::string out;
   out.reserve(text.size());

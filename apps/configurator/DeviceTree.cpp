@@ -7,6 +7,7 @@
 
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
+#include "discriminator/Nodes.h"
 
 namespace configurator {
 namespace {
@@ -21,15 +22,11 @@ struct Names {
   NamesById discriminators;
 };
 
-std::wstring Field(const XmlNode& node, const wchar_t* tag) {
-  return std::wstring(node.Value(tag, L"").ToView());
-}
-
 /// A device without a name goes by its id.
 void AddDeviceName(NamesById& names, const XmlNode& device) {
   if (device.Tag() == L"device") {
-    const std::wstring id = Field(device, L"id");
-    const std::wstring name = Field(device, L"name");
+    const std::wstring id = qv::FieldOf(device, L"id");
+    const std::wstring name = qv::FieldOf(device, L"name");
     names.emplace(id, name.empty() ? id : name);
   }
 }
@@ -62,8 +59,8 @@ std::wstring NameIn(const NamesById& names, const std::wstring& id, std::wstring
 DeviceTreeItem ReadDevice(const XmlNode& device, const Names& names) {
   using Kind = DeviceTreeItem::Kind;
   DeviceTreeItem item;
-  item.id = Field(device, L"id");
-  item.type = Field(device, L"type");
+  item.id = qv::FieldOf(device, L"id");
+  item.type = qv::FieldOf(device, L"type");
   item.kind = item.type == qv::word::DiscriminatorDevice ? Kind::Discriminator : Kind::Device;
   item.name = item.kind == Kind::Discriminator
                   ? NameIn(names.discriminators, item.id, item.type + L"_")
@@ -76,7 +73,7 @@ Items ReadLevel(const XmlNode& level, const Names& names);
 DeviceTreeItem ReadGroup(const XmlNode& group, const Names& names) {
   DeviceTreeItem item;
   item.kind = DeviceTreeItem::Kind::Group;
-  item.name = Field(group, L"name");
+  item.name = qv::FieldOf(group, L"name");
   item.below = ReadLevel(group, names);
   return item;
 }

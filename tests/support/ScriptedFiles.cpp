@@ -78,6 +78,11 @@ std::unique_ptr<FileWriter> ScriptedFiles::OpenForWriting(std::wstring_view path
   return std::make_unique<ScriptedWriter>(*this, std::move(name));
 }
 
+bool ScriptedFiles::Exists(std::wstring_view path) {
+  const std::wstring name(path);
+  return contents.contains(name) || directories.contains(name);
+}
+
 Removal ScriptedFiles::Remove(std::wstring_view path) {
   const std::wstring name(path);
   log.push_back(L"remove " + name);

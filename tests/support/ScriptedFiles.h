@@ -38,6 +38,7 @@ class ScriptedFiles : public Files {
 
   std::unique_ptr<FileReader> OpenForReading(std::wstring_view path) override;
   std::unique_ptr<FileWriter> OpenForWriting(std::wstring_view path) override;
+  bool Exists(std::wstring_view path) override;
   Removal Remove(std::wstring_view path) override;
   bool MakeDirectory(std::wstring_view path) override;
   std::vector<std::wstring> Walk(std::wstring_view pattern) override;

@@ -102,6 +102,18 @@ TEST_F(DiskFiles, WhatIsNotThereIsNotRead) {
   }
 }
 
+TEST_F(DiskFiles, TellWhatExists) {
+  Put("file");
+  fs::create_directory(directory.Path() / "folder");
+  fs::create_symlink("nowhere", directory.Path() / "link");
+  for (const wchar_t* name : {L"file", L"folder", L"link"}) {
+    EXPECT_TRUE(files.Exists(Path(name))) << name;
+  }
+  EXPECT_FALSE(files.Exists(Path(L"none")));
+  EXPECT_FALSE(files.Exists(Path(L"none/file")));
+  EXPECT_FALSE(files.Exists(Path(L"file\0"sv)));
+}
+
 TEST_F(DiskFiles, WritingMakesNoDirectory) {
   EXPECT_EQ(files.OpenForWriting(Path(L"missing/file")), nullptr);
   EXPECT_TRUE(fs::is_empty(directory.Path()));

@@ -55,6 +55,13 @@ TEST(FromUtf8, PutsAReplacementForEachByteThatIsNoUtf8) {
   }
 }
 
+TEST(ColumnsOf, CountsWideAndJoiningCharacters) {
+  EXPECT_EQ(ColumnsOf(L""), 0U);
+  EXPECT_EQ(ColumnsOf(L"a\u00f1"), 2U);
+  EXPECT_EQ(ColumnsOf(L"\u6771\u4eac"), 4U);
+  EXPECT_EQ(ColumnsOf(L"n\u0303"), 1U);
+}
+
 TEST(Utf8, EveryCharacterComesBack) {
   for (unsigned code = 0; code <= 0x10FFFF; code += code < 0x3000 ? 1 : 97) {
     const std::wstring text(1, static_cast<wchar_t>(code));
