@@ -3,11 +3,14 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
+#include <climits>
+#include <filesystem>
 #include <iterator>
 #include <optional>
 #include <utility>
 
 #include "apps/qvdisc/Pages.h"
+#include "apps/qvdisc/Words.h"
 #include "editor/DiscriminatorForm.h"
 #include "tools/Utf8.h"
 #include "tools/XmlText.h"
@@ -17,38 +20,44 @@ namespace {
 
 constexpr const char* program = "qvdisc";
 
-/// What a verb takes beside the options that all of them have.
-enum Takes : unsigned {
-  Nothing = 0,
-  SomeStems = 1,
-  OneStem = 2,
-  AnyStems = 4,
-  Fields = 8,
-  Answers = 16
+/// How many STEMs a verb takes.
+struct Stems {
+  int least = 0;
+  int most = 0;
 };
+constexpr Stems noStems{0, 0};
+constexpr Stems oneStem{1, 1};
+constexpr Stems someStems{1, INT_MAX};
+constexpr Stems anyStems{0, INT_MAX};
+
+/// What else it takes beside the options that all verbs have.
+enum class Takes { Nothing, Fields, Answers };
 
 struct VerbName {
   const char* name;
   Verb verb;
-  unsigned takes;
+  Stems stems;
+  Takes takes;
   const char* meaning;
 };
 
 constexpr std::array verbNames = {
-    VerbName{"list", Verb::List, Nothing, "Lists the discriminators of the installation, by name"},
-    VerbName{"show", Verb::Show, OneStem, "Shows what a discriminator holds"},
-    VerbName{"index", Verb::Index, AnyStems,
+    VerbName{"list", Verb::List, noStems, Takes::Nothing,
+             "Lists the discriminators of the installation, by name"},
+    VerbName{"show", Verb::Show, oneStem, Takes::Nothing, "Shows what a discriminator holds"},
+    VerbName{"index", Verb::Index, anyStems, Takes::Nothing,
              "Makes the index file of a discriminator anew, or those of all"},
-    VerbName{"copy", Verb::Copy, SomeStems,
+    VerbName{"copy", Verb::Copy, someStems, Takes::Nothing,
              "Writes discriminators to standard output, as on the clipboard"},
-    VerbName{"paste", Verb::Paste, Nothing,
+    VerbName{"paste", Verb::Paste, noStems, Takes::Nothing,
              "Makes new discriminators of what standard input holds, as from the clipboard"},
-    VerbName{"add", Verb::Add, Fields, "Makes a new discriminator; --name is needed"},
-    VerbName{"modify", Verb::Modify, OneStem | Fields,
+    VerbName{"add", Verb::Add, noStems, Takes::Fields,
+             "Makes a new discriminator; --name is needed"},
+    VerbName{"modify", Verb::Modify, oneStem, Takes::Fields,
              "Changes name, description, type or flag of a discriminator"},
-    VerbName{"remove", Verb::Remove, SomeStems | Answers,
+    VerbName{"remove", Verb::Remove, someStems, Takes::Answers,
              "Removes discriminators with their files and entries"},
-    VerbName{"check", Verb::Check, AnyStems,
+    VerbName{"check", Verb::Check, anyStems, Takes::Nothing,
              "Tells what is wrong with the files and entries of discriminators"},
 };
 
@@ -72,20 +81,43 @@ struct Texts {
   bool no = false;
 };
 
-std::string NotUtf8(std::string& text) {
+/// The parser takes "[a,b]" for a list of two. This character in front keeps it from doing so.
+constexpr char guard = '\x1f';
+
+std::string Guarded(const std::string& argument) {
+  const bool needsIt = !argument.empty() && (argument[0] == '[' || argument[0] == guard);
+  return needsIt ? guard + argument : argument;
+}
+
+std::string Unguarded(const std::string& text) {
+  return !text.empty() && text[0] == guard ? text.substr(1) : text;
+}
+
+std::string NotUtf8(const std::string& text) {
   return qv::ToUtf8(qv::FromUtf8(text)) == text ? std::string() : "This text is not UTF-8: " + text;
 }
 
-std::string NoFieldText(std::string& text) {
+std::string NoDirectory(std::string& guarded) {
+  const std::string text = Unguarded(guarded);
+  std::error_code error;
+  const std::filesystem::directory_iterator content(text, error);
+  return error ? "This directory can't be read: " + text : NotUtf8(text);
+}
+
+std::string NoStem(std::string& guarded) { return NotUtf8(Unguarded(guarded)); }
+
+std::string NoFieldText(std::string& guarded) {
+  const std::string text = Unguarded(guarded);
   const bool fits = qv::IsXmlText(qv::FromUtf8(text));
   return fits ? NotUtf8(text) : "A file can't hold every character of: " + text;
 }
 
-std::string NoName(std::string& text) {
+std::string NoName(std::string& guarded) {
   const std::size_t most = qv::DiscriminatorForm::longestTypedName;
+  const std::string text = Unguarded(guarded);
   return qv::FromUtf8(text).size() > most
              ? "A name has at most " + std::to_string(most) + " characters: " + text
-             : NoFieldText(text);
+             : NoFieldText(guarded);
 }
 
 /// Lets `option` be one of `choices` and nothing else; the pages read them from its type.
@@ -108,8 +140,7 @@ void AddCommonOptions(CLI::App& app, Texts& texts) {
                  "Directory of the installation: its configuration.xml and its discriminators")
       ->type_name("DIR")
       ->required()
-      ->check(CLI::Validator(CLI::ExistingDirectory).description(""))
-      ->check(CLI::Validator(NotUtf8, ""));
+      ->check(CLI::Validator(NoDirectory, ""));
   Restrict(app.add_option("--language", texts.language,
                           "Language of what is told; that of the system if not given"),
            {qv::languageNames[0].code, qv::languageNames[1].code});
@@ -117,15 +148,15 @@ void AddCommonOptions(CLI::App& app, Texts& texts) {
   app.footer(footer);
 }
 
-void AddStems(CLI::App& app, unsigned takes, Texts& texts) {
-  if ((takes & (SomeStems | OneStem | AnyStems)) == 0) {
-    return;
+void AddStems(CLI::App& app, const Stems& stems, Texts& texts) {
+  if (stems.most > 0) {
+    app.add_option("STEM", texts.stems, "Which discriminators")
+        ->type_name("")
+        ->check(CLI::Validator(NoStem, ""))
+        ->multi_option_policy(CLI::MultiOptionPolicy::Throw)
+        ->expected(stems.least, stems.most)
+        ->required(stems.least > 0);
   }
-  CLI::Option* stems = app.add_option("STEM", texts.stems, "Which discriminators");
-  stems->type_name("")->check(CLI::Validator(NotUtf8, ""));
-  stems->multi_option_policy(CLI::MultiOptionPolicy::Throw);
-  stems->expected((takes & AnyStems) != 0 ? 0 : 1, (takes & OneStem) != 0 ? 1 : 1 << 20);
-  stems->required((takes & AnyStems) == 0);
 }
 
 void AddFields(CLI::App& app, bool nameNeeded, Texts& texts) {
@@ -146,11 +177,11 @@ void AddFields(CLI::App& app, bool nameNeeded, Texts& texts) {
 void AddVerb(CLI::App& app, const VerbName& known, Texts& texts) {
   CLI::App& verb = *app.add_subcommand(known.name, known.meaning);
   AddCommonOptions(verb, texts);
-  AddStems(verb, known.takes, texts);
-  if ((known.takes & Fields) != 0) {
+  AddStems(verb, known.stems, texts);
+  if (known.takes == Takes::Fields) {
     AddFields(verb, known.verb == Verb::Add, texts);
   }
-  if ((known.takes & Answers) != 0) {
+  if (known.takes == Takes::Answers) {
     CLI::Option* yes = verb.add_flag("--yes", texts.yes, "Answer Yes to every question");
     verb.add_flag("--no", texts.no, "Answer No to every question")->excludes(yes);
   }
@@ -173,10 +204,12 @@ void Describe(CLI::App& app, Texts& texts) {
   }
 }
 
+std::wstring Wide(const std::string& guarded) { return qv::FromUtf8(Unguarded(guarded)); }
+
 std::optional<std::wstring> Given(const CLI::App& verb, const char* option,
                                   const std::string& text) {
   const CLI::Option* found = verb.get_option_no_throw(option);
-  return found && found->count() > 0 ? std::optional(qv::FromUtf8(text)) : std::nullopt;
+  return found && found->count() > 0 ? std::optional(Wide(text)) : std::nullopt;
 }
 
 /// Whether the option has the first of its two values; nothing if it isn't given.
@@ -192,14 +225,13 @@ Arguments ReadTexts(const CLI::App& app, const Texts& texts) {
   Arguments arguments;
   arguments.verb = known->verb;
   arguments.verbName = known->name;
-  arguments.installation = qv::FromUtf8(texts.installation);
+  arguments.installation = Wide(texts.installation);
   arguments.language = qv::LanguageOf(texts.language);
   arguments.json = texts.json;
   if (texts.yes || texts.no) {
     arguments.answer = texts.yes;
   }
-  std::transform(texts.stems.begin(), texts.stems.end(), std::back_inserter(arguments.stems),
-                 qv::FromUtf8);
+  std::transform(texts.stems.begin(), texts.stems.end(), std::back_inserter(arguments.stems), Wide);
   arguments.changes = {Given(verb, "--name", texts.name),
                        Given(verb, "--description", texts.description),
                        IsFirst(texts.type, "SLOTS"), IsFirst(texts.zero, "yes")};
@@ -212,8 +244,12 @@ std::variant<Arguments, EarlyEnd> ReadArguments(int count, const char* const* ar
   CLI::App app("Lists, shows, changes and checks the discriminators of an installation.", program);
   Texts texts;
   Describe(app, texts);
+  // The parser takes the arguments from the last to the first, without the program's name.
+  std::vector<std::string> guarded(arguments + std::min(count, 1), arguments + count);
+  std::reverse(guarded.begin(), guarded.end());
+  std::transform(guarded.begin(), guarded.end(), guarded.begin(), Guarded);
   try {
-    app.parse(count, arguments);
+    app.parse(guarded);
     return ReadTexts(app, texts);
   } catch (const Page& page) {
     return EarlyEnd{.status = 0, .output = page.text, .error = {}};
@@ -223,7 +259,9 @@ std::variant<Arguments, EarlyEnd> ReadArguments(int count, const char* const* ar
     return EarlyEnd{.status = 0, .output = std::string(version.what()) + "\n", .error = {}};
   } catch (const CLI::ParseError& error) {
     return EarlyEnd{
-        .status = badCall, .output = {}, .error = ErrorLine(error.what()) + "Try qvdisc --help.\n"};
+        .status = badCall,
+        .output = {},
+        .error = ErrorLine(Utf8(OneLine(qv::FromUtf8(error.what())))) + "Try qvdisc --help.\n"};
   }
 }
 

@@ -1,21 +1,25 @@
 #include "apps/qvdisc/Check.h"
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <set>
-#include <string>
 #include <utility>
 
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
 #include "discriminator/IndexDocument.h"
-#include "tools/Names.h"
+#include "discriminator/Nodes.h"
 #include "tools/XmlReader.h"
 
 namespace qvdisc {
 namespace {
 
+using Loaded = qv::Configuration::Loaded;
+using qv::FieldOf;
 using qv::XmlNode;
+
+constexpr wchar_t configurationFile[] = L"configuration.xml";
 
 /// What is kept of a file that could be read.
 struct ReadFile {
@@ -24,57 +28,75 @@ struct ReadFile {
   std::wstring name;
 };
 
+std::wstring UpperCased(const std::wstring& text) {
+  QVWideString upper{std::wstring_view{text}};
+  upper.MakeUpper();
+  return std::wstring(upper.ToView());
+}
+
+std::wstring IdInFileName(const std::wstring& file) {
+  return std::wstring(qv::IdOfStem(QVWideString(std::wstring_view(file))).ToView());
+}
+
 class InstallationCheck {
  public:
-  InstallationCheck(const QVWideString& directory, const qv::Configuration& configuration,
-                    qv::Files& files)
-      : m_directory(directory), m_configuration(configuration), m_files(files) {}
+  InstallationCheck(const Checked& checked, qv::Files& files)
+      : m_checked(checked), m_files(files) {}
 
-  CheckedInstallation Run() {
-    CheckedInstallation checked;
-    checked.files = m_files.Walk((m_directory + qv::discriminatorPattern).ToView());
-    for (const std::wstring& file : checked.files) {
-      CheckFile(file);
+  CheckedInstallation Run(qv::Progress& progress) {
+    CheckedInstallation result;
+    result.files = m_files.Walk((m_checked.directory + qv::discriminatorPattern).ToView());
+    for (std::size_t i = 0; i < result.files.size(); ++i) {
+      progress.Advance(i, result.files.size());
+      CheckFile(result.files[i]);
     }
     CheckIndexes();
     CheckTwins();
-    CheckEntries();
-    checked.findings = std::move(m_findings);
-    std::stable_sort(checked.findings.begin(), checked.findings.end(), ComesBefore);
-    return checked;
+    CheckConfiguration();
+    result.findings = std::move(m_findings);
+    std::stable_sort(result.findings.begin(), result.findings.end(), ComesBefore);
+    return result;
   }
 
  private:
-  /// By file; what belongs to no file comes last.
   static bool ComesBefore(const Finding& a, const Finding& b) {
-    return a.file.empty() || b.file.empty() ? !a.file.empty() && b.file.empty() : a.file < b.file;
+    const auto rank = [](const Finding& finding) {
+      return std::pair(finding.file == configurationFile, std::wstring_view(finding.file));
+    };
+    return rank(a) < rank(b);
   }
 
-  std::wstring PathOf(const std::wstring& file) const {
-    return std::wstring(m_directory.ToView()) + file;
+  QVWideString PathOf(const std::wstring& file) const {
+    return m_checked.directory + QVWideString(std::wstring_view(file));
+  }
+
+  /// The root of a file, or null once it has been told why it can't be read.
+  std::unique_ptr<XmlNode> Read(const std::wstring& file) {
+    qv::XmlError error;
+    auto root = qv::ReadXmlFile(PathOf(file).ToView(), m_files, &error);
+    if (!root) {
+      Tell({.kind = FindingKind::Unreadable,
+            .file = file,
+            .value = std::wstring(error.reason.begin(), error.reason.end()),
+            .line = static_cast<unsigned>(error.line),
+            .column = static_cast<unsigned>(error.column)});
+    }
+    return root;
   }
 
   void CheckFile(const std::wstring& file) {
-    qv::XmlError error;
-    const auto root = qv::ReadXmlFile(PathOf(file), m_files, &error);
+    const auto root = Read(file);
     if (!root) {
-      m_findings.push_back({.kind = Word::Unreadable,
-                            .file = file,
-                            .place = {},
-                            .value = std::wstring(error.reason.begin(), error.reason.end()),
-                            .expected = {},
-                            .line = static_cast<unsigned>(error.line),
-                            .column = static_cast<unsigned>(error.column)});
       m_ids.insert(IdInFileName(file));
-      m_unclear.insert(file);
+      m_ofUnknownIndex.insert(file);
       return;
     }
-    const ReadFile read{file, Field(*root, qv::tag::Id), Field(*root, qv::tag::Name)};
+    const ReadFile read{file, FieldOf(*root, qv::tag::Id), FieldOf(*root, qv::tag::Name)};
     CheckType(*root, file);
     if (AgreesWithFileName(read)) {
       CheckIndex(*root, file);
     } else {
-      m_unclear.insert(file);
+      m_ofUnknownIndex.insert(file);
     }
     const auto inside = CheckDocument(*root, file);
     m_findings.insert(m_findings.end(), inside.begin(), inside.end());
@@ -82,36 +104,29 @@ class InstallationCheck {
     m_read.push_back(read);
   }
 
-  static std::wstring Field(const XmlNode& root, const wchar_t* tag) {
-    return std::wstring(root.Value(tag, L"").ToView());
-  }
-
-  static std::wstring IdInFileName(const std::wstring& file) {
-    return std::wstring(qv::IdOfStem(QVWideString(std::wstring_view(file))).ToView());
-  }
-
   void CheckType(const XmlNode& root, const std::wstring& file) {
-    if (m_configuration.IsEmbedded() && Field(root, qv::tag::Type) == qv::word::Conditions) {
-      Tell({.kind = Word::HiddenType, .file = file});
+    if (m_checked.configuration.IsEmbedded() &&
+        FieldOf(root, qv::tag::Type) == qv::word::Conditions) {
+      Tell({.kind = FindingKind::HiddenType, .file = file});
     }
   }
 
   bool AgreesWithFileName(const ReadFile& read) {
     const std::wstring_view stem = *qv::WithoutExtension(read.file);
-    if (stem == read.id + L"." + read.name) {
+    if (qv::FileStem(QVWideString(read.id.c_str()), QVWideString(read.name.c_str())) == stem) {
       return true;
     }
     const auto name = qv::NameOfStem(stem);
     if (!name) {
-      Tell({.kind = Word::FileNameForm, .file = read.file});
+      Tell({.kind = FindingKind::FileName, .file = read.file});
       return false;
     }
     const std::wstring id = IdInFileName(read.file);
     if (id != read.id) {
-      Tell({.kind = Word::IdDiffers, .file = read.file, .value = read.id, .expected = id});
+      Tell({.kind = FindingKind::IdDiffers, .file = read.file, .value = read.id, .expected = id});
     }
     if (*name != read.name) {
-      Tell({.kind = Word::NameDiffers,
+      Tell({.kind = FindingKind::NameDiffers,
             .file = read.file,
             .value = read.name,
             .expected = std::wstring(*name)});
@@ -124,112 +139,122 @@ class InstallationCheck {
     if (!hourTypes) {
       return;
     }
-    const std::wstring indexFile = file + L"I";
-    m_indexesInUse.insert(indexFile);
-    if (!m_files.OpenForReading(PathOf(indexFile))) {
-      Tell({.kind = Word::IndexMissing, .file = file});
+    const QVWideString path = qv::IndexPath(PathOf(file));
+    m_indexesInUse.insert(std::wstring(path.ToView()));
+    if (!m_files.Exists(path.ToView())) {
+      Tell({.kind = FindingKind::IndexMissing, .file = file});
       return;
     }
-    const auto index = qv::ReadXmlFile(PathOf(indexFile), m_files);
+    const auto index = qv::ReadXmlFile(path.ToView(), m_files);
     if (!index) {
-      Tell({.kind = Word::IndexUnreadable, .file = file});
+      Tell({.kind = FindingKind::IndexUnreadable, .file = file});
     } else if (*index != *qv::MakeIndexDocument(*hourTypes)->Root()) {
-      Tell({.kind = Word::IndexStale, .file = file});
+      Tell({.kind = FindingKind::IndexStale, .file = file});
     }
   }
 
   void CheckIndexes() {
-    const std::wstring pattern =
-        std::wstring(m_directory.ToView()) + qv::discriminatorPattern + L"I";
-    for (const std::wstring& file : m_files.Walk(pattern)) {
-      const bool unclear = m_unclear.count(file.substr(0, file.size() - 1)) > 0;
-      if (m_indexesInUse.count(file) == 0 && !unclear) {
-        Tell({.kind = Word::IndexWithoutUse, .file = file});
+    const QVWideString pattern = qv::IndexPath(m_checked.directory + qv::discriminatorPattern);
+    for (const std::wstring& file : m_files.Walk(pattern.ToView())) {
+      const bool isUnknown = m_ofUnknownIndex.count(file.substr(0, file.size() - 1)) > 0;
+      if (!isUnknown && m_indexesInUse.count(std::wstring(PathOf(file).ToView())) == 0) {
+        Tell({.kind = FindingKind::IndexWithoutUse, .file = file});
       }
     }
   }
 
   /// Files with an id, or a name but for case, that another one has.
   void CheckTwins() {
-    auto files = m_read;
-    std::sort(files.begin(), files.end(),
-              [](const ReadFile& a, const ReadFile& b) { return a.id < b.id; });
-    TellTwins(files, Word::DuplicateId, &ReadFile::id,
-              [](const ReadFile& a, const ReadFile& b) { return a.id == b.id; });
-    std::sort(files.begin(), files.end(), [](const ReadFile& a, const ReadFile& b) {
-      return qv::CompareLowered(a.name, b.name) < 0;
-    });
-    TellTwins(
-        files, Word::DuplicateName, &ReadFile::name,
-        [](const ReadFile& a, const ReadFile& b) { return qv::EqualUppered(a.name, b.name); });
-  }
-
-  template <class Equal>
-  void TellTwins(const std::vector<ReadFile>& files, Word kind, std::wstring ReadFile::*field,
-                 Equal equal) {
-    for (std::size_t i = 0; i < files.size(); ++i) {
-      const bool before = i > 0 && equal(files[i - 1], files[i]);
-      const bool behind = i + 1 < files.size() && equal(files[i], files[i + 1]);
-      if (before || behind) {
-        Tell({.kind = kind, .file = files[i].file, .value = files[i].*field});
+    std::map<std::wstring, int> ids;
+    std::map<std::wstring, int> names;
+    for (const ReadFile& read : m_read) {
+      ++ids[read.id];
+      ++names[UpperCased(read.name)];
+    }
+    for (const ReadFile& read : m_read) {
+      if (ids[read.id] > 1) {
+        Tell({.kind = FindingKind::DuplicateId, .file = read.file, .value = read.id});
+      }
+      if (names[UpperCased(read.name)] > 1) {
+        Tell({.kind = FindingKind::DuplicateName, .file = read.file, .value = read.name});
       }
     }
   }
 
+  void CheckConfiguration() {
+    if (m_checked.loaded == Loaded::Unreadable) {
+      Read(configurationFile);
+    } else if (m_checked.loaded == Loaded::Foreign) {
+      Tell({.kind = FindingKind::ForeignConfiguration, .file = configurationFile});
+    } else {
+      CheckEntries();
+    }
+  }
+
   void CheckEntries() {
-    if (const XmlNode* groups = m_configuration.DeviceGroups()) {
+    if (const XmlNode* groups = m_checked.configuration.DeviceGroups()) {
       CheckLevel(*groups, qv::tag::DeviceGroups);
     }
     for (const ReadFile& read : m_read) {
       if (m_entries.count(read.id) == 0) {
-        Tell({.kind = Word::DiscriminatorWithoutEntry, .file = read.file});
+        Tell({.kind = FindingKind::DiscriminatorWithoutEntry, .file = read.file});
       }
     }
   }
 
   /// The depth is bounded: a document is nested 512 levels deep at most.
   void CheckLevel(const XmlNode& level, const std::wstring& place) {
-    if (const XmlNode* devices = level.Node(qv::tag::Devices)) {
-      for (auto entry = devices->ChildsBegin(); entry != devices->ChildsEnd(); ++entry) {
-        if (Field(**entry, qv::tag::Type) == qv::word::DiscriminatorDevice) {
-          CheckEntry(Field(**entry, qv::tag::Id), place);
-        }
+    for (const XmlNode* entry :
+         qv::ChildrenWithTag(level.Node(qv::tag::Devices), qv::tag::Device)) {
+      if (FieldOf(*entry, qv::tag::Type) == qv::word::DiscriminatorDevice) {
+        CheckEntry(FieldOf(*entry, qv::tag::Id), place);
       }
     }
     if (const XmlNode* groups = level.Node(qv::tag::Groups)) {
+      unsigned number = 0;
       for (auto group = groups->ChildsBegin(); group != groups->ChildsEnd(); ++group) {
-        CheckLevel(**group, place + L"/" + Field(**group, qv::tag::Name));
+        CheckLevel(**group, place + L"/" + NameOfGroup(**group, ++number));
       }
     }
   }
 
+  static std::wstring NameOfGroup(const XmlNode& group, unsigned number) {
+    const std::wstring name = FieldOf(group, qv::tag::Name);
+    return name.empty() ? qv::Format(L"(%s %u)", {group.Tag(), number}) : name;
+  }
+
   void CheckEntry(const std::wstring& id, const std::wstring& place) {
     if (m_ids.count(id) == 0) {
-      Tell({.kind = Word::EntryWithoutDiscriminator, .place = place, .value = id});
+      Tell({.kind = FindingKind::EntryWithoutDiscriminator,
+            .file = configurationFile,
+            .place = place,
+            .value = id});
     }
     if (!m_entries.insert(id).second) {
-      Tell({.kind = Word::DuplicateEntry, .place = place, .value = id});
+      Tell({.kind = FindingKind::DuplicateEntry,
+            .file = configurationFile,
+            .place = place,
+            .value = id});
     }
   }
 
   void Tell(Finding finding) { m_findings.push_back(std::move(finding)); }
 
-  const QVWideString& m_directory;
-  const qv::Configuration& m_configuration;
+  const Checked& m_checked;
   qv::Files& m_files;
   std::vector<Finding> m_findings;
   std::vector<ReadFile> m_read;
-  std::set<std::wstring> m_ids;      ///< of all files; of one that can't be read, as its name says
-  std::set<std::wstring> m_unclear;  ///< files of which nobody knows what index they need
-  std::set<std::wstring> m_indexesInUse;
+  std::set<std::wstring> m_ids;             ///< of all files; of an unreadable one as its name says
+  std::set<std::wstring> m_ofUnknownIndex;  ///< files of which nobody knows what index they need
+  std::set<std::wstring> m_indexesInUse;    ///< paths
   std::set<std::wstring> m_entries;
 };
 
 }  // namespace
 
-CheckedInstallation CheckInstallation(const QVWideString& directory,
-                                      const qv::Configuration& configuration, qv::Files& files) {
-  return InstallationCheck(directory, configuration, files).Run();
+CheckedInstallation CheckInstallation(const Checked& checked, qv::Files& files,
+                                      qv::Progress& progress) {
+  return InstallationCheck(checked, files).Run(progress);
 }
 
 }  // namespace qvdisc

@@ -2,35 +2,27 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "apps/qvdisc/Check.h"
 #include "discriminator/Fields.h"
+#include "discriminator/Nodes.h"
 #include "tools/Format.h"
 #include "tools/Numbers.h"
 
 namespace qvdisc {
 namespace {
 
+using qv::FieldOf;
 using qv::XmlNode;
 
-std::wstring Field(const XmlNode& node, const wchar_t* tag) {
-  return std::wstring(node.Value(tag, L"").ToView());
-}
-
-std::vector<const XmlNode*> ChildrenWithTag(const XmlNode* node, const wchar_t* tag) {
-  std::vector<const XmlNode*> children;
-  if (node) {
-    std::copy_if(node->ChildsBegin(), node->ChildsEnd(), std::back_inserter(children),
-                 [&](const XmlNode* child) { return child->Tag() == tag; });
-  }
-  return children;
-}
-
-/// The number behind `prefix` in the tag, as of "month12".
+/// The number behind `prefix` in the tag, as of "month12"; nothing for any other tag.
 std::optional<int> NumberInTag(const XmlNode& node, std::wstring_view prefix) {
   const std::wstring_view tag = node.Tag().ToView();
-  return tag.starts_with(prefix) ? std::optional(qv::Wtoi(tag.substr(prefix.size())))
-                                 : std::nullopt;
+  const std::wstring_view digits = tag.substr(std::min(prefix.size(), tag.size()));
+  const bool isNumbered = tag.starts_with(prefix) && !digits.empty() &&
+                          digits.find_first_not_of(L"0123456789") == std::wstring_view::npos;
+  return isNumbered ? std::optional(qv::Wtoi(digits)) : std::nullopt;
 }
 
 class DocumentCheck {
@@ -40,10 +32,11 @@ class DocumentCheck {
   std::vector<Finding> Run() {
     const auto hours = Parts(qv::tag::HourTypes, qv::tag::Hour);
     const auto days = Parts(qv::tag::DayTypes, qv::tag::Day);
-    for (const XmlNode* day : ChildrenWithTag(m_root.Node(qv::tag::DayTypes), qv::tag::Day)) {
+    Parts(qv::tag::Conditions, qv::tag::Condition);
+    for (const XmlNode* day : qv::ChildrenWithTag(m_root.Node(qv::tag::DayTypes), qv::tag::Day)) {
       CheckSlots(*day, hours);
     }
-    for (const XmlNode* year : ChildrenWithTag(m_root.Node(qv::tag::Calendar), qv::tag::Year)) {
+    for (const XmlNode* year : qv::ChildrenWithTag(m_root.Node(qv::tag::Calendar), qv::tag::Year)) {
       CheckYear(*year, days);
     }
     return std::move(m_findings);
@@ -54,7 +47,7 @@ class DocumentCheck {
   std::set<std::wstring> Parts(const wchar_t* container, const wchar_t* tag) {
     std::set<std::wstring> ids;
     std::set<std::wstring> names;
-    for (const XmlNode* part : ChildrenWithTag(m_root.Node(container), tag)) {
+    for (const XmlNode* part : qv::ChildrenWithTag(m_root.Node(container), tag)) {
       TellTwice(ids, *part, qv::tag::Id, container);
       TellTwice(names, *part, qv::tag::Name, container);
     }
@@ -63,38 +56,47 @@ class DocumentCheck {
 
   void TellTwice(std::set<std::wstring>& known, const XmlNode& part, const wchar_t* field,
                  const wchar_t* container) {
-    const std::wstring value = Field(part, field);
+    const std::wstring value = FieldOf(part, field);
     if (!known.insert(value).second) {
-      Tell({.kind = Word::DuplicatePart, .place = container, .value = value, .expected = field});
+      Tell({.kind = FindingKind::DuplicatePart,
+            .place = container,
+            .value = value,
+            .expected = field});
     }
   }
 
   void CheckSlots(const XmlNode& day, const std::set<std::wstring>& hours) {
     unsigned number = 0;
-    for (const XmlNode* slot : ChildrenWithTag(&day, qv::tag::Slot)) {
+    for (const XmlNode* slot : qv::ChildrenWithTag(&day, qv::tag::Slot)) {
       ++number;
-      const std::wstring id = Field(*slot, qv::tag::Id);
+      const std::wstring id = FieldOf(*slot, qv::tag::Id);
       if (hours.count(id) == 0) {
         const std::wstring place =
             qv::Format(L"dayTypes/%s/slot %u (%s-%s)",
                        {day.Value(qv::tag::Name, L""), number, slot->Value(qv::tag::From, L""),
                         slot->Value(qv::tag::To, L"")});
-        Tell({.kind = Word::DeadHourType, .place = place, .value = id});
+        Tell({.kind = FindingKind::DeadHourType, .place = place, .value = id});
       }
     }
   }
 
   void CheckYear(const XmlNode& year, const std::set<std::wstring>& days) {
     for (auto month = year.ChildsBegin(); month != year.ChildsEnd(); ++month) {
-      const auto monthNumber = NumberInTag(**month, L"month");
-      for (auto day = (*month)->ChildsBegin(); monthNumber && day != (*month)->ChildsEnd(); ++day) {
-        const auto dayNumber = NumberInTag(**day, L"day");
-        const std::wstring id((*day)->Value().ToView());
-        if (dayNumber && days.count(id) == 0) {
-          const std::wstring date = qv::Format(
-              L"calendar/%s-%02d-%02d", {year.Value(qv::tag::Year, L""), *monthNumber, *dayNumber});
-          Tell({.kind = Word::DeadDayType, .place = date, .value = id});
-        }
+      if (const auto number = NumberInTag(**month, L"month")) {
+        CheckMonth(year.Value(qv::tag::Year, L""), *number, **month, days);
+      }
+    }
+  }
+
+  void CheckMonth(const QVWideString& year, int month, const XmlNode& node,
+                  const std::set<std::wstring>& days) {
+    for (auto day = node.ChildsBegin(); day != node.ChildsEnd(); ++day) {
+      const auto number = NumberInTag(**day, L"day");
+      const std::wstring id((*day)->Value().ToView());
+      if (number && days.count(id) == 0) {
+        Tell({.kind = FindingKind::DeadDayType,
+              .place = qv::Format(L"calendar/%s-%02d-%02d", {year, month, *number}),
+              .value = id});
       }
     }
   }

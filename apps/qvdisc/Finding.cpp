@@ -1,59 +1,74 @@
 #include "apps/qvdisc/Finding.h"
 
-#include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace qvdisc {
 namespace {
 
 struct KindRow {
-  Word kind;
+  FindingKind kind;
   const char* name;
+  Word word;
 };
 
 constexpr std::array kinds = {
-    KindRow{Word::Unreadable, "unreadable"},
-    KindRow{Word::HiddenType, "hidden-type"},
-    KindRow{Word::FileNameForm, "file-name"},
-    KindRow{Word::IdDiffers, "id-differs"},
-    KindRow{Word::NameDiffers, "name-differs"},
-    KindRow{Word::DeadHourType, "dead-hour-type"},
-    KindRow{Word::DeadDayType, "dead-day-type"},
-    KindRow{Word::IndexMissing, "index-missing"},
-    KindRow{Word::IndexStale, "index-stale"},
-    KindRow{Word::IndexUnreadable, "index-unreadable"},
-    KindRow{Word::IndexWithoutUse, "index-without-use"},
-    KindRow{Word::EntryWithoutDiscriminator, "entry-without-discriminator"},
-    KindRow{Word::DiscriminatorWithoutEntry, "discriminator-without-entry"},
-    KindRow{Word::DuplicateEntry, "duplicate-entry"},
-    KindRow{Word::DuplicateId, "duplicate-id"},
-    KindRow{Word::DuplicateName, "duplicate-name"},
-    KindRow{Word::DuplicatePart, "duplicate-part"},
+    KindRow{FindingKind::Unreadable, "unreadable", Word::Unreadable},
+    KindRow{FindingKind::HiddenType, "hidden-type", Word::HiddenType},
+    KindRow{FindingKind::FileName, "file-name", Word::FileNameForm},
+    KindRow{FindingKind::IdDiffers, "id-differs", Word::IdDiffers},
+    KindRow{FindingKind::NameDiffers, "name-differs", Word::NameDiffers},
+    KindRow{FindingKind::DeadHourType, "dead-hour-type", Word::DeadHourType},
+    KindRow{FindingKind::DeadDayType, "dead-day-type", Word::DeadDayType},
+    KindRow{FindingKind::IndexMissing, "index-missing", Word::IndexMissing},
+    KindRow{FindingKind::IndexStale, "index-stale", Word::IndexStale},
+    KindRow{FindingKind::IndexUnreadable, "index-unreadable", Word::IndexUnreadable},
+    KindRow{FindingKind::IndexWithoutUse, "index-without-use", Word::IndexWithoutUse},
+    KindRow{FindingKind::EntryWithoutDiscriminator, "entry-without-discriminator",
+            Word::EntryWithoutDiscriminator},
+    KindRow{FindingKind::DiscriminatorWithoutEntry, "discriminator-without-entry",
+            Word::DiscriminatorWithoutEntry},
+    KindRow{FindingKind::DuplicateEntry, "duplicate-entry", Word::DuplicateEntry},
+    KindRow{FindingKind::DuplicateId, "duplicate-id", Word::DuplicateId},
+    KindRow{FindingKind::DuplicateName, "duplicate-name", Word::DuplicateName},
+    KindRow{FindingKind::DuplicatePart, "duplicate-part", Word::DuplicatePart},
+    KindRow{FindingKind::ForeignConfiguration, "foreign-configuration", Word::ForeignConfiguration},
 };
+
+constexpr bool EachRowStandsAtItsKind() {
+  for (std::size_t i = 0; i < kinds.size(); ++i) {
+    if (kinds[i].kind != static_cast<FindingKind>(i)) {
+      return false;
+    }
+  }
+  return kinds.size() == static_cast<std::size_t>(FindingKind::Count);
+}
+static_assert(EachRowStandsAtItsKind());
+
+const KindRow& RowOf(FindingKind kind) { return kinds.at(static_cast<std::size_t>(kind)); }
 
 }  // namespace
 
-const char* KindName(Word kind) {
-  const auto* found = std::find_if(kinds.begin(), kinds.end(),
-                                   [&](const KindRow& row) { return row.kind == kind; });
-  return found == kinds.end() ? "" : found->name;
-}
+const char* KindName(FindingKind kind) { return RowOf(kind).name; }
 
 std::wstring Sentence(const Finding& finding, qv::Language language) {
+  const Word word = RowOf(finding.kind).word;
   switch (finding.kind) {
-    case Word::Unreadable:
-      return Words(finding.kind, language, {finding.line, finding.column, finding.value.c_str()});
-    case Word::IdDiffers:
-    case Word::NameDiffers:
-      return Words(finding.kind, language, {finding.value.c_str(), finding.expected.c_str()});
-    case Word::DuplicatePart:
-      return Words(finding.kind, language,
+    case FindingKind::Unreadable:
+      return finding.line == 0 ? Words(word, language, {finding.value.c_str()})
+                               : Words(Word::UnreadableAt, language,
+                                       {finding.line, finding.column, finding.value.c_str()});
+    case FindingKind::IdDiffers:
+    case FindingKind::NameDiffers:
+      return Words(word, language, {finding.value.c_str(), finding.expected.c_str()});
+    case FindingKind::DuplicatePart:
+      return Words(word, language,
                    {finding.expected.c_str(), finding.place.c_str(), finding.value.c_str()});
-    case Word::DuplicateId:
-    case Word::DuplicateName:
-      return Words(finding.kind, language, {finding.value.c_str()});
+    case FindingKind::DuplicateId:
+    case FindingKind::DuplicateName:
+      return Words(word, language, {finding.value.c_str()});
     default:
-      return Words(finding.kind, language, {finding.place.c_str(), finding.value.c_str()});
+      return Words(word, language, {finding.place.c_str(), finding.value.c_str()});
   }
 }
 

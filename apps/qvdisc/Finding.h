@@ -1,30 +1,55 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "apps/qvdisc/Words.h"
 
 namespace qvdisc {
 
-/// Something that a check tells of a file or of an entry.
+/// What a check can find.
+enum class FindingKind {
+  Unreadable,
+  HiddenType,
+  FileName,
+  IdDiffers,
+  NameDiffers,
+  DeadHourType,
+  DeadDayType,
+  IndexMissing,
+  IndexStale,
+  IndexUnreadable,
+  IndexWithoutUse,
+  EntryWithoutDiscriminator,
+  DiscriminatorWithoutEntry,
+  DuplicateEntry,
+  DuplicateId,
+  DuplicateName,
+  DuplicatePart,
+  ForeignConfiguration,
+
+  Count
+};
+
+/// Something that a check tells of a file.
 struct Finding {
-  Word kind = Word::Unreadable;  ///< one of those from `Unreadable` on
-  std::wstring file{};           ///< the name of the file; empty for the configuration's entries
-  std::wstring place{};          ///< where in it
-  std::wstring value{};          ///< what is wrong there
-  std::wstring expected{};       ///< what it is compared with
-  unsigned line = 0;             ///< from 1, of what cannot be read; 0 for the file as a whole
+  FindingKind kind = FindingKind::Unreadable;
+  std::wstring file{};      ///< the name of the file; entries are in the configuration's
+  std::wstring place{};     ///< where in it
+  std::wstring value{};     ///< what is wrong there
+  std::wstring expected{};  ///< what it is compared with
+  unsigned line = 0;        ///< from 1, of what cannot be read; 0 for the file as a whole
   unsigned column = 0;
 
   /// Whether something has to be mended, rather than only explained.
-  bool IsFault() const { return kind != Word::HiddenType; }
+  bool IsFault() const { return kind != FindingKind::HiddenType; }
+  /// Whether it is why the list leaves the file out.
+  bool LeavesOut() const { return kind <= FindingKind::NameDiffers; }
 
   friend bool operator==(const Finding&, const Finding&) = default;
 };
 
 /// What JSON calls this kind of finding.
-const char* KindName(Word kind);
+const char* KindName(FindingKind kind);
 
 /// The finding as a sentence, without its file.
 std::wstring Sentence(const Finding& finding, qv::Language language);

@@ -4,6 +4,7 @@
 #include "apps/qvdisc/Reports.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
+#include "discriminator/Nodes.h"
 #include "discriminator/ValueForms.h"
 
 namespace qvdisc {
@@ -15,9 +16,7 @@ using qv::XmlNode;
 /// Changes with every change of the form that a reader could trip over.
 constexpr int formVersion = 1;
 
-std::string Text(const XmlNode& node, const wchar_t* tag) {
-  return Utf8(node.Value(tag, L"").ToView());
-}
+std::string Text(const XmlNode& node, const wchar_t* tag) { return Utf8(qv::FieldOf(node, tag)); }
 
 Json Row(const qv::DiscriminatorSummary& row) {
   return {{"stem", Utf8(row.fileStem.ToView())},
@@ -89,8 +88,16 @@ void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome)
   if (arguments.verb == Verb::Index) {
     json["indexes"] = List(outcome.indexes, Index);
   }
+  if (outcome.unsaved) {
+    json["unsaved"] = *outcome.unsaved;
+  }
+  if (outcome.unsavedConfiguration) {
+    json["unsavedConfiguration"] = *outcome.unsavedConfiguration;
+  }
   if (arguments.verb == Verb::Check) {
-    json["filesChecked"] = outcome.filesChecked;
+    json["files"] = List(outcome.checkedFiles, [&](const std::wstring& file) {
+      return Json{{"file", Utf8(file)}, {"listed", outcome.IsListed(file)}};
+    });
     json["findings"] = List(outcome.findings, Found);
   }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
@@ -39,10 +40,19 @@ struct Outcome {
   std::vector<std::wstring> errors;  ///< in words
 
   std::unique_ptr<XmlDocument> document;  ///< what `show` shows
-  std::optional<std::string> payload;     ///< what `copy` copies, or what could not be saved
+  std::optional<std::string> payload;     ///< what `copy` copies
+  std::optional<std::string> unsaved;     ///< a discriminator that could not be saved, as payload
+  std::optional<std::string> unsavedConfiguration;  ///< the text of its file
   std::vector<IndexEnd> indexes;
+  std::vector<std::wstring> checkedFiles;
   std::vector<Finding> findings;
-  unsigned filesChecked = 0;
+
+  /// Whether nothing was found that makes the list leave the file out.
+  bool IsListed(const std::wstring& file) const {
+    return std::none_of(findings.begin(), findings.end(), [&](const Finding& finding) {
+      return finding.file == file && finding.LeavesOut();
+    });
+  }
 
   void Fail(std::wstring reason) {
     errors.push_back(std::move(reason));

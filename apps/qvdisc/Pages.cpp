@@ -114,29 +114,52 @@ _qvdisc_stems() {
     stem=${file##*/}
     stem=${stem%.xdct}
     if [[ -e $file && $stem == "$current"* ]]; then
-      COMPREPLY+=("$(printf '%q' "$stem")")
+      COMPREPLY+=("$stem")
     fi
   done
 }
+# A word of the line without quotes and backslashes, and with the home directory for ~.
+_qvdisc_plain() {
+  local word=${1#[\"\']}
+  word=${word%[\"\']}
+  word=${word//\\/}
+  [[ $word == "~/"* ]] && word=$HOME/${word#"~/"}
+  printf '%s' "$word"
+}
 _qvdisc() {
-  local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
-  local installation verb options stems i
+  local current before installation verb options stems i
+  current=$(_qvdisc_plain "${COMP_WORDS[COMP_CWORD]}")
+  before=${COMP_WORDS[COMP_CWORD - 1]}
+  # Bash takes --option=value for three words.
+  if [[ $before == = ]]; then
+    before=${COMP_WORDS[COMP_CWORD - 2]}
+  elif [[ $current == = ]]; then
+    current=
+  fi
   for ((i = 1; i < COMP_CWORD; i++)); do
     case ${COMP_WORDS[i]} in
-    --installation) installation=${COMP_WORDS[i + 1]} ;;
-    -*) ;;
+    --installation)
+      [[ ${COMP_WORDS[i + 1]} == = ]] && ((i++))
+      installation=$(_qvdisc_plain "${COMP_WORDS[++i]}")
+      ;;
+    -* | =) ;;
     *) verb=${verb:-${COMP_WORDS[i]}} ;;
     esac
   done
   COMPREPLY=()
   case $before in
-    --installation) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
+    --installation)
+      compopt -o filenames 2>/dev/null
+      mapfile -t COMPREPLY < <(compgen -d -- "$current")
+      return
+      ;;
 )bash";
 
 constexpr const char* completionEnd = R"bash(  esac
   if [[ $current == -* ]]; then
     _qvdisc_words "$options"
   elif [[ $stems && $installation ]]; then
+    compopt -o filenames 2>/dev/null
     _qvdisc_stems "$installation"
   fi
 }

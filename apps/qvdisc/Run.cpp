@@ -12,7 +12,7 @@ namespace {
 void TellErrors(const Outcome& outcome, const Surroundings& surroundings) {
   for (const std::wstring& error : outcome.errors) {
     const std::string line = ErrorLine(Utf8(OneLine(error)));
-    surroundings.err << (surroundings.errIsTerminal ? "\033[31m" + line + "\033[0m" : line);
+    surroundings.err << (surroundings.coloursErrors ? "\033[31m" + line + "\033[0m" : line);
   }
 }
 
@@ -27,7 +27,7 @@ int Run(const Arguments& arguments, const Surroundings& surroundings) {
   }
   surroundings.out << (arguments.json ? JsonReport(arguments, outcome)
                                       : TextReport(arguments, outcome, session.Language(),
-                                                   surroundings.outIsTerminal))
+                                                   surroundings.coloursOutput))
                    << std::flush;
   if (!surroundings.out) {
     outcome.Fail(Words(Word::OutputFailed, session.Language()));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ostream>
 #include <set>
+#include <string>
 
 #include "apps/qvdisc/Words.h"
 #include "discriminator/FileNames.h"
@@ -84,7 +85,11 @@ bool Session::LoadConfiguration() {
     m_outcome.Fail(Words(reason, m_language, {m_arguments.installation.c_str()}));
     return false;
   };
-  switch (m_configuration.Load(Directory().ToView())) {
+  m_loaded = m_configuration.Load(Directory().ToView());
+  if (m_arguments.verb == Verb::Check) {
+    return true;
+  }
+  switch (m_loaded) {
     case qv::Configuration::Loaded::Unreadable:
       return refuse(Word::ConfigurationUnreadable);
     case qv::Configuration::Loaded::Foreign:
@@ -100,10 +105,12 @@ qv::Host Session::Services() {
   return {m_setup, m_mainCfg, m_notices, m_texts, m_indexFiles, m_clipboard};
 }
 
-void Session::Refresh() {
-  ProgressLine progress(m_surroundings.err, m_language, m_surroundings.errIsTerminal);
-  m_list->Refresh(progress);
+std::unique_ptr<qv::Progress> Session::NewProgress() const {
+  return std::make_unique<ProgressLine>(m_surroundings.err, m_language,
+                                        m_surroundings.showsProgress);
 }
+
+void Session::Refresh() { m_list->Refresh(*NewProgress()); }
 
 std::optional<std::vector<int>> Session::NamedRows() {
   std::set<int> rows;
@@ -151,12 +158,21 @@ void Session::Close() {
   }
   m_outcome.hostHasToSave = m_list->Changed();
   if (m_outcome.hostHasToSave) {
-    m_outcome.saved = m_configuration.Save();
-    if (!m_outcome.saved) {
-      m_outcome.Fail(
-          Words(Word::ConfigurationNotSaved, m_language, {m_arguments.installation.c_str()}));
-    }
+    Save();
   }
+}
+
+void Session::Save() {
+  m_outcome.saved = m_configuration.Save();
+  if (m_outcome.saved) {
+    return;
+  }
+  // A failed saving may have taken the old file. What this program knows must not go with it.
+  QVNarrowString content;
+  m_mainCfg.CreateXmlCode(content, true);
+  m_outcome.unsavedConfiguration = content.ToView();
+  m_outcome.Fail(
+      Words(Word::ConfigurationNotSaved, m_language, {m_arguments.installation.c_str()}));
 }
 
 }  // namespace qvdisc

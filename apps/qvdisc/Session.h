@@ -1,6 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "apps/qvdisc/Arguments.h"
@@ -27,11 +30,13 @@ class Session {
   Session& operator=(const Session&) = delete;
 
   /// Reads language, configuration and list. False, and the outcome tells why, if that isn't
-  /// possible.
+  /// possible; a check also works without a good configuration.
   bool Open();
 
   /// Reads the list, with a line that tells how far it is if a user sees it.
   void Refresh();
+  /// Tells how far a reading is, on a line that goes with it, if a user sees it.
+  std::unique_ptr<qv::Progress> NewProgress() const;
 
   /// The rows that the call names, in ascending order and each once; nothing, and the outcome tells
   /// why, if one of the names is of no row or of several.
@@ -41,20 +46,21 @@ class Session {
   void Close();
 
   const Arguments& Call() const { return m_arguments; }
-  const Surroundings& Around() const { return m_surroundings; }
   qv::Language Language() const { return m_language; }
-  Outcome& End() { return m_outcome; }
+  Outcome& Result() { return m_outcome; }
   qv::Host Services();
-  qv::Prompter& Speaker() { return m_prompter; }
+  qv::Prompter& Prompter() { return m_prompter; }
   qv::Files& Files() { return m_surroundings.files; }
   qv::DiscriminatorList& List() { return *m_list; }
   qv::Configuration& Config() { return m_configuration; }
+  qv::Configuration::Loaded ConfigLoaded() const { return m_loaded; }
   const StreamClipboard& Clipboard() const { return m_clipboard; }
   const QVWideString& Directory() const { return m_setup.CfgPath(); }
 
  private:
   bool LoadLanguage();
   bool LoadConfiguration();
+  void Save();
   std::optional<int> NamedRow(const std::wstring& text);
   std::vector<int> RowsWhere(const std::function<bool(const qv::DiscriminatorSummary&)>& matches);
 
@@ -65,6 +71,7 @@ class Session {
   qv::DirectorySetup m_setup;
   QVMainCfg m_mainCfg;
   qv::Configuration m_configuration;
+  qv::Configuration::Loaded m_loaded = qv::Configuration::Loaded::New;
   qv::GuidNotices m_notices;
   qv::LanguageFile m_texts;
   qv::IndexFiles m_indexFiles;

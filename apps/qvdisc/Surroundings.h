@@ -13,9 +13,10 @@ struct Surroundings {
   std::istream& in;
   std::ostream& out;
   std::ostream& err;
-  bool inIsTerminal = false;
-  bool outIsTerminal = false;
-  bool errIsTerminal = false;
+  bool canAsk = false;         ///< a user reads the errors and can answer
+  bool showsProgress = false;  ///< a user sees the errors
+  bool coloursOutput = false;
+  bool coloursErrors = false;
   qv::Language language = qv::Language::English;  ///< unless the call names one
   std::wstring languages;                         ///< directory of the language files
   qv::Files& files = qv::Files::Disk();

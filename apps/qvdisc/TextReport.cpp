@@ -4,7 +4,9 @@
 
 #include "apps/qvdisc/Reports.h"
 #include "discriminator/Fields.h"
+#include "discriminator/Nodes.h"
 #include "discriminator/ValueForms.h"
+#include "tools/Utf8.h"
 
 namespace qvdisc {
 namespace {
@@ -12,8 +14,9 @@ namespace {
 using qv::XmlNode;
 using Cells = std::vector<std::wstring>;
 
-std::wstring Field(const XmlNode& node, const wchar_t* tag) {
-  return OneLine(std::wstring(node.Value(tag, L"").ToView()));
+/// A field's value on one line.
+std::wstring Line(const XmlNode& node, const wchar_t* tag) {
+  return OneLine(qv::FieldOf(node, tag));
 }
 
 class Writer {
@@ -22,9 +25,9 @@ class Writer {
 
   std::wstring Said(Word word) const { return Words(word, m_language); }
 
-  void Line(const std::wstring& text) { m_text += text + L"\n"; }
+  void Write(const std::wstring& text) { m_text += text + L"\n"; }
 
-  void Heading(const std::wstring& text) { Line(m_bold ? L"\033[1m" + text + L"\033[0m" : text); }
+  void Heading(const std::wstring& text) { Write(m_bold ? L"\033[1m" + text + L"\033[0m" : text); }
 
   /// Lines with their cells below each other; the first is a heading.
   void Table(std::vector<Cells> lines) {
@@ -32,12 +35,12 @@ class Writer {
     for (const Cells& cells : lines) {
       widths.resize(std::max(widths.size(), cells.size()));
       for (std::size_t i = 0; i < cells.size(); ++i) {
-        widths[i] = std::max(widths[i], cells[i].size());
+        widths[i] = std::max(widths[i], qv::ColumnsOf(cells[i]));
       }
     }
     for (std::size_t i = 0; i < lines.size(); ++i) {
       const std::wstring line = Aligned(lines[i], widths);
-      i == 0 ? Heading(line) : Line(line);
+      i == 0 ? Heading(line) : Write(line);
     }
   }
 
@@ -49,7 +52,7 @@ class Writer {
     std::wstring line;
     for (std::size_t i = 0; i < cells.size(); ++i) {
       line += cells[i];
-      line.append(widths[i] - cells[i].size() + gap, L' ');
+      line.append(widths[i] - qv::ColumnsOf(cells[i]) + gap, L' ');
     }
     line.erase(line.find_last_not_of(L' ') + 1);
     return line;
@@ -74,32 +77,30 @@ void WriteRows(Writer& writer, const Outcome& outcome) {
 void WriteFields(Writer& writer, const XmlNode& root) {
   const bool zero = qv::IsFlagSet(root.Value(qv::tag::SetZeroOutsideSlot, L"T"));
   const std::vector<std::pair<Word, std::wstring>> fields = {
-      {Word::Name, Field(root, qv::tag::Name)},
-      {Word::Description, Field(root, qv::tag::Description)},
-      {Word::Id, Field(root, qv::tag::Id)},
-      {Word::Type, Field(root, qv::tag::Type)},
+      {Word::Name, Line(root, qv::tag::Name)},
+      {Word::Description, Line(root, qv::tag::Description)},
+      {Word::Id, Line(root, qv::tag::Id)},
+      {Word::Type, Line(root, qv::tag::Type)},
       {Word::ZeroOutside, writer.Said(zero ? Word::Yes : Word::No)},
-      {Word::Revision, Field(root, qv::tag::Revision)},
+      {Word::Revision, Line(root, qv::tag::Revision)},
   };
   constexpr std::size_t width = 22;
   for (const auto& [word, value] : fields) {
     std::wstring label = writer.Said(word);
     label.resize(value.empty() ? label.size() : std::max(width, label.size() + 1), L' ');
-    writer.Line(label + value);
+    writer.Write(label + value);
   }
 }
 
 /// The children of the container with this tag, under a heading if there is such a container.
 std::vector<const XmlNode*> Section(Writer& writer, const XmlNode& root, const wchar_t* container,
                                     const wchar_t* tag, Word heading) {
-  std::vector<const XmlNode*> children;
-  if (const XmlNode* node = root.Node(container)) {
-    writer.Line(L"");
+  const XmlNode* node = root.Node(container);
+  if (node) {
+    writer.Write(L"");
     writer.Heading(writer.Said(heading));
-    std::copy_if(node->ChildsBegin(), node->ChildsEnd(), std::back_inserter(children),
-                 [&](const XmlNode* child) { return child->Tag() == tag; });
   }
-  return children;
+  return qv::ChildrenWithTag(node, tag);
 }
 
 using NamesById = std::map<std::wstring, std::wstring>;
@@ -108,9 +109,9 @@ NamesById WriteHourTypes(Writer& writer, const XmlNode& root) {
   NamesById names;
   for (const XmlNode* hour :
        Section(writer, root, qv::tag::HourTypes, qv::tag::Hour, Word::HourTypes)) {
-    const std::wstring value = Field(*hour, qv::tag::Value);
-    names[Field(*hour, qv::tag::Id)] = Field(*hour, qv::tag::Name);
-    writer.Line(L"  " + Field(*hour, qv::tag::Name) + (value.empty() ? L"" : L" = " + value));
+    const std::wstring value = Line(*hour, qv::tag::Value);
+    names[Line(*hour, qv::tag::Id)] = Line(*hour, qv::tag::Name);
+    writer.Write(L"  " + Line(*hour, qv::tag::Name) + (value.empty() ? L"" : L" = " + value));
   }
   return names;
 }
@@ -118,13 +119,11 @@ NamesById WriteHourTypes(Writer& writer, const XmlNode& root) {
 void WriteDayTypes(Writer& writer, const XmlNode& root, const NamesById& hours) {
   for (const XmlNode* day :
        Section(writer, root, qv::tag::DayTypes, qv::tag::Day, Word::DayTypes)) {
-    writer.Line(L"  " + Field(*day, qv::tag::Name));
-    for (auto child = day->ChildsBegin(); child != day->ChildsEnd(); ++child) {
-      if ((*child)->Tag() == qv::tag::Slot) {
-        const auto hour = hours.find(Field(**child, qv::tag::Id));
-        writer.Line(L"    " + Field(**child, qv::tag::From) + L" " + Field(**child, qv::tag::To) +
-                    L" " + (hour == hours.end() ? L"?" : hour->second));
-      }
+    writer.Write(L"  " + Line(*day, qv::tag::Name));
+    for (const XmlNode* slot : qv::ChildrenWithTag(day, qv::tag::Slot)) {
+      const auto hour = hours.find(Line(*slot, qv::tag::Id));
+      writer.Write(L"    " + Line(*slot, qv::tag::From) + L" " + Line(*slot, qv::tag::To) + L" " +
+                   (hour == hours.end() ? L"?" : hour->second));
     }
   }
 }
@@ -140,16 +139,16 @@ int DatesIn(const XmlNode& year) {
 void WriteCalendar(Writer& writer, const XmlNode& root, qv::Language language) {
   for (const XmlNode* year :
        Section(writer, root, qv::tag::Calendar, qv::tag::Year, Word::Calendar)) {
-    const std::wstring name = Field(*year, qv::tag::Year);
-    writer.Line(L"  " + Words(Word::DatesOfYear, language, {name.c_str(), DatesIn(*year)}));
+    const std::wstring name = Line(*year, qv::tag::Year);
+    writer.Write(L"  " + Words(Word::DatesOfYear, language, {name.c_str(), DatesIn(*year)}));
   }
 }
 
 void WriteConditions(Writer& writer, const XmlNode& root) {
   for (const XmlNode* condition :
        Section(writer, root, qv::tag::Conditions, qv::tag::Condition, Word::Conditions)) {
-    writer.Line(L"  " + Field(*condition, qv::tag::Name) + L": " +
-                Field(*condition, qv::tag::Expression));
+    writer.Write(L"  " + Line(*condition, qv::tag::Name) + L": " +
+                 Line(*condition, qv::tag::Expression));
   }
 }
 
@@ -165,21 +164,26 @@ void WriteIndexes(Writer& writer, const Outcome& outcome, qv::Language language)
   for (const IndexEnd& index : outcome.indexes) {
     if (!index.needed || index.written) {
       const Word word = index.needed ? Word::IndexWritten : Word::IndexNotNeeded;
-      writer.Line(OneLine(Words(word, language, {index.stem.c_str()})));
+      writer.Write(OneLine(Words(word, language, {index.stem.c_str()})));
     }
   }
 }
 
 void WriteFindings(Writer& writer, const Outcome& outcome, qv::Language language) {
-  for (const Finding& finding : outcome.findings) {
-    const std::wstring file = finding.file.empty() ? L"configuration.xml" : finding.file;
-    writer.Line(OneLine(file + L": " + Sentence(finding, language)));
+  for (const std::wstring& file : outcome.checkedFiles) {
+    if (outcome.IsListed(file)) {
+      writer.Write(OneLine(Words(Word::Listed, language, {file.c_str()})));
+    }
   }
+  for (const Finding& finding : outcome.findings) {
+    writer.Write(OneLine(finding.file + L": " + Sentence(finding, language)));
+  }
+  const auto files = static_cast<unsigned>(outcome.checkedFiles.size());
   const auto faults = static_cast<unsigned>(
       std::count_if(outcome.findings.begin(), outcome.findings.end(),
                     [](const Finding& finding) { return finding.IsFault(); }));
-  writer.Line(faults == 0 ? Words(Word::NothingFound, language, {outcome.filesChecked})
-                          : Words(Word::Found, language, {faults, outcome.filesChecked}));
+  writer.Write(faults == 0 ? Words(Word::NothingFound, language, {files})
+                           : Words(Word::Found, language, {faults, files}));
 }
 
 }  // namespace
@@ -187,8 +191,10 @@ void WriteFindings(Writer& writer, const Outcome& outcome, qv::Language language
 std::string TextReport(const Arguments& arguments, const Outcome& outcome, qv::Language language,
                        bool isTerminal) {
   Writer writer(language, isTerminal);
-  if (outcome.payload) {
-    return *outcome.payload + "\n";
+  for (const auto* text : {&outcome.payload, &outcome.unsaved, &outcome.unsavedConfiguration}) {
+    if (*text) {
+      return **text + "\n";
+    }
   }
   if (outcome.document) {
     WriteDocument(writer, *outcome.document->Root(), language);

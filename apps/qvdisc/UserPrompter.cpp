@@ -48,7 +48,7 @@ std::optional<bool> UserPrompter::AnswerTo(const std::wstring& question) const {
     err << NarrowWords(Word::Answer, m_language, {word.c_str()}) << '\n';
     return m_answer;
   }
-  if (!m_surroundings.inIsTerminal || !m_surroundings.errIsTerminal) {
+  if (!m_surroundings.canAsk) {
     return std::nullopt;
   }
   // Yes begins with y or s, in one of the languages; the end of the input is No.

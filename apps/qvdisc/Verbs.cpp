@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 #include <set>
 #include <string>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "discriminator/ClipboardPayload.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
+#include "discriminator/IndexDocument.h"
 #include "editor/DiscriminatorForm.h"
 #include "tools/Names.h"
 
@@ -21,7 +23,7 @@ using qv::DiscriminatorForm;
 using qv::EditorEnd;
 
 void Fail(Session& session, Word reason, std::initializer_list<qv::FormatArgument> arguments = {}) {
-  session.End().Fail(Words(reason, session.Language(), arguments));
+  session.Result().Fail(Words(reason, session.Language(), arguments));
 }
 
 const QVWideString& StemOfRow(Session& session, int row) {
@@ -36,45 +38,51 @@ void Show(Session& session) {
   const QVWideString& stem = StemOfRow(session, rows->front());
   auto document = std::make_unique<XmlDocument>();
   if (document->Load(qv::DiscriminatorPath(session.Directory(), stem), session.Files())) {
-    session.End().document = std::move(document);
+    session.Result().document = std::move(document);
   } else {
     Fail(session, Word::DiscriminatorUnreadable, {stem});
   }
 }
 
 void MakeIndex(Session& session, int row) {
-  const auto& shown = session.List().Rows().at(static_cast<std::size_t>(row)).shown;
+  const QVWideString& stem = StemOfRow(session, row);
+  const QVWideString path = qv::DiscriminatorPath(session.Directory(), stem);
   XmlDocument document;
-  IndexEnd end{std::wstring(shown.fileStem.ToView()), false, false};
-  end.needed =
-      document.Load(qv::DiscriminatorPath(session.Directory(), shown.fileStem), session.Files()) &&
-      document.Root()->Node(qv::tag::HourTypes);
-  if (end.needed) {
-    end.written = session.Services().createIndex(session.Directory(),
-                                                 shown.name + qv::discriminatorExtension);
-    if (!end.written) {
-      Fail(session, Word::IndexNotWritten, {shown.name});
-    }
+  if (!document.Load(path, session.Files())) {
+    Fail(session, Word::DiscriminatorUnreadable, {stem});
+    return;
   }
-  session.End().indexes.push_back(std::move(end));
+  IndexEnd end{std::wstring(stem.ToView()), false, false};
+  if (const qv::XmlNode* hourTypes = document.Root()->Node(qv::tag::HourTypes)) {
+    end.needed = true;
+    end.written = qv::MakeIndexDocument(*hourTypes)->SaveAs(qv::IndexPath(path), session.Files());
+  }
+  if (end.needed && !end.written) {
+    Fail(session, Word::IndexNotWritten, {stem});
+  }
+  session.Result().indexes.push_back(std::move(end));
 }
 
 void Index(Session& session) {
   auto rows = session.NamedRows();
-  if (rows && session.Call().stems.empty()) {
-    for (int row = 0; row < static_cast<int>(session.List().Rows().size()); ++row) {
-      rows->push_back(row);
-    }
+  if (!rows) {
+    return;
   }
-  for (const int row : rows.value_or(std::vector<int>())) {
-    MakeIndex(session, row);
+  if (session.Call().stems.empty()) {
+    rows->resize(session.List().Rows().size());
+    std::iota(rows->begin(), rows->end(), 0);
+  }
+  const auto progress = session.NewProgress();
+  for (std::size_t i = 0; i < rows->size(); ++i) {
+    progress->Advance(i, rows->size());
+    MakeIndex(session, (*rows)[i]);
   }
 }
 
 void Copy(Session& session) {
   if (const auto rows = session.NamedRows()) {
     session.List().CopyToClipboard(*rows);
-    session.End().payload = session.Clipboard().Put();
+    session.Result().payload = session.Clipboard().Put();
   }
 }
 
@@ -84,48 +92,47 @@ std::size_t FileCount(Session& session) {
 
 void Paste(Session& session) {
   const std::size_t before = FileCount(session);
-  bool pasted = false;
-  session.List().PasteFromClipboard([&] {
-    pasted = true;
-    session.Refresh();
-  });
-  if (!pasted) {
+  session.List().PasteFromClipboard([&] { session.Refresh(); });
+  // The rules don't tell what became of the items; but of each there is a notice, and a new file.
+  const auto& notices = session.Result().notices;
+  const auto items = static_cast<std::size_t>(
+      std::count(notices.begin(), notices.end(), QVVornelGuids::Discriminators));
+  const std::size_t after = FileCount(session);
+  if (items == 0) {
     Fail(session, Word::NothingToPaste);
-  }
-  constexpr std::size_t noticesOfEach = 2;
-  const std::size_t items = session.End().notices.size() / noticesOfEach;
-  const std::size_t made = FileCount(session) - before;
-  if (made < items) {
-    Fail(session, Word::NotAllPasted, {static_cast<unsigned>(items - made)});
+  } else if (after < before + items) {
+    Fail(session, Word::NotAllPasted, {static_cast<unsigned>(before + items - after)});
   }
 }
 
 /// What could not be written stays with the user: as a payload that can be pasted again.
 void KeepUnsaved(Session& session, const DiscriminatorForm& form) {
-  const auto& texts = session.End().texts;
+  const auto& texts = session.Result().texts;
   if (!texts.empty() && texts.back().number == Number(Text::DiscriminatorNotSaved)) {
-    session.End().payload = qv::ComposePayload(form.Root()).ToView();
+    session.Result().unsaved = qv::ComposePayload(form.Root()).ToView();
     Fail(session, Word::ContentFollows);
   }
-  session.End().status = 1;
+  session.Result().status = 1;
 }
 
 /// Chooses the type, as the dialog lets a user do; false if it doesn't.
 bool ChooseType(Session& session, DiscriminatorForm& form) {
   const auto slots = session.Call().changes.slots;
-  if (slots && *slots != form.HasSlots()) {
-    if (!form.IsTypeSelectable()) {
-      Fail(session, Word::TypeNotSelectable);
-      return false;
-    }
-    form.SelectType(*slots ? 0 : 1);
+  if (!slots ||
+      form.Root().Value(qv::tag::Type, L"") == (*slots ? qv::word::Slots : qv::word::Conditions)) {
+    return true;
   }
+  if (!form.IsTypeSelectable()) {
+    Fail(session, Word::TypeNotSelectable);
+    return false;
+  }
+  form.SelectType(*slots ? 0 : 1);
   return true;
 }
 
 /// Does what a user does in the editor: opens it, types, and presses OK.
 EditorEnd RunEditor(Session& session, qv::XmlNode* deviceGroups, const QVWideString* path) {
-  DiscriminatorForm form({session.Services(), session.Files(), session.Speaker(), deviceGroups},
+  DiscriminatorForm form({session.Services(), session.Files(), session.Prompter(), deviceGroups},
                          path);
   if (!form.IsLoaded()) {
     Fail(session, Word::DiscriminatorUnreadable, {session.Call().stems.front().c_str()});
@@ -156,20 +163,29 @@ qv::DiscriminatorList::RunEditor EditorOf(Session& session) {
   };
 }
 
+/// The list as it is: after a failed saving the dialog still shows what was there before.
+void RefreshAfterFailure(Session& session) {
+  if (session.Result().unsaved) {
+    session.Refresh();
+  }
+}
+
 void Add(Session& session) {
   session.List().OnAdd(EditorOf(session), [&] { session.Refresh(); });
+  RefreshAfterFailure(session);
 }
 
 void Modify(Session& session) {
   if (const auto rows = session.NamedRows()) {
     session.List().OnModify(*rows, EditorOf(session), [&] { session.Refresh(); });
+    RefreshAfterFailure(session);
   }
 }
 
 void Remove(Session& session) {
   const auto rows = session.NamedRows();
   if (rows && session.List().OnRemove(*rows, [](int) {}).outcome != qv::RemovalOutcome::Done) {
-    session.End().status = 1;
+    session.Result().status = 1;
   }
 }
 
@@ -195,18 +211,21 @@ bool KeepNamed(Session& session, CheckedInstallation& checked) {
     kept.insert(named.begin(), named.end());
   }
   checked.files.assign(kept.begin(), kept.end());
-  std::erase_if(checked.findings,
-                [&](const Finding& finding) { return kept.count(finding.file) == 0; });
+  std::erase_if(checked.findings, [&](const Finding& finding) {
+    const bool isIndex = finding.kind == FindingKind::IndexWithoutUse;
+    return kept.count(finding.file.substr(0, finding.file.size() - (isIndex ? 1 : 0))) == 0;
+  });
   return true;
 }
 
 void Check(Session& session) {
-  auto checked = CheckInstallation(session.Directory(), session.Config(), session.Files());
+  auto checked = CheckInstallation({session.Directory(), session.Config(), session.ConfigLoaded()},
+                                   session.Files(), *session.NewProgress());
   if (!session.Call().stems.empty() && !KeepNamed(session, checked)) {
     return;
   }
-  Outcome& end = session.End();
-  end.filesChecked = static_cast<unsigned>(checked.files.size());
+  Outcome& end = session.Result();
+  end.checkedFiles = std::move(checked.files);
   end.findings = std::move(checked.findings);
   const bool faulty = std::any_of(end.findings.begin(), end.findings.end(),
                                   [](const Finding& finding) { return finding.IsFault(); });

@@ -28,10 +28,10 @@ constexpr std::array rows = {
         L"configuration.xml de «%s» no es la configuración de una instalación",
         L"configuration.xml of “%s” is not the configuration of an installation"},
     Row{Word::ConfigurationNotSaved,
-        L"No se ha podido guardar configuration.xml de «%s»: compruebe los permisos y el espacio "
-        L"del disco, y después las entradas con «check»",
-        L"configuration.xml of “%s” could not be saved: check permissions and disk space, and then "
-        L"the entries with “check”"},
+        L"No se ha podido guardar configuration.xml de «%s»: su contenido se escribe en la salida "
+        L"estándar; compruebe los permisos y el espacio del disco",
+        L"configuration.xml of “%s” could not be saved: its content is written to standard output; "
+        L"check permissions and disk space"},
     Row{Word::LanguageFileMissing, L"No se puede leer el archivo de idioma «%s»",
         L"The language file “%s” cannot be read"},
     Row{Word::TypeNotSelectable, L"El tipo no se puede elegir en una instalación embebida",
@@ -72,11 +72,15 @@ constexpr std::array rows = {
     Row{Word::IndexNotNeeded, L"%s: sin tipos de hora, no necesita índice",
         L"%s: no hour types, needs no index"},
     Row{Word::Reading, L"Leyendo %d de %d", L"Reading %d of %d"},
+    Row{Word::Listed, L"%s: aparece en la lista", L"%s: listed"},
     Row{Word::NothingFound, L"%d archivos, nada que objetar", L"%d files, nothing found"},
     Row{Word::Found, L"%d hallazgos en %d archivos", L"%d findings in %d files"},
 
-    Row{Word::Unreadable, L"no se puede leer: línea %u, columna %u: %s",
+    Row{Word::Unreadable, L"no se puede leer: %s", L"cannot be read: %s"},
+    Row{Word::UnreadableAt, L"no se puede leer: línea %u, columna %u: %s",
         L"cannot be read: line %u, column %u: %s"},
+    Row{Word::ForeignConfiguration, L"no es la configuración de una instalación",
+        L"is not the configuration of an installation"},
     Row{Word::HiddenType,
         L"no aparece en la lista: la instalación es embebida y oculta el tipo CONDITIONS",
         L"not in the list: the installation is embedded and hides the type CONDITIONS"},

@@ -49,11 +49,14 @@ enum class Word {
   IndexWritten,    ///< the stem
   IndexNotNeeded,  ///< the stem
   Reading,         ///< how many of how many
+  Listed,          ///< the file
   NothingFound,    ///< how many files
   Found,           ///< how many findings in how many files
 
   // What a check finds
-  Unreadable,  ///< line, column, reason
+  Unreadable,    ///< reason
+  UnreadableAt,  ///< line, column, reason
+  ForeignConfiguration,
   HiddenType,
   FileNameForm,
   IdDiffers,     ///< the field's, the file's

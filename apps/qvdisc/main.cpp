@@ -11,8 +11,12 @@
 #endif
 
 #include "apps/qvdisc/Run.h"
+#include "tools/Utf8.h"
 
 namespace {
+
+/// The exit status if help or a page can't be written.
+constexpr int notWritten = 1;
 
 bool IsTerminal(int descriptor) {
 #ifdef _WIN32
@@ -41,32 +45,43 @@ std::wstring LanguageDirectory(const char* program) {
   if (error) {
     file = std::filesystem::absolute(program, error);
   }
-  return (file.parent_path().parent_path() / "languages" / "").wstring();
+  const auto directory = file.parent_path().parent_path() / "languages" / "";
+#ifdef _WIN32
+  return directory.wstring();
+#else
+  return qv::FromUtf8(directory.native());
+#endif
 }
 
 }  // namespace
 
 int main(int count, char** arguments) {
 #ifndef _WIN32
-  // A reader that has gone must not end the program in the middle of its work.
+  // A reader that has gone, or a limit on files, must not end the program in the middle of its
+  // work: both show where something is written.
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
 #endif
   const auto call = qvdisc::ReadArguments(count, arguments);
   if (const auto* end = std::get_if<qvdisc::EarlyEnd>(&call)) {
     std::cout << end->output << std::flush;
     std::cerr << end->error;
-    return end->status;
+    return std::cout ? end->status : notWritten;
   }
   constexpr int input = 0;
   constexpr int output = 1;
   constexpr int errors = 2;
-  const qvdisc::Surroundings surroundings{std::cin,
-                                          std::cout,
-                                          std::cerr,
-                                          IsTerminal(input),
-                                          IsTerminal(output) && WantsColours(),
-                                          IsTerminal(errors),
-                                          SystemLanguage(),
-                                          LanguageDirectory(arguments[0])};
+  const bool colours = WantsColours();
+  const qvdisc::Surroundings surroundings{
+      .in = std::cin,
+      .out = std::cout,
+      .err = std::cerr,
+      .canAsk = IsTerminal(input) && IsTerminal(errors),
+      .showsProgress = IsTerminal(errors),
+      .coloursOutput = IsTerminal(output) && colours,
+      .coloursErrors = IsTerminal(errors) && colours,
+      .language = SystemLanguage(),
+      .languages = LanguageDirectory(arguments[0]),
+  };
   return qvdisc::Run(std::get<qvdisc::Arguments>(call), surroundings);
 }

@@ -47,7 +47,10 @@ class CheckTest : public CommandLine {
 
 TEST_F(CheckTest, TheExampleIsFlawless) {
   EXPECT_TRUE(Findings(false).empty());
-  EXPECT_EQ(Do({"check"}).output, "4 files, nothing found\n");
+  EXPECT_EQ(Do({"check"}).output, tariff2 + ".xdct: listed\n" + file + ": listed\n" +
+                                      "9cfc40ad-7433-4b63-9bdc-fddcb544122c.Tariff 3-0TD and "
+                                      "6-1TD 2026.xdct: listed\n" +
+                                      station + ".xdct: listed\n4 files, nothing found\n");
 }
 
 TEST_F(CheckTest, AFileThatCannotBeReadIsToldWithItsPlace) {
@@ -171,7 +174,7 @@ TEST_F(CheckTest, OnlyTheFilesOfTheCallAreTold) {
   EXPECT_EQ(Kinds(Findings(true, {tariff2})), "index-missing\n");
   EXPECT_EQ(Kinds(Findings(true, {"Day and night", "Day and night"})), "unreadable\n");
   EXPECT_TRUE(Findings(false, {station}).empty());
-  EXPECT_EQ(Do({"check", station}).output, "1 files, nothing found\n");
+  EXPECT_EQ(Do({"check", station}).output, station + ".xdct: listed\n1 files, nothing found\n");
   const Ended none = Do({"check", "none"});
   EXPECT_EQ(none.status, 1);
   EXPECT_THAT(none.errors, HasSubstr("There is no discriminator “none”"));
@@ -195,16 +198,99 @@ TEST_F(CheckTest, AwkwardFilesAreToldAndDoNoHarm) {
 
 TEST_F(CheckTest, SpeaksSpanish) {
   std::filesystem::remove(File(file + "I"));
-  EXPECT_EQ(Do({"check", "--language", "es"}).output,
-            file + ": falta el archivo de índice\n1 hallazgos en 4 archivos\n");
+  EXPECT_EQ(Do({"check", "--language", "es", dayAndNight}).output,
+            file + ": aparece en la lista\n" + file +
+                ": falta el archivo de índice\n1 hallazgos en 1 archivos\n");
+}
+
+TEST_F(CheckTest, ABrokenConfigurationIsAFindingAndTheFilesAreStillChecked) {
+  std::filesystem::remove(File(file + "I"));
+  Write("configuration.xml", "<configuration>\n<a>\n");
+  auto findings = Findings();
+  ASSERT_EQ(Kinds(findings), "index-missing\nunreadable\n");
+  EXPECT_EQ(findings[1]["file"], "configuration.xml");
+  EXPECT_EQ(findings[1]["line"], 3);
+  Write("configuration.xml", "<main/>");
+  findings = Findings();
+  ASSERT_EQ(Kinds(findings), "index-missing\nforeign-configuration\n");
+}
+
+TEST_F(CheckTest, EachFileIsToldToBeListedOrNot) {
+  Write(file, "");
+  const Json json = Json::parse(Do({"check", "--json"}).output);
+  ASSERT_EQ(json["files"].size(), 4U);
+  for (const Json& told : json["files"]) {
+    EXPECT_EQ(told["listed"], told["file"] != file);
+  }
+}
+
+TEST_F(CheckTest, AFileThatCannotBeOpenedHasNoPlace) {
+  std::filesystem::remove(File(file));
+  std::filesystem::create_directory(File(file));
+  EXPECT_EQ(Only("unreadable")["line"], 0);
+  EXPECT_EQ(Do({"check"}).output.find("line 0"), std::string::npos);
+}
+
+TEST_F(CheckTest, AnIndexThatIsNoFileIsUnreadable) {
+  std::filesystem::remove(File(file + "I"));
+  std::filesystem::create_directory(File(file + "I"));
+  Only("index-unreadable");
+}
+
+TEST_F(CheckTest, NamesAreComparedAsTheEditorComparesThem) {
+  int number = 0;
+  for (const char* name : {"s", "T", "\xC5\xBF"}) {  // the last is an s of old prints
+    const std::string id = "x" + std::to_string(++number);
+    Write(id + "." + name + ".xdct", "<main><id>" + id + "</id><name>" + name + "</name></main>");
+  }
+  std::string twins;
+  for (const Json& finding : Findings()) {
+    if (finding["kind"] == "duplicate-name") {
+      twins += finding["file"].get<std::string>().substr(0, 2) + " ";
+    }
+  }
+  EXPECT_EQ(twins, "x1 x3 ");
+}
+
+TEST_F(CheckTest, IdsOfPartsThatComeTwiceAreTold) {
+  Edit(station + ".xdct", "<conditions>",
+       "<conditions><condition><id>1</id><name>a</name></condition><condition><id>1</id><name>a</"
+       "name></condition>");
+  const auto findings = Findings();
+  ASSERT_EQ(Kinds(findings), "duplicate-part\nduplicate-part\n");
+  EXPECT_EQ(findings[0]["expected"], "id");
+  EXPECT_EQ(findings[0]["place"], "conditions");
+}
+
+TEST_F(CheckTest, TagsThatAreNoDatesAreNoDates) {
+  Edit(file, "<month1>", "<monthX><day1>none</day1></monthX><month1><dayZ>none</dayZ>");
+  EXPECT_TRUE(Findings(false).empty());
+}
+
+TEST_F(CheckTest, OnlyDevicesAreEntries) {
+  Edit("configuration.xml", "<devices>",
+       "<devices><extra><id>none</id><type>R$DISC</type></extra>");
+  EXPECT_TRUE(Findings(false).empty());
+}
+
+TEST_F(CheckTest, AGroupWithoutANameIsToldByItsNumber) {
+  Edit("configuration.xml", "<name>Transformer station</name>", "");
+  Edit("configuration.xml", "<id>b4f5b7a3-", "<id>00000000-");
+  const auto findings = Findings();
+  ASSERT_EQ(findings.size(), 2U);
+  EXPECT_EQ(findings[1]["place"], "deviceGroups/(group 1)");
+}
+
+TEST_F(CheckTest, TheUselessIndexOfANamedFileIsTold) {
+  Write(station + ".xdctI", "<hourTypes/>");
+  EXPECT_EQ(Kinds(Findings(true, {station})), "index-without-use\n");
 }
 
 TEST(Finding, EachKindHasItsNameAndItsSentenceInBothLanguages) {
   std::set<std::string> names;
-  for (int i = static_cast<int>(Word::Unreadable); i < static_cast<int>(Word::Count); ++i) {
-    const auto kind = static_cast<Word>(i);
+  for (int i = 0; i < static_cast<int>(FindingKind::Count); ++i) {
+    const auto kind = static_cast<FindingKind>(i);
     EXPECT_TRUE(names.insert(KindName(kind)).second) << i;
-    EXPECT_STRNE(KindName(kind), "") << i;
     const Finding finding{
         .kind = kind, .file = L"f", .place = L"p", .value = L"v", .expected = L"e"};
     EXPECT_NE(Sentence(finding, qv::Language::Spanish), Sentence(finding, qv::Language::English));

@@ -37,14 +37,15 @@ inline Ended Call(const std::vector<std::string>& arguments, const std::string& 
   std::ostringstream out;
   std::ostringstream err;
   const std::filesystem::path languages = LANGUAGES_FOLDER;
-  const Surroundings surroundings{in,
-                                  out,
-                                  err,
-                                  atTerminal,
-                                  atTerminal,
-                                  atTerminal,
-                                  qv::Language::English,
-                                  (languages / "").wstring()};
+  const Surroundings surroundings{.in = in,
+                                  .out = out,
+                                  .err = err,
+                                  .canAsk = atTerminal,
+                                  .showsProgress = atTerminal,
+                                  .coloursOutput = atTerminal,
+                                  .coloursErrors = false,
+                                  .language = qv::Language::English,
+                                  .languages = (languages / "").wstring()};
   const int status = Run(std::get<Arguments>(call), surroundings);
   return {status, out.str(), err.str()};
 }

@@ -37,11 +37,60 @@ class ProcessTest : public CommandLine {
   qv::TemporaryDirectory scripts;
 };
 
+/// The verbs whose output is the same each time, as text and as JSON.
 TEST_F(ProcessTest, PrintsWhatTheCallPrints) {
-  const Ended ended = Bash("\"$QVDISC\" list --installation \"$DIR\"");
-  EXPECT_EQ(ended.status, 0);
-  EXPECT_EQ(ended.output, Do({"list"}).output);
-  EXPECT_EQ(ended.errors, "");
+  const std::vector<std::vector<std::string>> calls = {{"list"},
+                                                       {"show", dayAndNight},
+                                                       {"show", station},
+                                                       {"copy", station, dayAndNight},
+                                                       {"index", tariff2},
+                                                       {"check"},
+                                                       {"check", station},
+                                                       {"remove", station, "--no"},
+                                                       {"add", "--name", "a.b"},
+                                                       {"modify", "none", "--name", "n"},
+                                                       {"paste"}};
+  for (auto call : calls) {
+    for (const bool json : {false, true}) {
+      if (json) {
+        call.push_back("--json");
+      }
+      std::string line = "\"$QVDISC\"";
+      for (const std::string& word : call) {
+        line += " '" + word + "'";
+      }
+      const Ended expected = Do(call);
+      const Ended ended = Bash(line + " --installation \"$DIR\" </dev/null");
+      EXPECT_EQ(ended.status, expected.status) << line;
+      EXPECT_EQ(ended.output, expected.output) << line;
+      EXPECT_EQ(ended.errors, expected.errors) << line;
+    }
+  }
+}
+
+TEST_F(ProcessTest, RunsFromADirectoryOfAnyName) {
+  const Ended ended = Bash(
+      "mkdir -p \"$DIR/ñ q/bin\" \"$DIR/ñ q/languages\"\n"
+      "cp \"$QVDISC\" \"$DIR/ñ q/bin\"; cp '" LANGUAGES_FOLDER
+      "'/*.txt \"$DIR/ñ q/languages\"\n"
+      "LD_LIBRARY_PATH=$(dirname \"$QVDISC\")/../lib \"$DIR/ñ q/bin/qvdisc\" list --installation "
+      "\"$DIR\"");
+  EXPECT_EQ(ended.status, 0) << ended.errors;
+}
+
+TEST_F(ProcessTest, AConfigurationThatTheDiskHasNoRoomForIsGivenBack) {
+  const Ended ended = Bash(
+      "ulimit -f 2\n"
+      "\"$QVDISC\" remove 'Day and night' --yes --installation \"$DIR\"");
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_THAT(ended.output, testing::StartsWith("<?xml"));
+  EXPECT_THAT(ended.output, HasSubstr("</configuration>"));
+  EXPECT_THAT(ended.errors, HasSubstr("its content is written to standard output"));
+}
+
+TEST_F(ProcessTest, HelpThatCannotBeWrittenIsAFailure) {
+  EXPECT_EQ(Bash("\"$QVDISC\" --help >/dev/full").status, 1);
+  EXPECT_EQ(Bash("\"$QVDISC\" --manual-page >/dev/full").status, 1);
 }
 
 TEST_F(ProcessTest, TheLocaleChoosesTheLanguage) {
@@ -99,8 +148,11 @@ TEST_F(ProcessTest, BashCompletesVerbsOptionsValuesAndDiscriminators) {
   EXPECT_EQ(Bash(complete + "complete_line qvdisc modify --type S").output, "SLOTS\n");
   EXPECT_EQ(Bash(complete + "complete_line qvdisc list --installation \"${DIR%?}\"").output,
             directory.Path().string() + "\n");
-  EXPECT_EQ(Bash(complete + "complete_line qvdisc show --installation \"$DIR\" 3cb").output,
-            "3cb7ab9e-fc2c-4de8-882f-a8ed7fb19e6b.Day\\ and\\ night\n");
+  for (const char* installation : {"--installation \"$DIR\"", "--installation = \"'$DIR'\""}) {
+    EXPECT_EQ(Bash(complete + "complete_line qvdisc show " + installation + " 3cb").output,
+              dayAndNight + "\n");
+  }
+  EXPECT_EQ(Bash(complete + "complete_line qvdisc modify --type = C").output, "CONDITIONS\n");
 }
 
 TEST_F(ProcessTest, LinksNoQt) {

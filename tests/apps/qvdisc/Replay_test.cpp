@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <map>
+#include <nlohmann/json.hpp>
 #include <random>
 
 #include "discriminator/DiscriminatorList.h"
@@ -34,6 +35,8 @@ class Rules {
  public:
   explicit Rules(const std::filesystem::path& directory)
       : m_setup(directory.wstring(), L"", 0), m_configuration(m_mainCfg) {}
+
+  const std::vector<int>& Notices() const { return m_fake.guids.notices; }
 
   void Do(const Step& step) {
     EXPECT_NE(m_configuration.Load(m_setup.CfgPath().ToView()), qv::Configuration::Loaded::Foreign);
@@ -115,9 +118,12 @@ class Program : public CommandLine {
         return;
       }
       default:
-        EXPECT_EQ(Do({"paste"}, m_payload).status, 0);
+        return Succeed({"paste"}, m_payload);
     }
   }
+
+  /// All notices of the calls so far.
+  std::vector<int> notices;
 
  private:
   static std::vector<std::string> Joined(std::vector<std::string> a,
@@ -126,9 +132,12 @@ class Program : public CommandLine {
     return a;
   }
 
-  void Succeed(const std::vector<std::string>& call) const {
-    const Ended ended = Do(call);
+  void Succeed(std::vector<std::string> call, const std::string& input = {}) {
+    call.push_back("--json");
+    const Ended ended = Do(call, input);
     EXPECT_EQ(ended.status, 0) << ended.errors;
+    const auto told = nlohmann::json::parse(ended.output)["notices"];
+    notices.insert(notices.end(), told.begin(), told.end());
   }
 
   std::string m_payload;
@@ -227,6 +236,7 @@ TEST(Replay, TheCommandLineLeavesTheFilesThatTheRulesLeave) {
                                       << step.name << " " << step.newName);
       program.Perform(step);
       rules.Do(step);
+      EXPECT_EQ(program.notices, rules.Notices());
       EXPECT_EQ(Comparable(program.directory.Path()), Comparable(untouched.directory.Path()));
     }
   }

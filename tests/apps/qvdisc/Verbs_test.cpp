@@ -170,6 +170,30 @@ TEST_F(VerbsTest, ModifyRenamesAndSwitchesTheType) {
   EXPECT_THAT(file, Not(HasSubstr("<hourTypes>")));
 }
 
+TEST_F(VerbsTest, ATypeOfAnotherWordIsReplaced) {
+  Write("x.odd.xdct",
+        "<main><id>x</id><name>odd</name><type>FOO</type><conditions><condition><id>c</id>"
+        "</condition></conditions></main>");
+  EXPECT_EQ(Do({"modify", "odd", "--type", "CONDITIONS"}).status, 0);
+  EXPECT_THAT(Read("x.odd.xdct"), HasSubstr("<type>CONDITIONS</type>"));
+  EXPECT_THAT(Read("x.odd.xdct"), HasSubstr("<id>c</id>"));
+}
+
+TEST_F(VerbsTest, NamesInBracketsAreNames) {
+  const std::vector<std::string> names = {"[a,b]", "a", "b", "[]"};
+  for (const std::string& name : names) {
+    EXPECT_EQ(Do({"add", "--name", name}).status, 0) << name;
+  }
+  EXPECT_EQ(DoJson({"show", "[a,b]"})["document"]["name"], "[a,b]");
+  EXPECT_EQ(Do({"remove", "--yes", "[a,b]", "[]"}).status, 0);
+  EXPECT_EQ(Names(DoJson({"list"})).size(), 6U);
+  EXPECT_EQ(Do({"check", "[]"}).status, 1);
+}
+
+TEST_F(VerbsTest, TheSameDiscriminatorTwiceIsOne) {
+  EXPECT_EQ(DoJson({"remove", "--yes", dayAndNight, "Day and night"})["notices"], Json({5, 8}));
+}
+
 TEST_F(VerbsTest, ModifyWithoutAChangeStillWritesAndHasToSave) {
   const Json json = DoJson({"modify", "Day and night"});
   EXPECT_EQ(json["notices"], Json::array());
@@ -182,9 +206,9 @@ TEST_F(VerbsTest, WhatCannotBeSavedIsGivenBack) {
   const Json json = DoJson({"modify", tariff2, "--description", "changed"});
   EXPECT_EQ(json["status"], 1);
   EXPECT_EQ(json["texts"][0]["number"], 32362);
-  EXPECT_THAT(std::string(json["payload"]), HasSubstr("<description>changed</description>"));
+  EXPECT_THAT(std::string(json["unsaved"]), HasSubstr("<description>changed</description>"));
   EXPECT_EQ(Read(tariff2 + ".xdct"), old);
-  const Ended pasted = Do({"paste"}, json["payload"]);
+  const Ended pasted = Do({"paste"}, json["unsaved"]);
   EXPECT_EQ(pasted.status, 0);
   EXPECT_THAT(Do({"list"}).output, HasSubstr("Tariff 2-0TD 2026_1"));
 }
@@ -249,7 +273,10 @@ TEST_F(VerbsTest, CopyAndPasteGoThroughAPipe) {
 TEST_F(VerbsTest, ForeignInputIsRefused) {
   for (const std::string& input :
        {std::string(), std::string("hello"), std::string("<main/>"), std::string("\0\0\xff", 3),
-        std::string("<discriminatorClipboard>"), std::string(1 << 20, '<')}) {
+        std::string("<discriminatorClipboard>"), std::string(1 << 20, '<'),
+        std::string("<discriminatorClipboard/>"),
+        std::string("<discriminatorClipboard><discriminator><main/></discriminator>"
+                    "</discriminatorClipboard>")}) {
     const Ended ended = Do({"paste"}, input);
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.errors, "qvdisc: Standard input holds no discriminators\n");
@@ -285,7 +312,7 @@ TEST_F(VerbsTest, AnIndexThatCannotBeWrittenIsAFailure) {
   std::filesystem::create_directory(File(dayAndNight + ".xdctI"));
   const Ended ended = Do({"index"});
   EXPECT_EQ(ended.status, 1);
-  EXPECT_THAT(ended.errors, HasSubstr("“Day and night” could not be written"));
+  EXPECT_THAT(ended.errors, HasSubstr(dayAndNight + "” could not be written"));
 }
 
 TEST_F(VerbsTest, ABrokenOrForeignConfigurationIsRefused) {
@@ -308,6 +335,10 @@ TEST_F(VerbsTest, AConfigurationThatCannotBeSavedIsTold) {
   EXPECT_EQ(json["hostHasToSave"], true);
   EXPECT_EQ(json["saved"], false);
   EXPECT_THAT(std::string(json["errors"][0]), HasSubstr("could not be saved"));
+  const std::string unsaved = json["unsavedConfiguration"];
+  EXPECT_THAT(unsaved, testing::StartsWith("<?xml"));
+  EXPECT_THAT(unsaved, Not(HasSubstr("3cb7ab9e")));
+  EXPECT_THAT(unsaved, HasSubstr("<commSystem>"));
 }
 
 TEST_F(VerbsTest, ReadingManyFilesShowsALineOnATerminalAndTakesItAway) {
