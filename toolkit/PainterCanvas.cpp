@@ -1,0 +1,133 @@
+#include "toolkit/PainterCanvas.h"
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <cstdlib>
+
+#include "toolkit/PaintBox.h"
+#include "toolkit/Strings.h"
+
+namespace qv {
+namespace {
+
+QFont FontOfPixels(int pixels) {
+  QFont font;
+  font.setFamilies(QGuiApplication::font().families());
+  font.setStyleHint(QFont::SansSerif);
+  font.setWeight(QFont::Normal);
+  font.setStyle(QFont::StyleNormal);
+  font.setPixelSize(pixels);
+  return font;
+}
+
+int HeightOf(const QFontMetrics& metrics) { return metrics.ascent() + metrics.descent(); }
+
+/// The largest font that is at most `height` high. Its size in pixels is less than its height.
+QFont FontOfHeight(int height) {
+  for (int pixels = height; pixels > 1; --pixels) {
+    const QFont font = FontOfPixels(pixels);
+    if (HeightOf(QFontMetrics(font)) <= height) {
+      return font;
+    }
+  }
+  return FontOfPixels(1);
+}
+
+/// `area` without an outline of one pixel.
+Rect Inside(const Rect& area) {
+  return {area.left + 1, area.top + 1, area.right - 1, area.bottom - 1};
+}
+
+/// How many pixels a line has that ends before `to`.
+int PixelsOfLine(Point from, Point to) {
+  return std::max(std::abs(to.x - from.x), std::abs(to.y - from.y));
+}
+
+/// The middle of the last of them. It lies on the line itself, so that the slope stays.
+QPointF LastPixel(Point from, Point to) {
+  const double pixels = PixelsOfLine(from, to);
+  const QPointF way(to.x - from.x, to.y - from.y);
+  return QPointF(from.x, from.y) + way * ((pixels - 1) / pixels);
+}
+
+}  // namespace
+
+PainterCanvas::PainterCanvas(QPainter& painter) : m_painter(painter) {
+  m_painter.save();
+  m_painter.setRenderHint(QPainter::Antialiasing, false);
+  if (m_painter.deviceTransform().isScaling()) {
+    // A scaled pen goes through the corners of pixels; an unscaled one is rounded to their middles.
+    m_middle = 0.5;
+    m_painter.translate(m_middle, m_middle);
+  }
+}
+
+PainterCanvas::~PainterCanvas() { m_painter.restore(); }
+
+void PainterCanvas::Fill(const Rect& area, Colour brush) {
+  if (!area.IsEmpty()) {
+    const QRectF pixels(area.left, area.top, area.Width(), area.Height());
+    m_painter.fillRect(pixels.translated(-m_middle, -m_middle), ColourOf(brush));
+  }
+}
+
+void PainterCanvas::Rectangle(const Rect& area, Colour pen, Colour brush) {
+  Fill(area, pen);
+  Fill(Inside(area), brush);
+}
+
+void PainterCanvas::Ellipse(const Rect& area, Colour pen, Colour brush) {
+  if (area.Width() < 2 || area.Height() < 2) {
+    Fill(area, pen);
+    return;
+  }
+  m_painter.setPen(QPen(ColourOf(pen), 1));
+  m_painter.setBrush(ColourOf(brush));
+  // The painter's ellipse reaches one pixel further than the size that it is given.
+  m_painter.drawEllipse(area.left, area.top, area.Width() - 1, area.Height() - 1);
+}
+
+void PainterCanvas::Polygon(std::span<const Point> points, Colour pen, Colour brush) {
+  QPolygon polygon;
+  polygon.reserve(static_cast<qsizetype>(points.size()));
+  for (const Point point : points) {
+    polygon.append(QPoint(point.x, point.y));
+  }
+  m_painter.setPen(QPen(ColourOf(pen), 1));
+  m_painter.setBrush(ColourOf(brush));
+  m_painter.drawPolygon(polygon);
+}
+
+void PainterCanvas::Line(Point from, Point to, Colour pen) {
+  const int pixels = PixelsOfLine(from, to);
+  if (pixels == 1) {
+    // Between two ends in one place a scaled pen would draw both their caps.
+    Fill({from.x, from.y, from.x + 1, from.y + 1}, pen);
+  } else if (pixels > 1) {
+    m_painter.setPen(QPen(ColourOf(pen), 1));
+    m_painter.drawLine(QPointF(from.x, from.y), LastPixel(from, to));
+  }
+}
+
+void PainterCanvas::Text(Point at, std::wstring_view text, int height, Colour colour) {
+  const Face& face = FaceOf(height);
+  const int baseline = (height - HeightOf(face.metrics)) / 2 + face.metrics.ascent();
+  const QPointF start(at.x - m_middle, at.y + baseline - m_middle);
+  m_painter.setFont(face.font);
+  m_painter.setPen(ColourOf(colour));
+  m_painter.drawText(start, ToQString(text));
+}
+
+Extent PainterCanvas::TextExtent(std::wstring_view text, int height) const {
+  return {FaceOf(height).metrics.horizontalAdvance(ToQString(text)), height};
+}
+
+const PainterCanvas::Face& PainterCanvas::FaceOf(int height) const {
+  if (!m_face || m_face->height != height) {
+    const QFont font = FontOfHeight(height);
+    m_face = Face{height, font, QFontMetrics(font)};
+  }
+  return *m_face;
+}
+
+}  // namespace qv

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QPainter>
+#include <optional>
+
+#include "tools/Canvas.h"
+
+namespace qv {
+
+/// A canvas on a painter. Its pixels are the painter's units: on a screen of double density each is
+/// two by two dots, and slopes, curves and letters are drawn with every dot.
+class PainterCanvas : public Canvas {
+ public:
+  /// Draws with `painter`, which must be active as long as this object lives and is then as it was
+  /// before.
+  explicit PainterCanvas(QPainter& painter);
+  ~PainterCanvas() override;
+
+  void Fill(const Rect& area, Colour brush) override;
+  void Rectangle(const Rect& area, Colour pen, Colour brush) override;
+  void Ellipse(const Rect& area, Colour pen, Colour brush) override;
+  void Polygon(std::span<const Point> points, Colour pen, Colour brush) override;
+  void Line(Point from, Point to, Colour pen) override;
+
+  /// In the application's face. Where it has no size that is exactly `height` high, the largest
+  /// that fits stands in the middle of that height.
+  void Text(Point at, std::wstring_view text, int height, Colour colour) override;
+  Extent TextExtent(std::wstring_view text, int height) const override;
+
+ private:
+  struct Face {
+    int height;  ///< that it was asked for
+    QFont font;
+    QFontMetrics metrics;
+  };
+
+  const Face& FaceOf(int height) const;
+
+  QPainter& m_painter;
+  double m_middle = 0;  ///< from a pixel's corner to the place through which its pen goes
+  /// The one that was used last, since texts of one height follow each other.
+  mutable std::optional<Face> m_face;
+};
+
+}  // namespace qv

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace qv {
+
+/// A place on a canvas: to the right and downwards from its upper left corner.
+struct Point {
+  int x = 0;
+  int y = 0;
+
+  friend bool operator==(const Point&, const Point&) = default;
+};
+
+/// The room that a text takes.
+struct Extent {
+  int cx = 0;
+  int cy = 0;
+
+  friend bool operator==(const Extent&, const Extent&) = default;
+};
+
+/// A rectangle whose right and bottom edges are not part of it.
+struct Rect {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+
+  int Width() const { return right - left; }
+  int Height() const { return bottom - top; }
+  bool IsEmpty() const { return right <= left || bottom <= top; }
+  friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+/// Takes a picture as a short list of primitives, so that what is drawn can be computed and tested
+/// without a window.
+///
+/// Units are pixels. Colours are numbers with red in the lowest byte, then green, then blue. Pens
+/// are solid and one pixel wide, brushes solid. An outline lies inside the rectangle that it is
+/// given for; what is empty draws nothing.
+class Canvas {
+ public:
+  using Colour = std::uint32_t;
+
+  Canvas() = default;
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+  virtual ~Canvas() = default;
+
+  /// A rectangle without an outline.
+  virtual void Fill(const Rect& area, Colour brush) = 0;
+  virtual void Rectangle(const Rect& area, Colour pen, Colour brush) = 0;
+  virtual void Ellipse(const Rect& area, Colour pen, Colour brush) = 0;
+
+  /// The closed polygon of these points, which belong to its outline; where it covers itself an
+  /// even number of times it is not filled. Two points are a line with both its ends.
+  virtual void Polygon(std::span<const Point> points, Colour pen, Colour brush) = 0;
+
+  /// From `from` up to `to`, which is not drawn.
+  virtual void Line(Point from, Point to, Colour pen) = 0;
+
+  /// A line of text in the upright sans-serif face whose ascent plus descent is `height`; `at` is
+  /// the upper left corner of its extent. What lies behind it stays.
+  virtual void Text(Point at, std::wstring_view text, int height, Colour colour) = 0;
+
+  /// The room that `Text` takes.
+  virtual Extent TextExtent(std::wstring_view text, int height) const = 0;
+};
+
+}  // namespace qv
