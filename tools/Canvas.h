@@ -70,4 +70,13 @@ class Canvas {
   virtual Extent TextExtent(std::wstring_view text, int height) const = 0;
 };
 
+/// Black, or white if `ground` is dark: what text and marks are drawn with on it. The highest byte
+/// of a colour means nothing.
+constexpr Canvas::Colour InkOn(Canvas::Colour ground) {
+  // How light a colour looks, by the weights of television.
+  const Canvas::Colour lightness =
+      299 * (ground & 0xFF) + 587 * (ground >> 8 & 0xFF) + 114 * (ground >> 16 & 0xFF);
+  return lightness < 1000 * 0xFF / 2 ? 0xFFFFFF : 0x000000;
+}
+
 }  // namespace qv
