@@ -1,0 +1,109 @@
+#include "timestructure/DayDial.h"
+
+#include <string>
+
+#include "discriminator/Fields.h"
+#include "discriminator/ValueForms.h"
+#include "tools/Numbers.h"
+
+namespace qv {
+namespace {
+
+constexpr Canvas::Colour red = 0x0000FF;
+constexpr std::uint8_t ringHasColour = 1;
+constexpr int labelHeight = 14;
+
+/// The colour of a slot's hour type. It is read as it stands: nothing folds its case.
+Canvas::Colour ColourOfSlot(const XmlNode& slot, const XmlNode* hourTypes) {
+  const XmlNode* hour =
+      hourTypes ? hourTypes->NodeV(L"/hour?id=%s?", slot.Value(tag::Id, L"")) : nullptr;
+  if (!hour) {
+    return red;
+  }
+  const QVWideString text = hour->Value(tag::Color, L"");
+  return static_cast<Canvas::Colour>(HtoL(text, text.Length()));
+}
+
+void DrawHour(Canvas& canvas, const Rect& face, int firstHour, int i, Canvas::Colour ink) {
+  const HourMark mark = HourMarkOf(i, face);
+  canvas.Line(mark.centre, mark.rim, ink);
+  const std::wstring label = std::to_wstring(firstHour + i);
+  const Extent extent = canvas.TextExtent(label, labelHeight);
+  canvas.Text(LabelPlace(i, mark.rim, extent), label, labelHeight, ink);
+}
+
+}  // namespace
+
+void DayDial::Setup(const std::uint8_t* map, int count) {
+  ResetSlots();
+  int start = -1;
+  int end = -1;
+  for (int i = 0; map && i < count; ++i) {
+    if (map[i] == 0) {
+      end = i;
+      start = start < 0 ? i : start;
+    } else if (map[i] == 1 && start >= 0) {
+      m_slots.push_back({start, end + 1, red});
+      start = -1;
+    }
+  }
+  if (start >= 0) {
+    // A run that is still open ends on its last minute, not behind it.
+    m_slots.push_back({start, end, red});
+  }
+}
+
+void DayDial::Setup(const XmlNode* day, const XmlNode* hourTypes) {
+  ResetSlots();
+  if (!day) {
+    return;
+  }
+  for (auto child = day->ChildsBegin(); child != day->ChildsEnd(); ++child) {
+    const XmlNode& node = **child;
+    if (node.Tag() == tag::Slot) {
+      m_slots.push_back({TimeOf(node.Value(tag::From, L"")).Minutes(),
+                         TimeOf(node.Value(tag::To, L"")).Minutes(),
+                         ColourOfSlot(node, hourTypes)});
+    }
+  }
+}
+
+void DayDial::Paint(Canvas& canvas, int width, int height,
+                    const DialSurroundings& surroundings) const {
+  canvas.Fill({0, 0, width, height}, surroundings.ground);
+  const DialHalves halves = HalvesOf(width, height);
+  DrawFace(canvas, halves.left, 0, OnLeftFace, surroundings);
+  DrawFace(canvas, halves.right, hoursOfFace, OnRightFace, surroundings);
+}
+
+void DayDial::DrawFace(Canvas& canvas, const Rect& half, int firstHour, Sector sectorOf,
+                       const DialSurroundings& surroundings) const {
+  const Rect face = CalcViewport(half);
+  if (face.IsEmpty()) {
+    return;
+  }
+  DrawExternCircle(canvas, face, firstHour, surroundings);
+  if (DiscOf(face).IsEmpty()) {
+    return;
+  }
+  for (const STagSlot& slot : m_slots) {
+    if (const auto minutes = sectorOf(slot)) {
+      canvas.Polygon(CreatePolygon(*minutes, face), slot.color, slot.color);
+    }
+  }
+}
+
+void DayDial::DrawExternCircle(Canvas& canvas, const Rect& face, int firstHour,
+                               const DialSurroundings& surroundings) const {
+  canvas.Rectangle(face, surroundings.ground, surroundings.ground);
+  if (m_options & ringHasColour) {
+    canvas.Ellipse(face, m_color, m_color);
+  }
+  for (int i = 0; i < hoursOfFace; ++i) {
+    DrawHour(canvas, face, firstHour, i, surroundings.ink);
+  }
+  // Covers the marks but for their ends in the ring.
+  canvas.Ellipse(DiscOf(face), m_bkColor, m_bkColor);
+}
+
+}  // namespace qv

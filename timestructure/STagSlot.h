@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace qv {
+
+inline constexpr int minutesOfDay = 1440;
+
+/// A stretch of the day in one colour. Minutes count from 00:00 and should lie in 0 to 1440; what a
+/// file or a host gives is kept as it is.
+struct STagSlot {
+  int from = 0;             ///< first minute
+  int to = 0;               ///< end minute, exclusive
+  std::uint32_t color = 0;  ///< red in the lowest byte, then green, then blue
+
+  friend bool operator==(const STagSlot&, const STagSlot&) = default;
+};
+
+/// What of the slot lies in the day. Nothing, if it ends before it starts or lies outside; a slot
+/// of no length in the day is part of it.
+std::optional<STagSlot> DayPart(const STagSlot& slot);
+
+}  // namespace qv

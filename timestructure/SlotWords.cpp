@@ -1,0 +1,24 @@
+#include "timestructure/SlotWords.h"
+
+#include "discriminator/ValueForms.h"
+#include "tools/Format.h"
+
+namespace qv {
+namespace {
+
+QVWideString Time(int minute) { return TimeText({minute / 60, minute % 60}); }
+
+}  // namespace
+
+std::wstring SlotsInWords(const std::vector<STagSlot>& slots, std::wstring_view form) {
+  std::wstring words;
+  for (const STagSlot& slot : slots) {
+    if (const auto part = DayPart(slot)) {
+      words += words.empty() ? L"" : L"; ";
+      words += Format(form, {Time(part->from), Time(part->to)});
+    }
+  }
+  return words;
+}
+
+}  // namespace qv
