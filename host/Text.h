@@ -79,6 +79,11 @@ enum class Text : unsigned {
   ModifySlotTitle = 474,  ///< title, for an existing slot
   NoHourType = 480,       ///< message: there is no hour type to choose
 
+  // Day dial
+  DayDialName = 60006,   ///< name, for people who can't see it
+  DayDialSlot = 60007,   ///< one slot in its description: from %s to %s
+  DayDialEmpty = 60008,  ///< description of a day without slots
+
   // Calendar; the names of its months are those of the fast selection
   CalendarTitle = 919,        ///< title
   FastSelectionButton = 433,  ///< button that opens the fast selection

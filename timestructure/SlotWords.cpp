@@ -10,9 +10,9 @@ QVWideString Time(int minute) { return TimeText({minute / 60, minute % 60}); }
 
 }  // namespace
 
-std::wstring SlotsInWords(const std::vector<STagSlot>& slots, std::wstring_view form) {
+std::wstring SlotsInWords(const std::vector<STagSlot>& day, std::wstring_view form) {
   std::wstring words;
-  for (const STagSlot& slot : slots) {
+  for (const STagSlot& slot : day) {
     if (const auto part = DayPart(slot)) {
       words += words.empty() ? L"" : L"; ";
       words += Format(form, {Time(part->from), Time(part->to)});

@@ -1,0 +1,232 @@
+#include "timestructure/ui/QVDayCtrl.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPaintEvent>
+#include <vector>
+
+#include "tests/toolkit/PictureFiles.h"
+
+namespace {
+
+constexpr COLORREF red = 0x0000FF;
+const QColor ground(240, 240, 240);
+const QColor darkGround(43, 45, 48);
+
+QPalette PaletteOn(const QColor& colour) {
+  QPalette palette;
+  palette.setColor(QPalette::Window, colour);
+  return palette;
+}
+
+/// The dial of a size on a ground, as it is painted at this density.
+QImage PictureOf(QVDayCtrl& dial, QSize size, double density = 1, const QColor& colour = ground) {
+  dial.resize(size);
+  dial.setPalette(PaletteOn(colour));
+  QImage image((QSizeF(size) * density).toSize(), QImage::Format_RGB32);
+  image.setDevicePixelRatio(density);
+  image.fill(Qt::magenta);
+  dial.render(&image);
+  return image;
+}
+
+void SetupWholeDay(QVDayCtrl& dial) {
+  const std::vector<BYTE> map(1441, 0);
+  dial.Setup(map.data(), static_cast<int>(map.size()));
+}
+
+TEST(QVDayCtrl, OfAnySizeCoversAllOfItself) {
+  for (const double density : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+    for (const QSize size : {QSize(1, 1), QSize(60, 40), QSize(200, 100), QSize(301, 177)}) {
+      QVDayCtrl dial;
+      EXPECT_EQ(qv::CountPixels(PictureOf(dial, size, density), Qt::magenta), 0) << density;
+    }
+  }
+}
+
+TEST(QVDayCtrl, WithoutSizePaintsNothing) {
+  QVDayCtrl dial;
+  dial.resize(0, 0);
+  QImage image(4, 4, QImage::Format_RGB32);
+  image.fill(Qt::magenta);
+  dial.render(&image);
+  EXPECT_EQ(qv::CountPixels(image, Qt::magenta), 16);
+}
+
+TEST(QVDayCtrl, ShowsTwoGreenDiscsAtFirst) {
+  QVDayCtrl dial;
+  const QImage image = PictureOf(dial, {200, 100});
+  EXPECT_EQ(image.pixelColor(46, 49), QColor(Qt::green));
+  EXPECT_EQ(image.pixelColor(153, 49), QColor(Qt::green));
+  EXPECT_EQ(image.pixelColor(0, 0), ground);
+  EXPECT_EQ(image.pixelColor(18, 40), ground) << "the ring";
+}
+
+TEST(QVDayCtrl, ShowsTheColoursThatItIsGiven) {
+  QVDayCtrl dial;
+  dial.SetBkColor(0xFF0000);
+  dial.SetColor(0x00FFFF);
+  dial.Setup(BYTE{1});
+  const QImage image = PictureOf(dial, {200, 100});
+  EXPECT_EQ(image.pixelColor(46, 45), QColor(Qt::blue));
+  EXPECT_EQ(image.pixelColor(18, 40), QColor(Qt::yellow));
+  EXPECT_EQ(image.pixelColor(14, 17), ground) << "the corner of the face";
+}
+
+/// The pixels of the disc of a face in the middle of `half`.
+QRect DiscIn(const QRect& half) {
+  const int side = std::min(half.width(), half.height()) - 2 * 14 - 2 * 8;
+  return {half.center() - QPoint(side / 2, side / 2), QSize(side, side)};
+}
+
+TEST(QVDayCtrl, AWholeDayFillsBothDiscsAtEverySize) {
+  for (const double density : {1.0, 2.0}) {
+    for (const QSize size : {QSize(200, 100), QSize(150, 200), QSize(600, 240), QSize(2000, 900)}) {
+      QVDayCtrl dial;
+      SetupWholeDay(dial);
+      const QImage image = PictureOf(dial, size, density);
+      const double disc = DiscIn({0, 0, size.width() / 2 - 7, size.height()}).width() * density;
+      // Green is left at most where the many-sided sector misses the disc by a pixel.
+      EXPECT_NEAR(qv::CountPixels(image, Qt::red), 2 * 0.7854 * disc * disc, 8 * density * disc);
+      EXPECT_LT(qv::CountPixels(image, Qt::green), 2 * disc);
+    }
+  }
+}
+
+TEST(QVDayCtrl, HourMarksStayVisibleAroundAWholeDay) {
+  QVDayCtrl dial;
+  SetupWholeDay(dial);
+  const QImage image = PictureOf(dial, {200, 100});
+  for (int x = 72; x < 79; ++x) {
+    EXPECT_EQ(image.pixelColor(x, 49), QColor(Qt::black)) << x;
+  }
+  EXPECT_EQ(image.pixelColor(79, 49), ground) << "the end of a mark is not part of it";
+}
+
+TEST(QVDayCtrl, MorningIsOnTheLeftAndAfternoonOnTheRight) {
+  std::vector<BYTE> map(1441, 1);
+  std::fill(map.begin() + 180, map.begin() + 360, BYTE{0});
+  std::fill(map.begin() + 1260, map.begin() + 1440, BYTE{0});
+  QVDayCtrl dial;
+  dial.Setup(map.data(), static_cast<int>(map.size()));
+  const QImage image = PictureOf(dial, {200, 100});
+  const QPoint fourOnTheLeft(58, 58);
+  const QPoint tenOnTheRight(143, 42);
+  EXPECT_EQ(image.pixelColor(fourOnTheLeft), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(tenOnTheRight), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(fourOnTheLeft + QPoint(107, 0)), QColor(Qt::green));
+  EXPECT_EQ(image.pixelColor(tenOnTheRight - QPoint(107, 0)), QColor(Qt::green));
+}
+
+TEST(QVDayCtrl, InkIsLegibleOnItsGround) {
+  QVDayCtrl dial;
+  const QImage light = PictureOf(dial, {200, 100}, 1, ground);
+  EXPECT_EQ(light.pixelColor(75, 49), QColor(Qt::black));
+  EXPECT_EQ(qv::CountPixels(light, Qt::white), 0);
+  const QImage dark = PictureOf(dial, {200, 100}, 1, darkGround);
+  EXPECT_EQ(dark.pixelColor(75, 49), QColor(Qt::white));
+  EXPECT_EQ(dark.pixelColor(0, 0), darkGround);
+  EXPECT_EQ(qv::CountPixels(dark, Qt::black), 0);
+}
+
+TEST(QVDayCtrl, IsOnTheGroundOfItsParent) {
+  QWidget parent;
+  parent.setPalette(PaletteOn(darkGround));
+  auto* dial = new QVDayCtrl(&parent);
+  dial->resize(200, 100);
+  EXPECT_EQ(dial->grab().toImage().pixelColor(0, 0), darkGround);
+}
+
+TEST(QVDayCtrl, IsDrawnWithEveryDotOfADenseScreen) {
+  QVDayCtrl dial;
+  SetupWholeDay(dial);
+  const QImage dense = PictureOf(dial, {200, 100}, 2);
+  QImage enlarged = PictureOf(dial, {200, 100}).scaled(400, 200);
+  EXPECT_EQ(dense.pixelColor(150, 99), QColor(Qt::black)) << "a mark is two dots broad";
+  EXPECT_EQ(dense.pixelColor(150, 98), QColor(Qt::black));
+  int differing = 0;
+  for (int x = 0; x < 400; ++x) {
+    for (int y = 0; y < 200; ++y) {
+      differing += dense.pixelColor(x, y) == enlarged.pixelColor(x, y) ? 0 : 1;
+    }
+  }
+  EXPECT_GT(differing, 100);
+}
+
+TEST(QVDayCtrl, HasASizeOfItsOwn) {
+  const QVDayCtrl dial;
+  EXPECT_GT(dial.sizeHint().width(), 2 * 28);
+  EXPECT_GT(dial.sizeHint().height(), 28);
+}
+
+/// Counts the paint events of the widgets that it watches.
+class PaintCounter : public QObject {
+ public:
+  int paints = 0;
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    paints += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+};
+
+TEST(QVDayCtrl, SettersDontRepaint) {
+  QVDayCtrl dial;
+  dial.resize(200, 100);
+  dial.show();
+  QApplication::processEvents();
+  PaintCounter counter;
+  dial.installEventFilter(&counter);
+  dial.SetBkColor(0);
+  dial.SetColor(0);
+  dial.Setup(BYTE{1});
+  SetupWholeDay(dial);
+  dial.Setup(static_cast<const XmlDocument::XmlNode*>(nullptr), nullptr);
+  QApplication::processEvents();
+  EXPECT_EQ(counter.paints, 0);
+  dial.update();
+  QApplication::processEvents();
+  EXPECT_EQ(counter.paints, 1);
+}
+
+/// A window that refreshes its dial whenever it is painted.
+class RefreshingParent : public QWidget {
+ public:
+  QVDayCtrl* dial = new QVDayCtrl(this);
+
+ protected:
+  void paintEvent(QPaintEvent*) override { dial->update(); }
+};
+
+TEST(QVDayCtrl, IsNotPaintedForEverUnderAParentThatRefreshesIt) {
+  RefreshingParent parent;
+  parent.dial->setGeometry(10, 10, 200, 100);
+  parent.resize(220, 120);
+  parent.show();
+  PaintCounter counter;
+  parent.installEventFilter(&counter);
+  for (int round = 0; round < 20; ++round) {
+    QApplication::processEvents();
+  }
+  EXPECT_GT(counter.paints, 0);
+  EXPECT_LT(counter.paints, 5);
+}
+
+TEST(QVDayCtrl, TakesADayWithItsHourTypes) {
+  XmlDocument document;
+  ASSERT_TRUE(
+      document.Parse("<main><day><slot><id>a</id><from>00:00</from><to>24:00</to></slot></day>"
+                     "<hourTypes><hour><id>a</id><color>FF0000</color></hour></hourTypes></main>"));
+  const XmlDocument::XmlNode* root = document.Root();
+  QVDayCtrl dial;
+  dial.Setup(root->Node(L"day"), root->Node(L"hourTypes"));
+  EXPECT_EQ(PictureOf(dial, {200, 100}).pixelColor(40, 60), QColor(Qt::blue));
+  dial.Setup(root->Node(L"day"), nullptr);
+  EXPECT_EQ(PictureOf(dial, {200, 100}).pixelColor(40, 60), QColor(Qt::red));
+  dial.Setup(nullptr, root->Node(L"hourTypes"));
+  EXPECT_EQ(PictureOf(dial, {200, 100}).pixelColor(40, 60), QColor(Qt::green));
+}
+
+}  // namespace
