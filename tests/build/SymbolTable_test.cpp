@@ -55,4 +55,16 @@ TEST(SymbolTable, HoldsWhatAHostNeedsOfTheManagerDialog) {
   }
 }
 
+TEST(SymbolTable, HoldsWhatAHostNeedsOfTheDayDial) {
+  const auto symbols = ExportedSymbols();
+  for (const char* needed :
+       {"QVDayCtrl::QVDayCtrl(QWidget*)", "QVDayCtrl::~QVDayCtrl()",
+        "QVDayCtrl::SetBkColor(unsigned int)", "QVDayCtrl::SetColor(unsigned int)",
+        "QVDayCtrl::Setup(unsigned char)", "QVDayCtrl::Setup(unsigned char const*, int)",
+        "QVDayCtrl::Setup(qv::XmlNode const*, qv::XmlNode const*)", "QVDayCtrl::staticMetaObject",
+        "typeinfo for QVDayCtrl", "vtable for QVDayCtrl"}) {
+    EXPECT_NE(std::find(symbols.begin(), symbols.end(), needed), symbols.end()) << needed;
+  }
+}
+
 }  // namespace

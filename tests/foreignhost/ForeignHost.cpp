@@ -30,7 +30,7 @@ int RunModule(QLibrary& module) {
     return Fail(qPrintable(module.errorString()));
   }
   if (Call(module, "RunWithoutServices") != -1) {
-    return Fail("without services the result should be -1");
+    return Fail("without services the dial should paint and the manager's result be -1");
   }
   Setup setup;
   QVMainCfg mainCfg;

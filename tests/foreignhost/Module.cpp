@@ -1,5 +1,6 @@
 // The part of a foreign host that uses the library: it is loaded, run and unloaded again.
 #include <QApplication>
+#include <QImage>
 #include <QTimer>
 
 #include "library/QVDiscriminator.h"
@@ -16,13 +17,33 @@ int RunManager() {
   return manager.DoModal();
 }
 
+/// Whether the dial paints a day of one red slot.
+bool PaintsADay() {
+  const BYTE map[] = {0, 0, 1};
+  QVDayCtrl dial;
+  dial.resize(200, 100);
+  dial.Setup(BYTE{1});
+  dial.SetBkColor(0xFF0000);
+  dial.Setup(map, 3);
+  const QImage picture = dial.grab().toImage();
+  const double density = picture.devicePixelRatio();
+  return picture.pixelColor(QPoint(46, 26) * density) == QColor(Qt::red) &&
+         picture.pixelColor(QPoint(46, 60) * density) == QColor(Qt::blue);
+}
+
 }  // namespace
 
 /// Runs each exported class once; the number of those that didn't end as they should.
-extern "C" Q_DECL_EXPORT int RunExportedClasses() { return RunManager() == IDCANCEL ? 0 : 1; }
+extern "C" Q_DECL_EXPORT int RunExportedClasses() {
+  return (RunManager() == IDCANCEL ? 0 : 1) + (PaintsADay() ? 0 : 1);
+}
 
-/// Runs the manager while the host has nothing installed.
+/// Runs the manager while the host has nothing installed; what the dial does, which needs nothing,
+/// comes first.
 extern "C" Q_DECL_EXPORT int RunWithoutServices() {
+  if (!PaintsADay()) {
+    return -2;
+  }
   CDlgSetupDiscriminators manager(nullptr, nullptr);
   return manager.DoModal();
 }
