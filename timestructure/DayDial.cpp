@@ -10,6 +10,7 @@ namespace qv {
 namespace {
 
 constexpr Canvas::Colour red = 0x0000FF;
+constexpr Canvas::Colour black = 0x000000;
 constexpr std::uint8_t ringHasColour = 1;
 constexpr int labelHeight = 14;
 
@@ -24,12 +25,9 @@ Canvas::Colour ColourOfSlot(const XmlNode& slot, const XmlNode* hourTypes) {
   return static_cast<Canvas::Colour>(HtoL(text, text.Length()));
 }
 
-void DrawHour(Canvas& canvas, const Rect& face, int firstHour, int i, Canvas::Colour ink) {
-  const HourMark mark = HourMarkOf(i, face);
-  canvas.Line(mark.centre, mark.rim, ink);
-  const std::wstring label = std::to_wstring(firstHour + i);
+void DrawLabel(Canvas& canvas, int i, Point rim, const std::wstring& label, Canvas::Colour ink) {
   const Extent extent = canvas.TextExtent(label, labelHeight);
-  canvas.Text(LabelPlace(i, mark.rim, extent), label, labelHeight, ink);
+  canvas.Text(LabelPlace(i, rim, extent), label, labelHeight, ink);
 }
 
 }  // namespace
@@ -93,6 +91,12 @@ void DayDial::DrawFace(Canvas& canvas, const Rect& half, int firstHour, Sector s
   }
 }
 
+Canvas::Colour DayDial::MarkInk(const DialSurroundings& surroundings) const {
+  // A ring may be light on a dark ground, and the ink of the ground would vanish on it.
+  const bool isOnRing = m_options & ringHasColour;
+  return isOnRing && surroundings.ink != black ? InkOn(m_color) : surroundings.ink;
+}
+
 void DayDial::DrawExternCircle(Canvas& canvas, const Rect& face, int firstHour,
                                const DialSurroundings& surroundings) const {
   canvas.Rectangle(face, surroundings.ground, surroundings.ground);
@@ -100,7 +104,9 @@ void DayDial::DrawExternCircle(Canvas& canvas, const Rect& face, int firstHour,
     canvas.Ellipse(face, m_color, m_color);
   }
   for (int i = 0; i < hoursOfFace; ++i) {
-    DrawHour(canvas, face, firstHour, i, surroundings.ink);
+    const HourMark mark = HourMarkOf(i, face);
+    canvas.Line(mark.centre, mark.rim, MarkInk(surroundings));
+    DrawLabel(canvas, i, mark.rim, std::to_wstring(firstHour + i), surroundings.ink);
   }
   // Covers the marks but for their ends in the ring.
   canvas.Ellipse(DiscOf(face), m_bkColor, m_bkColor);

@@ -13,7 +13,7 @@ namespace qv {
 /// The colours of the surroundings in which a dial is drawn.
 struct DialSurroundings {
   Canvas::Colour ground = 0xF0F0F0;
-  Canvas::Colour ink = 0x000000;  ///< of marks and labels, legible on the ground
+  Canvas::Colour ink = 0x000000;  ///< of labels and marks: black, or white on a dark ground
 };
 
 /// One day as two clock faces, the left for 00:00 to 12:00 and the right for 12:00 to 24:00, in
@@ -45,13 +45,14 @@ class DayDial {
 
   /// Draws the dial into a canvas of this size, all of which it covers. A later slot covers an
   /// earlier one. Where there is no room for a face none is drawn, and in a face that is all ring
-  /// no slot.
+  /// no slot. In dark surroundings the marks on a light ring are black.
   void Paint(Canvas& canvas, int width, int height, const DialSurroundings& surroundings) const;
 
  private:
   using Sector = std::optional<FaceMinutes> (*)(const STagSlot&);
 
   void ResetSlots() { m_slots.clear(); }
+  Canvas::Colour MarkInk(const DialSurroundings& surroundings) const;
   void DrawFace(Canvas& canvas, const Rect& half, int firstHour, Sector sectorOf,
                 const DialSurroundings& surroundings) const;
   void DrawExternCircle(Canvas& canvas, const Rect& face, int firstHour,

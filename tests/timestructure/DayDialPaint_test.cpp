@@ -99,6 +99,26 @@ TEST(DayDialPaint, MarksAndLabelsAreInTheInkOfTheGround) {
   EXPECT_EQ(canvas.lines[3], "text 43,3 \"0\" height 14 colour FFFFFF");
 }
 
+/// The first mark of a dial with a ring of this colour.
+std::string MarkOnRing(Canvas::Colour ring, Canvas::Colour ground) {
+  DayDial dial;
+  dial.SetColor(ring);
+  dial.Setup(1);
+  RecordingCanvas canvas;
+  dial.Paint(canvas, 200, 100, {ground, InkOn(ground)});
+  return canvas.lines.at(3);
+}
+
+TEST(DayDialPaint, MarksInDarkSurroundingsAreLegibleOnTheirRing) {
+  EXPECT_EQ(MarkOnRing(0xFFFFFF, 0x302D2B), "line 46,49 46,17 pen 000000");
+  EXPECT_EQ(MarkOnRing(0x800000, 0x302D2B), "line 46,49 46,17 pen FFFFFF");
+}
+
+TEST(DayDialPaint, MarksInLightSurroundingsAreBlackOnAnyRing) {
+  EXPECT_EQ(MarkOnRing(0xFFFFFF, 0xF0F0F0), "line 46,49 46,17 pen 000000");
+  EXPECT_EQ(MarkOnRing(0x800000, 0xF0F0F0), "line 46,49 46,17 pen 000000");
+}
+
 TEST(DayDialPaint, ASlotOfNoLengthIsALineFromTheCentreToTheRim) {
   const auto canvas = Recorded(DialOf({{"05:00", "05:00"}}));
   ASSERT_EQ(canvas.polygons.size(), 1U);

@@ -14,8 +14,8 @@
 
 namespace {
 
-/// Two faces of 100 pixels with their labels.
-constexpr QSize naturalSize(270, 128);
+/// Two faces of 100 pixels with their labels, which are broader than the margin left to them.
+constexpr QSize naturalSize(280, 128);
 
 /// The host's wording, or nothing if it has none, which includes a host without texts.
 QString Words(Text text) {

@@ -155,10 +155,14 @@ TEST(QVDayCtrl, IsDrawnWithEveryDotOfADenseScreen) {
   EXPECT_GT(differing, 100);
 }
 
-TEST(QVDayCtrl, HasASizeOfItsOwn) {
-  const QVDayCtrl dial;
-  EXPECT_GT(dial.sizeHint().width(), 2 * 28);
-  EXPECT_GT(dial.sizeHint().height(), 28);
+TEST(QVDayCtrl, OfItsOwnSizeHasRoomForItsLabels) {
+  QVDayCtrl dial;
+  const QImage image = PictureOf(dial, dial.sizeHint());
+  for (const int x : {0, image.width() - 1}) {
+    for (int y = 0; y < image.height(); ++y) {
+      EXPECT_EQ(image.pixelColor(x, y), ground) << x << "," << y;
+    }
+  }
 }
 
 /// Counts the paint events of the widgets that it watches.
