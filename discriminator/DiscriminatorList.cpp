@@ -63,7 +63,7 @@ std::unique_ptr<XmlDocument> DiscriminatorList::CopyOfDeviceGroups() const {
 void DiscriminatorList::OnAdd(const RunEditor& runEditor, const std::function<void()>& refresh) {
   EnsureDeviceGroups();
   const auto copy = CopyOfDeviceGroups();
-  if (!runEditor(copy->Root(), nullptr).saved) {
+  if (!runEditor(copy->Root(), nullptr).confirmed) {
     return;
   }
   m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
@@ -84,7 +84,7 @@ void DiscriminatorList::OnModify(const std::vector<int>& selectedRows, const Run
   }
   const QVWideString path = PathOf(selectedRows.front());
   const EditorEnd end = runEditor(copy->Root(), &path);
-  if (!end.saved) {
+  if (!end.confirmed) {
     return;
   }
   if (end.modified) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "discriminator/DiscriminatorFile.h"
+#include "discriminator/EditorEnd.h"
 #include "host/Host.h"
 #include "host/Progress.h"
 #include "host/Prompter.h"
@@ -26,12 +27,6 @@ struct ListButtons {
   bool remove = false;
 
   friend bool operator==(const ListButtons&, const ListButtons&) = default;
-};
-
-/// How the editor of a discriminator ended.
-struct EditorEnd {
-  bool saved = false;     ///< the file was written
-  bool modified = false;  ///< its content differs from what was opened
 };
 
 /// How a removal ended.

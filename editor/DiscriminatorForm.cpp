@@ -50,14 +50,28 @@ void DiscriminatorForm::SelectType(int index) {
 }
 
 void DiscriminatorForm::OnHourTypes(
-    const std::function<PartsEnd(XmlNode*, XmlNode*)>& runHourTypes) {
+    const std::function<EditorEnd(XmlNode*, XmlNode*)>& runHourTypes) {
   XmlDocument hourTypes(Part(tag::HourTypes));
   XmlDocument dayTypes(Part(tag::DayTypes));
-  const PartsEnd end = runHourTypes(hourTypes.Root(), dayTypes.Root());
+  TakeBack(runHourTypes(hourTypes.Root(), dayTypes.Root()), {&dayTypes, &hourTypes});
+}
+
+void DiscriminatorForm::OnDayTypes(
+    const std::function<EditorEnd(XmlNode*, XmlNode*, XmlNode*)>& runDayTypes) {
+  XmlDocument calendar(Part(tag::Calendar));
+  XmlDocument dayTypes(Part(tag::DayTypes));
+  XmlDocument hourTypes(Part(tag::HourTypes));
+  TakeBack(runDayTypes(dayTypes.Root(), calendar.Root(), hourTypes.Root()),
+           {&calendar, &dayTypes, &hourTypes});
+}
+
+void DiscriminatorForm::TakeBack(const EditorEnd& end,
+                                 std::initializer_list<const XmlDocument*> copies) {
   if (end.confirmed) {
     m_modified = m_modified || end.modified;
-    Part(tag::DayTypes) = *dayTypes.Root();
-    Part(tag::HourTypes) = *hourTypes.Root();
+    for (const XmlDocument* copy : copies) {
+      Part(copy->Root()->Tag()) = *copy->Root();
+    }
   }
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 
 #include "discriminator/DiscriminatorDocument.h"
+#include "discriminator/EditorEnd.h"
 #include "host/Host.h"
 #include "host/Prompter.h"
 #include "tools/Files.h"
@@ -60,16 +62,14 @@ class DiscriminatorForm {
   /// missing and removes nothing, so that switching back finds all as it was.
   void SelectType(int index);
 
-  /// How a dialog over parts of the document ended.
-  struct PartsEnd {
-    bool confirmed = false;
-    bool modified = false;
-  };
-
   /// Runs the dialog of the hour types on copies of hour types and day types, and takes both over
   /// if it was confirmed, also without a change. On any other end the document stays as it was.
   void OnHourTypes(
-      const std::function<PartsEnd(XmlNode* hourTypes, XmlNode* dayTypes)>& runHourTypes);
+      const std::function<EditorEnd(XmlNode* hourTypes, XmlNode* dayTypes)>& runHourTypes);
+
+  /// The same for the dialog of the day types, on copies of calendar, day types and hour types.
+  void OnDayTypes(const std::function<EditorEnd(XmlNode* dayTypes, XmlNode* calendar,
+                                                XmlNode* hourTypes)>& runDayTypes);
 
   /// Checks what was typed, writes the discriminator's file in place of the old one, and has its
   /// index made. True if the file was written; otherwise the user has been told why.
@@ -88,6 +88,8 @@ class DiscriminatorForm {
   bool NameExists(const QVWideString& name) const;
   void TakeOver(const wchar_t* tag, const QVWideString& value);
   XmlNode& Part(const wchar_t* tag) { return *m_document.Root()->Node(tag); }
+  /// Takes the parts over if the dialog that worked on these copies was confirmed.
+  void TakeBack(const EditorEnd& end, std::initializer_list<const XmlDocument*> copies);
   void RemoveOldFiles();
   bool WriteFile();
 

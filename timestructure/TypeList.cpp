@@ -4,6 +4,7 @@
 
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
+#include "timestructure/NewChildNode.h"
 #include "tools/Guid.h"
 #include "tools/Names.h"
 #include "tools/XmlDocument.h"
@@ -13,35 +14,11 @@ namespace {
 
 constexpr wchar_t white[] = L"FFFFFF";
 
-/// A new child that is removed again unless it is kept.
-class NewType {
- public:
-  NewType(XmlNode& container, const wchar_t* tag)
-      : m_container(container), m_node(container.NewChild(tag, nullptr)) {
-    m_node->SetValue(tag::Id, NewGuidText());
-    m_node->SetValue(tag::Name, L"");
-    m_node->SetValue(tag::Color, white);
-  }
-  NewType(const NewType&) = delete;
-  NewType& operator=(const NewType&) = delete;
-  ~NewType() {
-    if (!m_kept) {
-      m_container.RemoveChild(m_node);
-    }
-  }
-
-  XmlNode& Node() { return *m_node; }
-  void Keep() { m_kept = true; }
-
- private:
-  XmlNode& m_container;
-  XmlNode* m_node;
-  bool m_kept = false;
-};
-
 }  // namespace
 
-TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(container), m_tag(tag) {}
+TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(container), m_tag(tag) {
+  Fill();
+}
 
 void TypeList::Fill() {
   m_rows.clear();
@@ -56,8 +33,9 @@ void TypeList::Fill() {
   });
 }
 
-TypeListEnd TypeList::OnAdd(const RunEditor& runEditor) {
-  NewType added(m_container, m_tag);
+ListEnd TypeList::OnAdd(const RunEditor& runEditor) {
+  NewChildNode added(m_container, m_tag,
+                     {{tag::Id, NewGuidText()}, {tag::Name, L""}, {tag::Color, white}});
   if (!runEditor(added.Node()).confirmed) {
     return {};
   }
@@ -67,13 +45,13 @@ TypeListEnd TypeList::OnAdd(const RunEditor& runEditor) {
   return {true, std::nullopt};
 }
 
-TypeListEnd TypeList::OnModify(std::optional<int> row, const RunEditor& runEditor) {
+ListEnd TypeList::OnModify(std::optional<int> row, const RunEditor& runEditor) {
   XmlNode* node = NodeOf(row);
   if (!node) {
     return {};
   }
   XmlDocument copy(*node);
-  const TypeEditorEnd end = runEditor(*copy.Root());
+  const EditorEnd end = runEditor(*copy.Root());
   if (!end.confirmed) {
     return {};
   }
@@ -83,7 +61,7 @@ TypeListEnd TypeList::OnModify(std::optional<int> row, const RunEditor& runEdito
   return {true, row};
 }
 
-TypeListEnd TypeList::OnRemove(std::optional<int> row) {
+ListEnd TypeList::OnRemove(std::optional<int> row) {
   XmlNode* node = NodeOf(row);
   if (!node) {
     return {};

@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "discriminator/EditorEnd.h"
 #include "tools/XmlNode.h"
 
 namespace qv {
@@ -16,18 +17,12 @@ struct TypeRow {
   std::uint32_t colour = 0;  ///< red in the lowest byte
 };
 
-/// How the editor of a type ended.
-struct TypeEditorEnd {
-  bool confirmed = false;
-  bool modified = false;  ///< the type differs from what was opened
-};
-
 /// What a list shows after a verb: nothing new, or new rows with one of them or none selected.
-struct TypeListEnd {
+struct ListEnd {
   bool refilled = false;
   std::optional<int> rowToSelect;
 
-  friend bool operator==(const TypeListEnd&, const TypeListEnd&) = default;
+  friend bool operator==(const ListEnd&, const ListEnd&) = default;
 };
 
 /// The hour types or the day types of a discriminator, as their dialog lists them: the children of
@@ -35,33 +30,32 @@ struct TypeListEnd {
 class TypeList {
  public:
   /// Runs the editor on a type's node.
-  using RunEditor = std::function<TypeEditorEnd(XmlNode& type)>;
+  using RunEditor = std::function<EditorEnd(XmlNode& type)>;
 
   /// `container` outlives the list.
   TypeList(XmlNode& container, const wchar_t* tag);
 
-  /// Reads the rows anew, sorted by name without regard to case; types of equal name stay in the
-  /// order of the document.
-  void Fill();
+  /// Sorted by name without regard to case; types of equal name stand in the order of the document.
   const std::vector<TypeRow>& Rows() const { return m_rows; }
 
   /// Appends a new type without a name, white, and runs the editor on it. On any end but a
   /// confirmation it is removed again. Afterwards no row is selected.
-  TypeListEnd OnAdd(const RunEditor& runEditor);
+  ListEnd OnAdd(const RunEditor& runEditor);
 
   /// Runs the editor on a copy of the row's type, and takes the copy over if it was confirmed, also
   /// without a change. The row at the same place is selected then, which after a new name may be
   /// another type's. Does nothing without a row.
-  TypeListEnd OnModify(std::optional<int> row, const RunEditor& runEditor);
+  ListEnd OnModify(std::optional<int> row, const RunEditor& runEditor);
 
   /// Removes the row's type, without a question. The row that moves to its place is selected then,
   /// or the new last one. Does nothing without a row. What refers to the type stays as it is.
-  TypeListEnd OnRemove(std::optional<int> row);
+  ListEnd OnRemove(std::optional<int> row);
 
   /// Whether anything was added, changed or removed; never cleared.
   bool IsModified() const { return m_modified; }
 
  private:
+  void Fill();
   XmlNode* NodeOf(std::optional<int> row) const;
 
   XmlNode& m_container;

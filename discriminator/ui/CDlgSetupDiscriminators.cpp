@@ -12,6 +12,7 @@
 #include "toolkit/QVControlBoxButtonsLayout.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/ReportList.h"
+#include "toolkit/RunDialog.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
 #include "toolkit/WaitCursor.h"
@@ -30,8 +31,7 @@ void BuildTemplate(QDialog* dialog) { Ui::Template1300().setupUi(dialog); }
 
 qv::EditorEnd RunEditor(CWnd* parent, qv::XmlNode* deviceGroups, const QVWideString* filePath) {
   CDlgAddModifyDiscriminator editor(deviceGroups, parent, filePath);
-  const bool saved = editor.DoModal() == IDOK;
-  return {saved, editor.m_modified};
+  return qv::RunDialog<qv::EditorEnd>(editor);
 }
 
 }  // namespace

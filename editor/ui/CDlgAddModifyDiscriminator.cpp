@@ -8,6 +8,7 @@
 #include "toolkit/LimitTyping.h"
 #include "toolkit/QVHyperlink.h"
 #include "toolkit/QVLayout.h"
+#include "toolkit/RunDialog.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
 #include "ui_1301.h"
@@ -120,8 +121,7 @@ void CDlgAddModifyDiscriminator::OnSelchangeType(int index) {
 void CDlgAddModifyDiscriminator::OnHourTypes() {
   m_form->OnHourTypes([this](qv::XmlNode* hourTypes, qv::XmlNode* dayTypes) {
     CDlgHourTypes dialog(this, hourTypes, dayTypes);
-    const bool confirmed = dialog.DoModal() == IDOK;
-    return qv::DiscriminatorForm::PartsEnd{confirmed, dialog.m_modified};
+    return qv::RunDialog<qv::EditorEnd>(dialog);
   });
 }
 

@@ -134,7 +134,7 @@ TEST_F(FormTest, TheHourTypesDialogWorksOnCopies) {
     hourTypes->Reset();
     dayTypes->Reset();
     EXPECT_EQ(PartsOf(form), L"h|d|");
-    return DiscriminatorForm::PartsEnd{false, true};
+    return EditorEnd{false, true};
   });
   EXPECT_EQ(PartsOf(form), L"h|d|");
   EXPECT_FALSE(form.IsModified());
@@ -146,7 +146,7 @@ TEST_F(FormTest, ConfirmedHourTypesComeBackWithTheDayTypes) {
   form.OnHourTypes([](XmlNode* hourTypes, XmlNode* dayTypes) {
     hourTypes->NewChild(L"hour", nullptr)->SetValue(L"id", L"H");
     dayTypes->Reset();
-    return DiscriminatorForm::PartsEnd{true, true};
+    return EditorEnd{true, true};
   });
   EXPECT_EQ(PartsOf(form), L"hH||");
   EXPECT_TRUE(form.IsModified());
@@ -157,7 +157,7 @@ TEST_F(FormTest, HourTypesConfirmedWithoutAChangeComeBackToo) {
   auto form = OpenContent(withParts);
   form.OnHourTypes([](XmlNode* hourTypes, XmlNode*) {
     hourTypes->NewChild(L"hour", nullptr)->SetValue(L"id", L"H");
-    return DiscriminatorForm::PartsEnd{true, false};
+    return EditorEnd{true, false};
   });
   EXPECT_EQ(PartsOf(form), L"hH|d|");
   EXPECT_FALSE(form.IsModified());
@@ -165,7 +165,7 @@ TEST_F(FormTest, HourTypesConfirmedWithoutAChangeComeBackToo) {
 
 TEST_F(FormTest, AHourTypesDialogThatThrowsLeavesTheDocumentAsItWas) {
   auto form = OpenContent(withParts);
-  EXPECT_THROW(form.OnHourTypes([](XmlNode* hourTypes, XmlNode*) -> DiscriminatorForm::PartsEnd {
+  EXPECT_THROW(form.OnHourTypes([](XmlNode* hourTypes, XmlNode*) -> EditorEnd {
     hourTypes->Reset();
     throw std::runtime_error("dialog");
   }),

@@ -154,7 +154,7 @@ class Walk {
         rows,
         [&](XmlNode* copy, const QVWideString* path) {
           const EditorEnd end = editor(copy, path);
-          saved = end.saved;
+          saved = end.confirmed;
           modified = end.modified;
           return end;
         },

@@ -51,7 +51,7 @@ TEST_F(HourTypeFormTest, ReadsNameValueAndColour) {
 }
 
 TEST_F(HourTypeFormTest, SavesNameValueAndColourInThisOrder) {
-  XmlNode& hour = NewHour();
+  XmlNode hour(L"hour");
   auto form = Form(hour);
   EXPECT_TRUE(form.ChooseColour(0x123ABC));
   EXPECT_TRUE(form.Save(L"New", L"any text, 1.5e9"));
@@ -60,7 +60,7 @@ TEST_F(HourTypeFormTest, SavesNameValueAndColourInThisOrder) {
   for (auto field = hour.ChildsBegin(); field != hour.ChildsEnd(); ++field) {
     tags += std::wstring((*field)->Tag().ToView()) + L" ";
   }
-  EXPECT_EQ(tags, L"id name color value ");
+  EXPECT_EQ(tags, L"name value color ");
   EXPECT_EQ(hour.Value(L"name", L""), L"New");
   EXPECT_EQ(hour.Value(L"color", L""), L"123ABC");
   EXPECT_EQ(hour.Value(L"value", L""), L"any text, 1.5e9");
@@ -103,17 +103,23 @@ TEST_F(HourTypeFormTest, QuoteAndBackslashAreRefusedByTheirText) {
 }
 
 TEST_F(HourTypeFormTest, TheFirstFaultIsTheOneThatIsTold) {
+  NewHour().SetValue(L"name", L"a,b");
   auto form = Form(Hour(L"Peak"));
-  form.ChooseColour(0);
+  form.ChooseColour(0xFFFFFF);  // of the one just made
   prompter.ExpectShow(Text::NameNotAllowed);
   EXPECT_FALSE(form.Save(L"a.b,", L""));
+  prompter.ExpectShow(Text::HourTypeNameForbidden);
+  EXPECT_FALSE(form.Save(L"a,b", L""));
+  prompter.ExpectShow(Text::TypeNameTaken);
+  EXPECT_FALSE(form.Save(L"valley", L""));
 }
 
 TEST_F(HourTypeFormTest, NamesThatDifferInCaseAreTwoNames) {
   EXPECT_TRUE(Form(Hour(L"Peak")).Save(L"VALLEY", L""));
 }
 
-TEST_F(HourTypeFormTest, ANewHourTypeMeetsItselfOnlyByItsEmptyName) {
+TEST_F(HourTypeFormTest, ANewHourTypeThatStaysWhiteIsNotAskedAbout) {
+  NewHour().SetValue(L"name", L"white");
   auto form = Form(NewHour());
   EXPECT_TRUE(form.Save(L"n", L"")) << "white from the start is never asked about";
 }
@@ -151,6 +157,13 @@ TEST_F(HourTypeFormTest, TheColourThatWasOpenedIsNotAskedAbout) {
   form.ChooseColour(red);
   EXPECT_TRUE(form.Save(L"Peak", L"7"));
   EXPECT_TRUE(form.IsModified()) << "a colour was chosen, though it came back";
+}
+
+TEST_F(HourTypeFormTest, TwoOfOneColourFromAFileAreNotAskedAbout) {
+  Hour(L"valley").SetValue(L"color", L"0000FF");
+  auto form = Form(Hour(L"valley"));
+  EXPECT_TRUE(form.Save(L"valley", L""));
+  EXPECT_FALSE(form.IsModified());
 }
 
 TEST_F(HourTypeFormTest, ChoosingTheSameColourIsNoChange) {

@@ -12,15 +12,13 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr TypeEditorEnd cancelled{false, true};
-constexpr TypeEditorEnd confirmed{true, false};
-constexpr TypeEditorEnd confirmedWithChange{true, true};
+constexpr EditorEnd cancelled{false, true};
+constexpr EditorEnd confirmed{true, false};
+constexpr EditorEnd confirmedWithChange{true, true};
 
 /// The hour types b, C, a and a child of another tag.
 class TypeListTest : public testing::Test {
  protected:
-  TypeListTest() { list.Fill(); }
-
   static std::unique_ptr<XmlNode> Parsed(const char* text) {
     XmlDocument document;
     EXPECT_TRUE(document.Parse(text));
@@ -36,7 +34,7 @@ class TypeListTest : public testing::Test {
   }
 
   /// An editor that gives the type a name.
-  static TypeList::RunEditor Naming(const wchar_t* name, TypeEditorEnd end) {
+  static TypeList::RunEditor Naming(const wchar_t* name, EditorEnd end) {
     return [=](XmlNode& type) {
       type.SetValue(L"name", name);
       return end;
@@ -57,6 +55,18 @@ TEST_F(TypeListTest, ListsItsTagSortedByNameWithoutRegardToCase) {
   EXPECT_FALSE(list.IsModified());
 }
 
+TEST_F(TypeListTest, EqualNamesStandInTheOrderOfTheDocument) {
+  const auto equal = Parsed(
+      "<hourTypes><hour><id>1</id><name>Peak</name></hour><hour><id>2</id><name>peak</name></hour>"
+      "<hour><id>3</id><name>PEAK</name></hour></hourTypes>");
+  const TypeList types(*equal, L"hour");
+  std::wstring ids;
+  for (const TypeRow& row : types.Rows()) {
+    ids += row.node->Value(L"id", L"").ToView();
+  }
+  EXPECT_EQ(ids, L"123");
+}
+
 TEST_F(TypeListTest, ColoursAreReadInLettersOfEitherCase) {
   EXPECT_EQ(list.Rows()[1].colour, 0x0000FFU);
   EXPECT_EQ(list.Rows()[2].colour, 0xFF0000U);
@@ -66,11 +76,10 @@ TEST_F(TypeListTest, ColoursAreReadInLettersOfEitherCase) {
 TEST_F(TypeListTest, AnEmptyContainerHasNoRows) {
   XmlNode empty(L"hourTypes");
   TypeList none(empty, L"hour");
-  none.Fill();
   EXPECT_TRUE(none.Rows().empty());
-  EXPECT_EQ(none.OnRemove(std::nullopt), TypeListEnd());
-  EXPECT_EQ(none.OnRemove(0), TypeListEnd());
-  EXPECT_EQ(none.OnModify(std::nullopt, Naming(L"n", confirmed)), TypeListEnd());
+  EXPECT_EQ(none.OnRemove(std::nullopt), ListEnd());
+  EXPECT_EQ(none.OnRemove(0), ListEnd());
+  EXPECT_EQ(none.OnModify(std::nullopt, Naming(L"n", confirmed)), ListEnd());
 }
 
 TEST_F(TypeListTest, AddAppendsANewWhiteTypeBeforeTheEditorRuns) {
@@ -88,19 +97,19 @@ TEST_F(TypeListTest, AddAppendsANewWhiteTypeBeforeTheEditorRuns) {
     type.SetValue(L"name", L"aa");
     return confirmed;
   });
-  EXPECT_EQ(end, (TypeListEnd{true, std::nullopt}));
+  EXPECT_EQ(end, (ListEnd{true, std::nullopt}));
   EXPECT_THAT(Names(), ElementsAre(L"a", L"aa", L"b", L"C"));
   EXPECT_TRUE(list.IsModified());
 }
 
 TEST_F(TypeListTest, ACancelledAddLeavesEverythingAsItWas) {
-  EXPECT_EQ(list.OnAdd(Naming(L"n", cancelled)), TypeListEnd());
+  EXPECT_EQ(list.OnAdd(Naming(L"n", cancelled)), ListEnd());
   EXPECT_EQ(*hours, before);
   EXPECT_FALSE(list.IsModified());
 }
 
 TEST_F(TypeListTest, AnEditorThatThrowsLeavesTheDocumentAsItWas) {
-  const TypeList::RunEditor throwing = [](XmlNode& type) -> TypeEditorEnd {
+  const TypeList::RunEditor throwing = [](XmlNode& type) -> EditorEnd {
     type.SetValue(L"name", L"half");
     throw std::runtime_error("editor");
   };
@@ -122,7 +131,7 @@ TEST_F(TypeListTest, ModifyWorksOnACopy) {
 }
 
 TEST_F(TypeListTest, AfterANewNameTheRowAtTheOldPlaceIsSelected) {
-  EXPECT_EQ(list.OnModify(0, Naming(L"z", confirmedWithChange)), (TypeListEnd{true, 0}));
+  EXPECT_EQ(list.OnModify(0, Naming(L"z", confirmedWithChange)), (ListEnd{true, 0}));
   EXPECT_THAT(Names(), ElementsAre(L"b", L"C", L"z"));
   EXPECT_TRUE(list.IsModified());
   EXPECT_EQ(hours->NodeV(L"hour?name=%s?", L"z")->Value(L"id", L""), L"3");
@@ -133,25 +142,25 @@ TEST_F(TypeListTest, AConfirmedModifyWithoutAChangeIsStillTakenOver) {
     type.SetValue(L"value", L"");
     return confirmed;
   });
-  EXPECT_EQ(end, (TypeListEnd{true, 2}));
+  EXPECT_EQ(end, (ListEnd{true, 2}));
   EXPECT_FALSE(list.IsModified());
   EXPECT_TRUE(hours->NodeV(L"hour?id=%s?", L"2")->Node(L"value"));
 }
 
 TEST_F(TypeListTest, RemoveSelectsTheRowThatMovedUpOrElseTheLastOne) {
-  EXPECT_EQ(list.OnRemove(1), (TypeListEnd{true, 1}));
+  EXPECT_EQ(list.OnRemove(1), (ListEnd{true, 1}));
   EXPECT_THAT(Names(), ElementsAre(L"a", L"C"));
-  EXPECT_EQ(list.OnRemove(1), (TypeListEnd{true, 0}));
-  EXPECT_EQ(list.OnRemove(0), (TypeListEnd{true, std::nullopt}));
+  EXPECT_EQ(list.OnRemove(1), (ListEnd{true, 0}));
+  EXPECT_EQ(list.OnRemove(0), (ListEnd{true, std::nullopt}));
   EXPECT_TRUE(list.Rows().empty());
   EXPECT_TRUE(list.IsModified());
   EXPECT_TRUE(hours->Node(L"other"));
 }
 
 TEST_F(TypeListTest, ARemovalOfNoRowDoesNothing) {
-  EXPECT_EQ(list.OnRemove(std::nullopt), TypeListEnd());
-  EXPECT_EQ(list.OnRemove(3), TypeListEnd());
-  EXPECT_EQ(list.OnRemove(-1), TypeListEnd());
+  EXPECT_EQ(list.OnRemove(std::nullopt), ListEnd());
+  EXPECT_EQ(list.OnRemove(3), ListEnd());
+  EXPECT_EQ(list.OnRemove(-1), ListEnd());
   EXPECT_EQ(*hours, before);
 }
 

@@ -1,12 +1,11 @@
 #include "timestructure/ui/CDlgAddModifyHourType.h"
 
-#include <QColorDialog>
 #include <QLineEdit>
 
 #include "host/Installation.h"
+#include "toolkit/AskColour.h"
 #include "toolkit/ColorSwatch.h"
 #include "toolkit/LimitTyping.h"
-#include "toolkit/PaintBox.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
@@ -47,6 +46,7 @@ std::optional<int> CDlgAddModifyHourType::OnCreate() {
 void CDlgAddModifyHourType::OnInitDialog() {
   qv::LimitTyping(Find<QLineEdit>(nameEdit), qv::TypeIdentity::longestTypedName);
   qv::LimitTyping(Find<QLineEdit>(valueEdit), 0);
+  ShowValueField();
   PositioningControls();
   InitializeTexts();
   InitializeData();
@@ -68,12 +68,23 @@ void CDlgAddModifyHourType::InitializeData() {
   qv::SetLoadedText(Find<QLineEdit>(valueEdit), qv::ToQString(m_form->Value()));
 }
 
-bool CDlgAddModifyHourType::HasValueField() const { return qv::IsEmbedded(Services().mainCfg); }
+void CDlgAddModifyHourType::ShowValueField() {
+  const bool isShown = qv::IsEmbedded(Services().mainCfg);
+  Control(valueEdit)->setVisible(isShown);
+  Control(valueLabel)->setVisible(isShown);
+}
+
+void CDlgAddModifyHourType::AddFields(QVVerticalLayout& column) const {
+  column.SetBoxControl(groupBox, LayoutSizeStandard, false);
+  column.AddControlAndLabel(nameEdit, nameLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
+  column.AddGap(LayoutSizeStandard);
+  if (!Control(valueEdit)->isHidden()) {
+    column.AddControlAndLabel(valueEdit, valueLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
+    column.AddGap(LayoutSizeStandard);
+  }
+}
 
 void CDlgAddModifyHourType::PositioningControls() {
-  const bool withValue = HasValueField();
-  Control(valueEdit)->setVisible(withValue);
-  Control(valueLabel)->setVisible(withValue);
   const QSize swatchSize = Control(swatch)->size();
   QVVerticalLayout label(this);
   label.AddGap(50);
@@ -84,13 +95,7 @@ void CDlgAddModifyHourType::PositioningControls() {
   colour.AddGap(LayoutSizeLabel);
   colour.AddLayout(&label, 100);
   QVVerticalLayout fields(this);
-  fields.SetBoxControl(groupBox, LayoutSizeStandard, false);
-  fields.AddControlAndLabel(nameEdit, nameLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
-  fields.AddGap(LayoutSizeStandard);
-  if (withValue) {
-    fields.AddControlAndLabel(valueEdit, valueLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
-    fields.AddGap(LayoutSizeStandard);
-  }
+  AddFields(fields);
   fields.AddLayout(&colour, QVLayout::Pixels2Size(swatchSize.height()).height);
   QVHoritzontalLayout buttons(this);
   buttons.AddGap(10);
@@ -110,10 +115,10 @@ void CDlgAddModifyHourType::PositioningControls() {
 }
 
 void CDlgAddModifyHourType::OnColor() {
-  const QColor chosen = QColorDialog::getColor(qv::ColourOf(m_form->Colour()), this,
-                                               qv::HostText(Services().loadString, Text::Colour));
-  if (chosen.isValid() && m_form->ChooseColour(qv::NumberOf(chosen))) {
-    Find<qv::ColorSwatch>(swatch)->SetColour(m_form->Colour());
+  const auto chosen =
+      qv::AskColour(this, m_form->Colour(), qv::HostText(Services().loadString, Text::Colour));
+  if (chosen && m_form->ChooseColour(*chosen)) {
+    Find<qv::ColorSwatch>(swatch)->SetColour(*chosen);
   }
 }
 

@@ -7,6 +7,8 @@
 #include "toolkit/CDialog.h"
 #include "toolkit/MessageBoxes.h"
 
+class QVVerticalLayout;
+
 /// The editor of one hour type: name, colour, and on embedded installations the value.
 class CDlgAddModifyHourType : public CDialog {
   Q_OBJECT
@@ -17,7 +19,8 @@ class CDlgAddModifyHourType : public CDialog {
   CDlgAddModifyHourType(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* hour);
   ~CDlgAddModifyHourType() override;
 
-  /// Whether the saved hour type differs from what was opened. To be read after `DoModal`.
+  /// Whether a colour was chosen, or the saved hour type differs from what was opened. To be read
+  /// after `DoModal`.
   bool m_modified = false;
 
  protected:
@@ -30,8 +33,9 @@ class CDlgAddModifyHourType : public CDialog {
  private:
   void InitializeTexts();
   void InitializeData();
+  void ShowValueField();
+  void AddFields(QVVerticalLayout& column) const;
   void OnColor();
-  bool HasValueField() const;
 
   qv::XmlNode* m_hourTypes;
   qv::XmlNode* m_hour;

@@ -2,6 +2,7 @@
 
 #include "discriminator/Fields.h"
 #include "timestructure/ui/CDlgAddModifyHourType.h"
+#include "toolkit/RunDialog.h"
 #include "ui_1306.h"
 
 namespace {
@@ -13,12 +14,11 @@ void BuildTemplate(QDialog* dialog) { Ui::Template1306().setupUi(dialog); }
 }  // namespace
 
 CDlgHourTypes::CDlgHourTypes(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* /*dayTypes*/)
-    : TypeListDialog(parent, hourTypes,
-                     {BuildTemplate, qv::tag::Hour, box, Text::HourTypes, Text::HourTypeListTitle}),
-      m_hourTypes(hourTypes) {}
+    : TypeListDialog(
+          parent, hourTypes,
+          {BuildTemplate, qv::tag::Hour, box, Text::HourTypes, Text::HourTypeListTitle}) {}
 
-qv::TypeEditorEnd CDlgHourTypes::RunEditor(qv::XmlNode& type) {
-  CDlgAddModifyHourType editor(this, m_hourTypes, &type);
-  const bool confirmed = editor.DoModal() == IDOK;
-  return {confirmed, editor.m_modified};
+qv::EditorEnd CDlgHourTypes::RunEditor(qv::XmlNode& container, qv::XmlNode& type) {
+  CDlgAddModifyHourType editor(this, &container, &type);
+  return qv::RunDialog<qv::EditorEnd>(editor);
 }

@@ -12,8 +12,5 @@ class CDlgHourTypes : public qv::TypeListDialog {
   CDlgHourTypes(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* dayTypes);
 
  protected:
-  qv::TypeEditorEnd RunEditor(qv::XmlNode& type) override;
-
- private:
-  qv::XmlNode* m_hourTypes;
+  qv::EditorEnd RunEditor(qv::XmlNode& container, qv::XmlNode& type) override;
 };

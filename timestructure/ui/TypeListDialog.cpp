@@ -12,7 +12,7 @@
 namespace qv {
 namespace {
 
-constexpr int list = 5303;
+constexpr int listView = 5303;
 constexpr int removeButton = 5347;
 constexpr int addButton = 5348;
 constexpr int modifyButton = 5349;
@@ -25,31 +25,29 @@ TypeListDialog::TypeListDialog(CWnd* parent, XmlNode* container, const Kind& kin
     : CDialog(kind.build, parent),
       m_kind(kind),
       m_container(container),
-      m_listTypes(Find<ReportList>(list)) {
-  m_listTypes->setSelectionMode(QAbstractItemView::SingleSelection);
+      m_view(Find<ReportList>(listView)) {
   const auto onClick = [this](int button, void (TypeListDialog::*run)()) {
     connect(Find<QPushButton>(button), &QPushButton::clicked, this, run);
   };
   onClick(addButton, &TypeListDialog::OnAdd);
   onClick(modifyButton, &TypeListDialog::OnModify);
   onClick(removeButton, &TypeListDialog::OnRemove);
-  connect(m_listTypes, &ReportList::DoubleClicked, this, &TypeListDialog::OnModify);
-  connect(m_listTypes, &ReportList::KeyDown, this, &TypeListDialog::OnKeydown);
-  connect(m_listTypes, &ReportList::itemSelectionChanged, this,
-          &TypeListDialog::EnableDisableButtons);
-  connect(m_listTypes, &ReportList::RoomChanged, this, &TypeListDialog::ResizeColumn);
+  connect(m_view, &ReportList::DoubleClicked, this, &TypeListDialog::OnModify);
+  connect(m_view, &ReportList::KeyDown, this, &TypeListDialog::OnKeydown);
+  connect(m_view, &ReportList::itemSelectionChanged, this, &TypeListDialog::EnableDisableButtons);
+  connect(m_view, &ReportList::RoomChanged, this, &TypeListDialog::ResizeColumn);
 }
 
 TypeListDialog::~TypeListDialog() = default;
 
 void TypeListDialog::OnInitDialog() {
-  m_list = std::make_unique<TypeList>(*m_container, m_kind.tag);
-  m_list->Fill();
+  m_types = std::make_unique<TypeList>(*m_container, m_kind.tag);
   InitializeTexts();
   CreateColumns();
   FillList(std::nullopt);
   setMinimumSize(leastSize);
   PositioningControls();
+  EnableDisableButtons();
 }
 
 void TypeListDialog::InitializeTexts() {
@@ -58,37 +56,34 @@ void TypeListDialog::InitializeTexts() {
   SetButton(removeButton, Text::Remove, L"REMOVE-16.png");
   SetButton(IDOK, Text::Ok, L"OK-16.png");
   SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
-  SetLabel(m_kind.box, list, m_kind.boxText);
+  SetLabel(m_kind.box, listView, m_kind.boxText);
   SetText(0, m_kind.title);
 }
 
 void TypeListDialog::CreateColumns() {
-  m_listTypes->setColumnCount(1);
-  m_listTypes->setHeaderLabels({HostText(Services().loadString, Text::Name)});
-  m_listTypes->setIconSize(SmallIconSize(m_listTypes));
+  m_view->setColumnCount(1);
+  m_view->setHeaderLabels({HostText(Services().loadString, Text::Name)});
+  m_view->setIconSize(SmallIconSize(m_view));
 }
 
-void TypeListDialog::ResizeColumn() {
-  m_listTypes->setColumnWidth(0, m_listTypes->viewport()->width());
-}
+void TypeListDialog::ResizeColumn() { m_view->setColumnWidth(0, m_view->viewport()->width()); }
 
 void TypeListDialog::FillList(std::optional<int> select) {
   QList<QTreeWidgetItem*> items;
-  for (const TypeRow& row : m_list->Rows()) {
+  for (const TypeRow& row : m_types->Rows()) {
     auto* item = new QTreeWidgetItem({ToQString(row.name)});
-    item->setIcon(0, ColorIcon(row.colour, m_listTypes->iconSize()));
+    item->setIcon(0, ColorIcon(row.colour, m_view->iconSize()));
     items.append(item);
   }
-  m_listTypes->clear();
-  m_listTypes->addTopLevelItems(items);
+  m_view->clear();
+  m_view->addTopLevelItems(items);
   if (select) {
-    m_listTypes->setCurrentItem(m_listTypes->topLevelItem(*select));
+    m_view->setCurrentItem(m_view->topLevelItem(*select));
   }
-  EnableDisableButtons();
 }
 
 void TypeListDialog::PositioningControls() {
-  QVControlBoxButtonsLayout listLayout(this, list, m_kind.box);
+  QVControlBoxButtonsLayout listLayout(this, listView, m_kind.box);
   listLayout.AddButtons21(addButton, modifyButton, removeButton);
   QVHoritzontalLayout buttons(this);
   buttons.AddControl(IDOK, 50);
@@ -112,19 +107,19 @@ void TypeListDialog::EnableDisableButtons() {
 }
 
 std::optional<int> TypeListDialog::SelectedRow() const {
-  const auto rows = m_listTypes->SelectedRows();
+  const auto rows = m_view->SelectedRows();
   return rows.empty() ? std::nullopt : std::optional(rows.front());
 }
 
-void TypeListDialog::OnAdd() {
-  Follow(m_list->OnAdd([this](XmlNode& type) { return RunEditor(type); }));
+TypeList::RunEditor TypeListDialog::Editor() {
+  return [this](XmlNode& type) { return RunEditor(*m_container, type); };
 }
 
-void TypeListDialog::OnModify() {
-  Follow(m_list->OnModify(SelectedRow(), [this](XmlNode& type) { return RunEditor(type); }));
-}
+void TypeListDialog::OnAdd() { Follow(m_types->OnAdd(Editor())); }
 
-void TypeListDialog::OnRemove() { Follow(m_list->OnRemove(SelectedRow())); }
+void TypeListDialog::OnModify() { Follow(m_types->OnModify(SelectedRow(), Editor())); }
+
+void TypeListDialog::OnRemove() { Follow(m_types->OnRemove(SelectedRow())); }
 
 void TypeListDialog::OnKeydown(int key) {
   if (key == Qt::Key_Delete) {
@@ -134,8 +129,7 @@ void TypeListDialog::OnKeydown(int key) {
   }
 }
 
-void TypeListDialog::Follow(const TypeListEnd& end) {
-  m_modified = m_list->IsModified();
+void TypeListDialog::Follow(const ListEnd& end) {
   if (end.refilled) {
     FillList(end.rowToSelect);
     ResizeColumn();
@@ -143,8 +137,9 @@ void TypeListDialog::Follow(const TypeListEnd& end) {
 }
 
 void TypeListDialog::OnDestroy() {
-  m_listTypes->clear();
-  m_list.reset();
+  m_modified = m_types->IsModified();
+  m_view->clear();
+  m_types.reset();
 }
 
 }  // namespace qv

@@ -33,8 +33,8 @@ class TypeListDialog : public CDialog {
   /// `container` outlives the dialog.
   TypeListDialog(CWnd* parent, XmlNode* container, const Kind& kind);
 
-  /// Runs the editor of a type over this dialog.
-  virtual TypeEditorEnd RunEditor(XmlNode& type) = 0;
+  /// Runs the editor of a type in `container`, or of a copy of one, over this dialog.
+  virtual EditorEnd RunEditor(XmlNode& container, XmlNode& type) = 0;
 
   void OnInitDialog() override;
   void PositioningControls() override;
@@ -49,14 +49,15 @@ class TypeListDialog : public CDialog {
   void OnModify();
   void OnRemove();
   void OnKeydown(int key);
-  void Follow(const TypeListEnd& end);
+  TypeList::RunEditor Editor();
+  void Follow(const ListEnd& end);
   void FillList(std::optional<int> select);
   std::optional<int> SelectedRow() const;
 
   Kind m_kind;
   XmlNode* m_container;
-  ReportList* m_listTypes;
-  std::unique_ptr<TypeList> m_list;
+  ReportList* m_view;
+  std::unique_ptr<TypeList> m_types;
 };
 
 }  // namespace qv

@@ -302,6 +302,17 @@ TEST_F(Editor, HourTypesAreAddedThroughTheirButtonAndSaved) {
   EXPECT_FALSE(Content("1.old.xdct").contains("<revision>r</revision>"));
 }
 
+TEST_F(Editor, HourTypesConfirmedWithoutAChangeKeepTheRevision) {
+  const QString path = AddFile("1.old.xdct", oldFile);
+  Modify(path, [&] {
+    WhenNextWindow([] { Click(IDOK); });
+    Click(hourTypesLink);
+    Click(IDOK);
+  });
+  EXPECT_FALSE(modified);
+  EXPECT_TRUE(Content("1.old.xdct").contains("<revision>r</revision>"));
+}
+
 TEST_F(Editor, CancelledHourTypesLeaveTheDiscriminatorAsItWas) {
   const QString path = AddFile("1.old.xdct", oldFile);
   Modify(path, [&] {

@@ -74,6 +74,28 @@ TEST_F(HourTypeEditor, TheValueIsShownOnEmbeddedInstallationsOnly) {
   EXPECT_TRUE(modified);
 }
 
+TEST_F(HourTypeEditor, AHiddenValueOfAnyTextComesBackUnchanged) {
+  const std::wstring values[] = {L" blanks ", L"tab\tand\nline", L"\U0001F4A1",
+                                 std::wstring(40000, L'v')};
+  for (const std::wstring& value : values) {
+    Hour(L"day").SetValue(L"value", value.c_str());
+    Run(Hour(L"day"), [] { Click(IDOK); });
+    EXPECT_EQ(Hour(L"day").Value(L"value", L""), value.c_str());
+    EXPECT_FALSE(modified);
+  }
+}
+
+TEST_F(HourTypeEditor, EachControlHasItsTextAndItsPicture) {
+  Run(Hour(L"day"), [&] {
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5268))->text(), TextOf(355));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(valueLabel))->text(), TextOf(38293));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5302))->text(), TextOf(411));
+    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(IDOK))->text(), TextOf(428));
+    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(IDCANCEL))->text(), TextOf(429));
+    Click(IDCANCEL);
+  });
+}
+
 TEST_F(HourTypeEditor, ItsHeightFitsAndCanNotBeChanged) {
   for (const bool embedded : {false, true}) {
     if (embedded) {

@@ -1,6 +1,8 @@
 #include "timestructure/ui/CDlgHourTypes.h"
 
+#include <QGroupBox>
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include "tests/timestructure/ui/HourTypesFixture.h"
 #include "toolkit/ReportList.h"
@@ -186,6 +188,52 @@ TEST_F(HourTypeList, RemoveTakesARowWithoutAsking) {
   EXPECT_TRUE(modified);
   EXPECT_TRUE(Hours().Node(L"other"));
   EXPECT_TRUE(dayTypes.Root()->Node(L"day"));
+}
+
+TEST_F(HourTypeList, EachControlHasItsText) {
+  Run([&] {
+    const std::vector<std::pair<int, unsigned>> texts = {
+        {addButton, 415}, {modifyButton, 416}, {removeButton, 420}, {IDOK, 428}, {IDCANCEL, 429}};
+    for (const auto& [id, number] : texts) {
+      EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(id))->text(), TextOf(number));
+    }
+    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(box))->title(), TextOf(472));
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(HourTypeList, AddingWithAnothersColourCanBeGivenUp) {
+  Run([&] {
+    WhenNextWindow([] {
+      Type(nameEdit, "new");
+      ChooseNextColour(Qt::red);
+      Click(swatch);
+      AnswerNextBox(465, QMessageBox::No);
+      Click(IDOK);
+      EXPECT_EQ(Swatch()->Colour(), 0x0000FFU);
+      Click(IDCANCEL);
+    });
+    Click(addButton);
+    Click(IDOK);
+  });
+  EXPECT_FALSE(modified);
+  EXPECT_EQ(Hours(), *before);
+}
+
+TEST_F(HourTypeList, TheColumnFillsAListThatScrolls) {
+  for (int i = 0; i < 50; ++i) {
+    Hours().NewChild(L"hour", nullptr)->SetValue(L"name", std::to_wstring(i).c_str());
+  }
+  Run([&] {
+    Settle();
+    EXPECT_EQ(List()->columnWidth(0), List()->viewport()->width());
+    NameNext("zz");
+    Click(addButton);
+    Settle();
+    EXPECT_EQ(List()->columnWidth(0), List()->viewport()->width());
+    EXPECT_FALSE(List()->horizontalScrollBar()->isVisible());
+    Click(IDCANCEL);
+  });
 }
 
 TEST_F(HourTypeList, OtherKeysDoNothing) {
