@@ -1,0 +1,205 @@
+#include "timestructure/DayTypeForm.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+
+#include "tests/support/ScriptedPrompter.h"
+#include "tools/XmlDocument.h"
+
+namespace qv {
+namespace {
+
+constexpr EditorEnd cancelled{false, true};
+constexpr EditorEnd confirmed{true, false};
+constexpr EditorEnd confirmedWithChange{true, true};
+
+/// A document of this text.
+std::unique_ptr<XmlNode> Parsed(const char* text) {
+  XmlDocument document;
+  EXPECT_TRUE(document.Parse(text));
+  return std::make_unique<XmlNode>(*document.Root());
+}
+
+/// The day types "work", red, with two slots, and "feast", blue; a form of the first.
+class DayTypeFormTest : public testing::Test {
+ protected:
+  DayTypeFormTest() { form.Fill(); }
+
+  XmlNode& Day(const wchar_t* name) { return *days->NodeV(L"day?name=%s?", name); }
+
+  /// An editor that gives the slot an hour type and a start, and makes an hour type of its own.
+  static DayTypeForm::RunEditor Writing(EditorEnd end) {
+    return [=](XmlNode& hourTypes, XmlNode& slot) {
+      hourTypes.NewChild(L"hour", nullptr)->SetValue(L"id", L"new");
+      slot.SetValue(L"id", L"new");
+      slot.SetValue(L"from", L"05:00");
+      return end;
+    };
+  }
+
+  std::unique_ptr<XmlNode> days = Parsed(
+      "<dayTypes><day><id>1</id><name>work</name><color>0000FF</color>"
+      "<slot><id>h</id><from>00:00</from><to>12:00</to></slot>"
+      "<slot><id>h</id><from>12:00</from><to>24:00</to></slot></day>"
+      "<day><id>2</id><name>feast</name><color>FF0000</color></day></dayTypes>");
+  std::unique_ptr<XmlNode> hours =
+      Parsed("<hourTypes><hour><id>h</id><name>Peak</name></hour></hourTypes>");
+  const XmlNode daysBefore{*days};
+  const XmlNode hoursBefore{*hours};
+  ScriptedPrompter prompter;
+  DayTypeForm form{Day(L"work"), *days, *hours, prompter};
+};
+
+TEST_F(DayTypeFormTest, ReadsNameColourAndSlots) {
+  EXPECT_EQ(form.Name(), L"work");
+  EXPECT_EQ(form.Colour(), 0x0000FFU);
+  EXPECT_EQ(form.Rows().size(), 2U);
+  EXPECT_FALSE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, SaveWritesNameAndColourAlways) {
+  EXPECT_TRUE(form.Save(L"work"));
+  EXPECT_EQ(*days, daysBefore);
+  EXPECT_FALSE(form.IsModified());
+  EXPECT_TRUE(form.ChooseColour(0x00FF00));
+  EXPECT_TRUE(form.Save(L"office"));
+  EXPECT_EQ(Day(L"office").Value(L"color", L""), L"00FF00");
+  EXPECT_TRUE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, EachRefusalHasItsText) {
+  const std::vector<std::pair<const wchar_t*, Text>> refusals = {
+      {L"", Text::DayTypeNameMissing},
+      {L"a.b", Text::NameNotAllowed},
+      {L"a,b", Text::DayTypeNameForbidden},
+      {L"feast", Text::TypeNameTaken},
+  };
+  for (const auto& [name, text] : refusals) {
+    prompter.ExpectShow(text);
+    EXPECT_FALSE(form.Save(name));
+    EXPECT_FALSE(form.IsModified());
+  }
+  form.ChooseColour(0xFF0000);
+  prompter.ExpectAsk(Text::TypeColourTaken, false);
+  EXPECT_FALSE(form.Save(L"work"));
+  EXPECT_EQ(*days, daysBefore);
+}
+
+TEST_F(DayTypeFormTest, AChangedNameCountsEvenIfTheSlotsAreRefused) {
+  form.OnRemove(0);
+  DayTypeForm other(Day(L"work"), *days, *hours, prompter);
+  other.Fill();
+  prompter.ExpectAsk(Text::DayNotCoveredQuestion, false);
+  EXPECT_FALSE(other.Save(L"office"));
+  EXPECT_TRUE(other.IsModified());
+  EXPECT_EQ(Day(L"work").Value(L"name", L""), L"work");
+}
+
+TEST_F(DayTypeFormTest, TheSlotsAreCheckedAfterNameAndColour) {
+  form.OnRemove(0);
+  form.ChooseColour(0xFF0000);
+  prompter.ExpectAsk(Text::TypeColourTaken, true);
+  prompter.ExpectAsk(Text::DayNotCoveredQuestion, true);
+  EXPECT_TRUE(form.Save(L"work"));
+}
+
+TEST_F(DayTypeFormTest, ReportingAsksNothing) {
+  form.OnRemove(0);
+  form.ReportSlots();
+  Day(L"work").Node(L"slot")->SetValue(L"to", L"11:00");
+  form.Fill();
+  prompter.ExpectShow(Text::SlotStartAfterEnd);
+  form.ReportSlots();
+}
+
+TEST_F(DayTypeFormTest, AddAppendsASlotAndTakesTheHourTypesOver) {
+  const auto end = form.OnAdd([&](XmlNode& hourTypes, XmlNode& slot) {
+    EXPECT_EQ(&slot, *std::prev(Day(L"work").ChildsEnd()));
+    EXPECT_EQ(slot.Value(L"id", L"?"), L"");
+    EXPECT_EQ(slot.Value(L"from", L""), L"00:00");
+    EXPECT_EQ(slot.Value(L"to", L""), L"00:00");
+    EXPECT_NE(&hourTypes, hours.get());
+    return Writing(confirmed)(hourTypes, slot);
+  });
+  EXPECT_EQ(end, (ListEnd{true, std::nullopt}));
+  EXPECT_EQ(form.Rows().size(), 3U);
+  EXPECT_EQ(form.Rows()[2].from, L"05:00");
+  EXPECT_TRUE(hours->NodeV(L"hour?id=%s?", L"new"));
+  EXPECT_TRUE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, ACancelledEditorLeavesEverythingAsItWas) {
+  EXPECT_EQ(form.OnAdd(Writing(cancelled)), ListEnd());
+  EXPECT_EQ(form.OnModify(0, Writing(cancelled)), ListEnd());
+  EXPECT_EQ(*days, daysBefore);
+  EXPECT_EQ(*hours, hoursBefore);
+  EXPECT_FALSE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, AnEditorThatThrowsLeavesEverythingAsItWas) {
+  const DayTypeForm::RunEditor throwing = [](XmlNode& hourTypes, XmlNode& slot) -> EditorEnd {
+    hourTypes.Reset();
+    slot.Reset();
+    throw std::runtime_error("editor");
+  };
+  EXPECT_THROW(form.OnAdd(throwing), std::runtime_error);
+  EXPECT_THROW(form.OnModify(1, throwing), std::runtime_error);
+  EXPECT_EQ(*days, daysBefore);
+  EXPECT_EQ(*hours, hoursBefore);
+}
+
+TEST_F(DayTypeFormTest, ModifyWorksOnCopiesAndSelectsNothingAfterwards) {
+  EXPECT_EQ(form.OnModify(1,
+                          [&](XmlNode& hourTypes, XmlNode& slot) {
+                            EXPECT_EQ(slot.Value(L"from", L""), L"12:00");
+                            const auto end = Writing(confirmedWithChange)(hourTypes, slot);
+                            EXPECT_EQ(*days, daysBefore);
+                            return end;
+                          }),
+            (ListEnd{true, std::nullopt}));
+  EXPECT_EQ(form.Rows()[1].from, L"05:00");
+  EXPECT_TRUE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, AConfirmedModifyWithoutAChangeIsStillTakenOver) {
+  form.OnModify(0, Writing(confirmed));
+  EXPECT_EQ(form.Rows()[0].from, L"05:00");
+  EXPECT_TRUE(hours->NodeV(L"hour?id=%s?", L"new"));
+  EXPECT_FALSE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, WithoutARowNothingHappens) {
+  EXPECT_EQ(form.OnModify(std::nullopt, Writing(confirmed)), ListEnd());
+  EXPECT_EQ(form.OnModify(2, Writing(confirmed)), ListEnd());
+  EXPECT_EQ(form.OnRemove(std::nullopt), ListEnd());
+  EXPECT_EQ(form.OnRemove(2), ListEnd());
+  EXPECT_EQ(*days, daysBefore);
+}
+
+TEST_F(DayTypeFormTest, RemoveKeepsTheSelectionAtItsPlace) {
+  EXPECT_EQ(form.OnRemove(0), (ListEnd{true, 0}));
+  EXPECT_EQ(form.Rows()[0].from, L"12:00");
+  EXPECT_EQ(form.OnRemove(0), (ListEnd{true, std::nullopt}));
+  EXPECT_TRUE(form.Rows().empty());
+  EXPECT_TRUE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, DroppingDeadSlotsIsNoChange) {
+  hours->Reset();
+  form.Fill();
+  EXPECT_TRUE(form.Rows().empty());
+  EXPECT_FALSE(Day(L"work").Node(L"slot"));
+  EXPECT_FALSE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, AColourChangedBackIsStillAChange) {
+  form.ChooseColour(0);
+  form.ChooseColour(0x0000FF);
+  EXPECT_TRUE(form.Save(L"work"));
+  EXPECT_TRUE(form.IsModified());
+}
+
+}  // namespace
+}  // namespace qv

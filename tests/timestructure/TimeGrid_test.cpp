@@ -1,0 +1,88 @@
+#include "timestructure/TimeGrid.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/support/RecordingCanvas.h"
+
+namespace qv {
+namespace {
+
+/// A box whose grid that takes the mouse is 480 pixels wide and 80 high.
+constexpr int width = 480 + 8 + 9;
+constexpr int height = 80 + 12 + 19 + 9;
+constexpr int left = 8;
+constexpr int top = 12 + 19;
+
+std::optional<int> MinuteAt(int x, int y) {
+  return TimeGrid(width, height).MinuteAt({left + x, top + y});
+}
+
+TEST(TimeGrid, FindsTheQuarterUnderAPoint) {
+  EXPECT_EQ(MinuteAt(100, 25), 5 * 60 + 15);
+  EXPECT_EQ(MinuteAt(0, 0), 0);
+  EXPECT_EQ(MinuteAt(0, 79), 45);
+  EXPECT_EQ(MinuteAt(479, 79), 1425);
+}
+
+TEST(TimeGrid, TheRightAndTheBottomEdgeBelongToTheLastCells) {
+  EXPECT_EQ(MinuteAt(480, 80), 1425);
+  EXPECT_EQ(MinuteAt(480, 0), 1380);
+  EXPECT_EQ(MinuteAt(0, 80), 45);
+}
+
+TEST(TimeGrid, OutsideThereIsNoMinute) {
+  for (const Point place : {Point{-1, 0}, Point{0, -1}, Point{481, 0}, Point{0, 81}}) {
+    EXPECT_FALSE(MinuteAt(place.x, place.y)) << place.x << " " << place.y;
+  }
+  EXPECT_FALSE(TimeGrid(10, 10).MinuteAt({8, 31})) << "no room for a grid";
+  EXPECT_FALSE(TimeGrid(0, 0).MinuteAt({0, 0}));
+}
+
+TEST(TimeGrid, EachCellIsFoundFromEachOfItsPoints) {
+  for (int x = 0; x < 480; ++x) {
+    for (int y = 0; y < 80; ++y) {
+      ASSERT_EQ(MinuteAt(x, y), (y / 20 + 4 * (x / 20)) * 15) << x << " " << y;
+    }
+  }
+}
+
+TEST(TimeGrid, PaintsTheBoxBelowItsTitle) {
+  EXPECT_EQ(TimeGrid(300, 200).PaintedArea(), (Rect{2, 19, 297, 197}));
+}
+
+/// The recorded lines that start with `verb`.
+std::vector<std::string> Recorded(const TimeGrid::Picture& picture, const std::string& verb) {
+  RecordingCanvas canvas;
+  TimeGrid(width, height).Paint(canvas, picture);
+  std::vector<std::string> lines;
+  std::copy_if(canvas.lines.begin(), canvas.lines.end(), std::back_inserter(lines),
+               [&](const std::string& line) { return line.starts_with(verb); });
+  return lines;
+}
+
+TEST(TimeGrid, DrawsGroundLabelsAndLines) {
+  const TimeGrid::Picture picture{.dayColour = 0x123456, .selection = std::nullopt};
+  EXPECT_EQ(Recorded(picture, "text").size(), 5U);
+  EXPECT_EQ(Recorded(picture, "rectangle").size(), 2U);
+  EXPECT_EQ(Recorded(picture, "line").size(), 25U + 5U + 2U);
+}
+
+TEST(TimeGrid, EachSelectedMinuteIsARectangle) {
+  const TimeGrid::Picture picture{
+      .dayColour = 0xFFFFFF, .selection = MinuteRange{59, 61}, .selectionColour = 0x0000FF};
+  EXPECT_EQ(Recorded(picture, "rectangle").size(), 2U + 2U);
+  EXPECT_EQ(Recorded({.selection = MinuteRange{0, 1440}}, "rectangle").size(), 2U + 1440U);
+}
+
+TEST(TimeGrid, ABoxOfAnySizeIsPainted) {
+  for (const int side : {0, 1, 20, 33, 34, 100, 5000}) {
+    RecordingCanvas canvas;
+    TimeGrid(side, side).Paint(canvas, {.selection = MinuteRange{0, 1440}});
+    EXPECT_FALSE(canvas.lines.empty()) << side;
+  }
+}
+
+}  // namespace
+}  // namespace qv

@@ -1,0 +1,109 @@
+#include "timestructure/DaySlots.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "discriminator/Fields.h"
+#include "discriminator/ValueForms.h"
+
+namespace qv {
+namespace {
+
+constexpr int hoursOfDay = 24;
+constexpr int minutesOfHour = 60;
+constexpr int minutesOfDay = hoursOfDay * minutesOfHour;
+
+bool IsDigit(wchar_t letter) { return letter >= L'0' && letter <= L'9'; }
+
+/// The minutes of a slot, the end exclusive.
+struct Minutes {
+  int from = 0;
+  int to = 0;
+
+  int Length() const { return to - from; }
+  bool Overlaps(const Minutes& other) const { return from < other.to && to > other.from; }
+};
+
+/// What is wrong with the times of a slot, before it is compared with others.
+std::optional<Text> FaultOf(TimeOfDay from, TimeOfDay to) {
+  const auto isBeyondDay = [](TimeOfDay time) {
+    return time.hours > hoursOfDay || (time.hours == hoursOfDay && time.minutes > 0);
+  };
+  if (isBeyondDay(from) || isBeyondDay(to)) {
+    return Text::SlotHourOutOfRange;
+  }
+  if (from.minutes >= minutesOfHour || to.minutes >= minutesOfHour) {
+    return Text::SlotMinuteOutOfRange;
+  }
+  return from.Minutes() > to.Minutes() ? std::optional(Text::SlotStartAfterEnd) : std::nullopt;
+}
+
+}  // namespace
+
+QVWideString NormalizeTime(const QVWideString& text) {
+  const std::wstring_view view = text.ToView();
+  constexpr std::size_t length = 5;
+  const bool isTime = view.size() == length && view[2] == L':' && IsDigit(view[0]) &&
+                      IsDigit(view[1]) && IsDigit(view[3]) && IsDigit(view[4]);
+  return isTime ? text : QVWideString(L"00:00");
+}
+
+DaySlots::DaySlots(XmlNode& day, const XmlNode& hourTypes) : m_day(day), m_hourTypes(hourTypes) {}
+
+void DaySlots::Fill() {
+  m_rows.clear();
+  for (auto child = m_day.ChildsBegin(); child != m_day.ChildsEnd();) {
+    XmlNode* slot = *child;
+    ++child;
+    if (slot->Tag() != tag::Slot) {
+      continue;
+    }
+    const XmlNode* hour = m_hourTypes.NodeV(L"hour?id=%s?", slot->Value(tag::Id, L""));
+    if (!hour) {
+      m_day.RemoveChild(slot);
+      continue;
+    }
+    m_rows.push_back({hour->Value(tag::Name, L""), ColorOf(hour->Value(tag::Color, L"")),
+                      NormalizeTime(slot->Value(tag::From, L"")),
+                      NormalizeTime(slot->Value(tag::To, L""))});
+  }
+}
+
+XmlNode* DaySlots::SlotOfRow(int row) {
+  int slots = 0;
+  const auto found = std::find_if(m_day.ChildsBegin(), m_day.ChildsEnd(), [&](XmlNode* child) {
+    return child->Tag() == tag::Slot && slots++ == row;
+  });
+  return found == m_day.ChildsEnd() ? nullptr : *found;
+}
+
+void DaySlots::Remove(int row) {
+  if (XmlNode* slot = SlotOfRow(row)) {
+    m_day.RemoveChild(slot);
+    m_rows.erase(m_rows.begin() + row);
+  }
+}
+
+bool DaySlots::CheckSlots(bool warn, Prompter& prompter) const {
+  std::vector<Minutes> earlier;
+  int total = 0;
+  for (const SlotRow& row : m_rows) {
+    const TimeOfDay from = TimeOf(row.from);
+    const TimeOfDay to = TimeOf(row.to);
+    if (const auto fault = FaultOf(from, to)) {
+      prompter.Show(*fault);
+      return false;
+    }
+    const Minutes slot{from.Minutes(), to.Minutes()};
+    if (std::any_of(earlier.begin(), earlier.end(),
+                    [&](const Minutes& other) { return slot.Overlaps(other); })) {
+      prompter.Show(Text::SlotsOverlap);
+      return false;
+    }
+    total += slot.Length();
+    earlier.push_back(slot);
+  }
+  return total >= minutesOfDay || !warn || prompter.Ask(Text::DayNotCoveredQuestion);
+}
+
+}  // namespace qv

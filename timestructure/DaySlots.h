@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "host/Prompter.h"
+#include "tools/XmlNode.h"
+
+namespace qv {
+
+/// A row of the slots of a day type.
+struct SlotRow {
+  QVWideString hourType;     ///< name of its hour type
+  std::uint32_t colour = 0;  ///< of its hour type, red in the lowest byte
+  QVWideString from;         ///< as shown: "00:00" where the document has another form
+  QVWideString to;
+
+  friend bool operator==(const SlotRow&, const SlotRow&) = default;
+};
+
+/// `text` if it has the form of a time ("07:30", any digits), and "00:00" for any other text.
+QVWideString NormalizeTime(const QVWideString& text);
+
+/// The slots of one day type: in its document, in the order in which they were made, and as rows.
+/// The k-th row is that of the k-th slot.
+class DaySlots {
+ public:
+  /// Both nodes outlive the slots.
+  DaySlots(XmlNode& day, const XmlNode& hourTypes);
+
+  /// Reads the rows anew, and removes from the document, in silence, the slots whose hour type is
+  /// no more. Nothing else drops a slot.
+  void Fill();
+  const std::vector<SlotRow>& Rows() const { return m_rows; }
+
+  /// The slot of a row, or null if there is no such row.
+  XmlNode* SlotOfRow(int row);
+
+  /// Removes the row and its slot.
+  void Remove(int row);
+
+  /// Whether the rows, as shown, make a day. Told is the first fault: an hour above 24 or 24 with
+  /// minutes, minutes above 59, a start after its end, two slots that overlap (slots that touch
+  /// don't). With `warn` a day with gaps is asked about; without, gaps pass.
+  bool CheckSlots(bool warn, Prompter& prompter) const;
+
+ private:
+  XmlNode& m_day;
+  const XmlNode& m_hourTypes;
+  std::vector<SlotRow> m_rows;
+};
+
+}  // namespace qv

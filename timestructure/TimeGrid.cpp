@@ -1,0 +1,108 @@
+#include "timestructure/TimeGrid.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "tools/Numbers.h"
+
+namespace qv {
+namespace {
+
+constexpr int hours = 24;
+constexpr int minutesOfHour = 60;
+constexpr int quartersOfHour = 4;
+
+/// The title of the box stands in this height, for the painted area and for the mouse alike.
+constexpr int headerHeight = 19;
+/// The labels of the hours, and the row that the mouse leaves to them.
+constexpr int labelHeight = 12;
+
+constexpr int margin = 6;
+constexpr Canvas::Colour grey = 0x808080;
+
+}  // namespace
+
+/// The grid in the painted area, once the height of the labels is known.
+struct TimeGrid::Cells {
+  Rect area;  ///< of labels and cells
+  int top;    ///< of the cells
+  double column;
+  double row;
+  double band;
+
+  double X(int hour) const { return hour * column + area.left; }
+  double Y(int minute) const { return minute * row + top; }
+};
+
+Rect TimeGrid::PaintedArea() const { return {2, headerHeight, m_width - 3, m_height - 3}; }
+
+Rect TimeGrid::HitArea() const {
+  return {8, labelHeight + headerHeight, m_width - 9, m_height - 9};
+}
+
+TimeGrid::Cells TimeGrid::CellsOf(int labels) const {
+  const Rect painted = PaintedArea();
+  const Rect area{margin, 0, painted.Width() - margin, painted.Height() - margin};
+  const int height = area.Height() - labels;
+  return {area, area.top + labels, area.Width() / static_cast<double>(hours),
+          height / static_cast<double>(minutesOfHour), height * 0.25};
+}
+
+int TimeGrid::DrawBackground(Canvas& canvas, const Picture& picture) const {
+  const Rect painted = PaintedArea();
+  canvas.Rectangle({0, 0, painted.Width(), painted.Height()}, picture.ground, picture.ground);
+  const Cells cells = CellsOf(0);
+  int height = 0;
+  for (const int hour : {0, 6, 12, 18, 23}) {
+    const std::wstring label = std::to_wstring(hour);
+    const Extent extent = canvas.TextExtent(label, labelHeight);
+    const double x = (cells.column - extent.cx) * 0.5 + cells.X(hour);
+    canvas.Text({static_cast<int>(x), cells.area.top}, label, labelHeight, picture.ink);
+    height = extent.cy;
+  }
+  canvas.Rectangle({margin, height, painted.Width() - margin, painted.Height() - margin},
+                   picture.dayColour, picture.dayColour);
+  return height;
+}
+
+void TimeGrid::Paint(Canvas& canvas, const Picture& picture) const {
+  const Cells cells = CellsOf(DrawBackground(canvas, picture));
+  if (picture.selection) {
+    for (int minute = picture.selection->from; minute < picture.selection->to; ++minute) {
+      const double x = cells.X(minute / minutesOfHour);
+      const double y = cells.Y(minute % minutesOfHour);
+      canvas.Rectangle({static_cast<int>(x), static_cast<int>(y), roundi(x + cells.column),
+                        roundi(y + cells.row)},
+                       picture.selectionColour, picture.selectionColour);
+    }
+  }
+  for (int hour = 0; hour <= hours; ++hour) {
+    const int x = static_cast<int>(cells.X(hour));
+    canvas.Line({x, cells.top}, {x, cells.area.bottom}, picture.ink);
+  }
+  for (int band = 0; band <= quartersOfHour; ++band) {
+    const int y = static_cast<int>(band * cells.band + cells.top);
+    canvas.Line({cells.area.left, y}, {cells.area.right + 1, y}, picture.ink);
+  }
+  const int right = cells.area.right + 1;
+  const int bottom = cells.area.bottom + 1;
+  canvas.Line({right, cells.top + 1}, {right, bottom}, grey);
+  canvas.Line({cells.area.left + 1, bottom}, {right, bottom}, grey);
+}
+
+std::optional<int> TimeGrid::MinuteAt(Point place) const {
+  const Rect hit = HitArea();
+  const bool isInside = place.x >= hit.left && place.x <= hit.right && place.y >= hit.top &&
+                        place.y <= hit.bottom && !hit.IsEmpty();
+  if (!isInside) {
+    return std::nullopt;
+  }
+  const int x = std::min(place.x - hit.left, hit.Width() - 1);
+  const int y = std::min(place.y - hit.top, hit.Height() - 1);
+  const int column = static_cast<int>(x / (hit.Width() / static_cast<double>(hours)));
+  const int row = static_cast<int>(y / (hit.Height() * 0.25));
+  return (row + quartersOfHour * column) * quarter;
+}
+
+}  // namespace qv

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <optional>
+
+#include "timestructure/TimeSlotForm.h"
+#include "tools/Canvas.h"
+
+namespace qv {
+
+/// A day as a grid inside a group box: a column for each hour, sixty rows for its minutes, ruled in
+/// quarters. All of it is arithmetic on the size of the box.
+class TimeGrid {
+ public:
+  /// The minutes of a cell that the mouse selects.
+  static constexpr int quarter = 15;
+
+  /// What is drawn, and in which colours.
+  struct Picture {
+    Canvas::Colour dayColour = 0xFFFFFF;  ///< ground of the grid
+    std::optional<MinuteRange> selection;
+    Canvas::Colour selectionColour = 0;
+    Canvas::Colour ground = 0xF0F0F0;  ///< around the grid
+    Canvas::Colour ink = 0;            ///< of labels and lines
+  };
+
+  /// The size of the group box, in pixels.
+  TimeGrid(int width, int height) : m_width(width), m_height(height) {}
+
+  /// What is painted, in the coordinates of the box. Its own coordinates begin at its corner.
+  Rect PaintedArea() const;
+
+  /// Paints all of that area.
+  void Paint(Canvas& canvas, const Picture& picture) const;
+
+  /// The start of the quarter at this place of the box (0 to 1425); nothing outside the grid. The
+  /// right and the bottom edge belong to the last column and row.
+  std::optional<int> MinuteAt(Point place) const;
+
+ private:
+  struct Cells;
+
+  Rect HitArea() const;
+  int DrawBackground(Canvas& canvas, const Picture& picture) const;
+  Cells CellsOf(int labelHeight) const;
+
+  int m_width;
+  int m_height;
+};
+
+}  // namespace qv
