@@ -7,6 +7,9 @@
 #include "apps/qvdisc/Check.h"
 #include "discriminator/Fields.h"
 #include "discriminator/Nodes.h"
+#include "discriminator/ValueForms.h"
+#include "timestructure/DaySlots.h"
+#include "timestructure/TimeSlotForm.h"
 #include "tools/Format.h"
 #include "tools/Numbers.h"
 
@@ -24,6 +27,8 @@ std::optional<int> NumberInTag(const XmlNode& node, std::wstring_view prefix) {
                           digits.find_first_not_of(L"0123456789") == std::wstring_view::npos;
   return isNumbered ? std::optional(qv::Wtoi(digits)) : std::nullopt;
 }
+
+constexpr int minutesOfDay = 24 * 60;
 
 class DocumentCheck {
  public:
@@ -66,17 +71,82 @@ class DocumentCheck {
   }
 
   void CheckSlots(const XmlNode& day, const std::set<std::wstring>& hours) {
+    const std::wstring place = L"dayTypes/" + FieldOf(day, qv::tag::Name);
+    std::vector<NamedSlot> good;
     unsigned number = 0;
     for (const XmlNode* slot : qv::ChildrenWithTag(&day, qv::tag::Slot)) {
-      ++number;
+      const std::wstring from = FieldOf(*slot, qv::tag::From);
+      const std::wstring to = FieldOf(*slot, qv::tag::To);
+      const std::wstring name =
+          qv::Format(L"slot %u (%s-%s)", {++number, from.c_str(), to.c_str()});
       const std::wstring id = FieldOf(*slot, qv::tag::Id);
       if (hours.count(id) == 0) {
-        const std::wstring place =
-            qv::Format(L"dayTypes/%s/slot %u (%s-%s)",
-                       {day.Value(qv::tag::Name, L""), number, slot->Value(qv::tag::From, L""),
-                        slot->Value(qv::tag::To, L"")});
-        Tell({.kind = FindingKind::DeadHourType, .place = place, .value = id});
+        Tell({.kind = FindingKind::DeadHourType, .place = place + L"/" + name, .value = id});
       }
+      if (const auto times = GoodTimes(from, to, place + L"/" + name)) {
+        good.push_back({name, *times});
+      }
+    }
+    CheckTogether(good, place, number);
+  }
+
+  /// A slot whose times are those of a day.
+  struct NamedSlot {
+    std::wstring name;
+    qv::MinuteRange times;
+  };
+
+  /// The times of a slot, unless it has been told what is wrong with them.
+  std::optional<qv::MinuteRange> GoodTimes(const std::wstring& from, const std::wstring& to,
+                                           const std::wstring& place) {
+    const auto start = GoodTime(from, place);
+    const auto end = GoodTime(to, place);
+    if (!start || !end) {
+      return std::nullopt;
+    }
+    if (*start > *end) {
+      Tell({.kind = FindingKind::StartAfterEnd, .place = place});
+      return std::nullopt;
+    }
+    return qv::MinuteRange{*start, *end};
+  }
+
+  std::optional<int> GoodTime(const std::wstring& text, const std::wstring& place) {
+    constexpr int minutesOfHour = 60;
+    const QVWideString wide(text.c_str());
+    const qv::TimeOfDay time = qv::TimeOf(wide);
+    if (qv::NormalizeTime(wide) != wide) {
+      Tell({.kind = FindingKind::MalformedTime, .place = place, .value = text});
+      return std::nullopt;
+    }
+    if (time.minutes >= minutesOfHour || time.Minutes() > minutesOfDay) {
+      Tell({.kind = FindingKind::TimeOutOfRange, .place = place, .value = text});
+      return std::nullopt;
+    }
+    return time.Minutes();
+  }
+
+  /// What is wrong between the slots of a day; of gaps only where all of its slots are good.
+  void CheckTogether(const std::vector<NamedSlot>& slots, const std::wstring& place,
+                     unsigned slotsOfDay) {
+    int covered = 0;
+    bool isApart = true;
+    for (auto slot = slots.begin(); slot != slots.end(); ++slot) {
+      const auto other = std::find_if(slots.begin(), slot, [&](const NamedSlot& earlier) {
+        return slot->times.from < earlier.times.to && slot->times.to > earlier.times.from;
+      });
+      if (other != slot) {
+        isApart = false;
+        Tell({.kind = FindingKind::SlotsOverlap,
+              .place = place + L"/" + slot->name,
+              .value = other->name});
+      }
+      covered += slot->times.to - slot->times.from;
+    }
+    if (isApart && slots.size() == slotsOfDay && covered < minutesOfDay) {
+      Tell({.kind = FindingKind::DayGaps,
+            .place = place,
+            .value = std::to_wstring(minutesOfDay - covered)});
     }
   }
 

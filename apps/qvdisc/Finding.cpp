@@ -33,6 +33,11 @@ constexpr std::array kinds = {
     KindRow{FindingKind::DuplicateName, "duplicate-name", Word::DuplicateName},
     KindRow{FindingKind::DuplicatePart, "duplicate-part", Word::DuplicatePart},
     KindRow{FindingKind::ForeignConfiguration, "foreign-configuration", Word::ForeignConfiguration},
+    KindRow{FindingKind::MalformedTime, "malformed-time", Word::MalformedTime},
+    KindRow{FindingKind::TimeOutOfRange, "time-out-of-range", Word::TimeOutOfRange},
+    KindRow{FindingKind::StartAfterEnd, "start-after-end", Word::StartAfterEnd},
+    KindRow{FindingKind::SlotsOverlap, "slots-overlap", Word::SlotsOverlap},
+    KindRow{FindingKind::DayGaps, "day-gaps", Word::DayGaps},
 };
 
 constexpr bool EachRowStandsAtItsKind() {

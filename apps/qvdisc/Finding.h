@@ -26,6 +26,11 @@ enum class FindingKind {
   DuplicateName,
   DuplicatePart,
   ForeignConfiguration,
+  MalformedTime,
+  TimeOutOfRange,
+  StartAfterEnd,
+  SlotsOverlap,
+  DayGaps,
 
   Count
 };
@@ -41,7 +46,7 @@ struct Finding {
   unsigned column = 0;
 
   /// Whether something has to be mended, rather than only explained.
-  bool IsFault() const { return kind != FindingKind::HiddenType; }
+  bool IsFault() const { return kind != FindingKind::HiddenType && kind != FindingKind::DayGaps; }
   /// Whether it is why the list leaves the file out.
   bool LeavesOut() const { return kind <= FindingKind::NameDiffers; }
 

@@ -114,6 +114,12 @@ constexpr std::array rows = {
     Row{Word::DuplicateName, L"otro archivo tiene el mismo nombre «%s»",
         L"another file has the same name “%s”"},
     Row{Word::DuplicatePart, L"%s repetido en %s: «%s»", L"repeated %s in %s: “%s”"},
+    Row{Word::MalformedTime, L"%s: «%s» no tiene la forma hh:mm y se muestra como 00:00",
+        L"%s: “%s” is not of the form hh:mm and shows as 00:00"},
+    Row{Word::TimeOutOfRange, L"%s: «%s» no es una hora del día", L"%s: “%s” is no time of a day"},
+    Row{Word::StartAfterEnd, L"%s: empieza después de su fin", L"%s: starts after its end"},
+    Row{Word::SlotsOverlap, L"%s: se solapa con %s", L"%s: overlaps %s"},
+    Row{Word::DayGaps, L"%s: %s minutos sin franja", L"%s: %s minutes without a slot"},
 };
 
 constexpr bool EachRowStandsAtItsWord() {

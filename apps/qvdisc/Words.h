@@ -73,6 +73,11 @@ enum class Word {
   DuplicateId,     ///< the id
   DuplicateName,   ///< the name
   DuplicatePart,   ///< tag of the field, place, value
+  MalformedTime,   ///< place, the text
+  TimeOutOfRange,  ///< place, the text
+  StartAfterEnd,   ///< place
+  SlotsOverlap,    ///< place, the other slot
+  DayGaps,         ///< place, how many minutes
 
   Count
 };

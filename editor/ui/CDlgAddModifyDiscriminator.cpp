@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 
+#include "timestructure/ui/CDlgDayTypes.h"
 #include "timestructure/ui/CDlgHourTypes.h"
 #include "toolkit/ChoiceBox.h"
 #include "toolkit/LimitTyping.h"
@@ -41,6 +42,8 @@ CDlgAddModifyDiscriminator::CDlgAddModifyDiscriminator(qv::XmlNode* deviceGroups
           &CDlgAddModifyDiscriminator::OnSelchangeType);
   connect(Find<QVHyperlink>(hourTypesLink), &QVHyperlink::clicked, this,
           &CDlgAddModifyDiscriminator::OnHourTypes);
+  connect(Find<QVHyperlink>(dayTypesLink), &QVHyperlink::clicked, this,
+          &CDlgAddModifyDiscriminator::OnDayTypes);
 }
 
 CDlgAddModifyDiscriminator::~CDlgAddModifyDiscriminator() = default;
@@ -81,7 +84,7 @@ void CDlgAddModifyDiscriminator::InitializeTexts() {
   SetButton(IDOK, Text::Ok, L"OK-16.png");
   SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
   SetText(0, m_form->IsNew() ? Text::AddDiscriminatorTitle : Text::ModifyDiscriminatorTitle);
-  for (const int link : {calendarLink, dayTypesLink, conditionsLink}) {
+  for (const int link : {calendarLink, conditionsLink}) {
     Control(link)->setEnabled(false);
     Find<QVHyperlink>(link)->SetHint(qv::OwnText(Services().loadString, Text::LinkNotReady));
   }
@@ -121,6 +124,13 @@ void CDlgAddModifyDiscriminator::OnSelchangeType(int index) {
 void CDlgAddModifyDiscriminator::OnHourTypes() {
   m_form->OnHourTypes([this](qv::XmlNode* hourTypes, qv::XmlNode* dayTypes) {
     CDlgHourTypes dialog(this, hourTypes, dayTypes);
+    return qv::RunDialog<qv::EditorEnd>(dialog);
+  });
+}
+
+void CDlgAddModifyDiscriminator::OnDayTypes() {
+  m_form->OnDayTypes([this](qv::XmlNode* dayTypes, qv::XmlNode* calendar, qv::XmlNode* hourTypes) {
+    CDlgDayTypes dialog(this, dayTypes, calendar, hourTypes);
     return qv::RunDialog<qv::EditorEnd>(dialog);
   });
 }

@@ -39,6 +39,7 @@ class CDlgAddModifyDiscriminator : public CDialog {
   void AddDetails(QVHoritzontalLayout& row) const;
   void OnSelchangeType(int index);
   void OnHourTypes();
+  void OnDayTypes();
   qv::DiscriminatorFields Typed() const;
 
   qv::XmlNode* m_deviceGroups;

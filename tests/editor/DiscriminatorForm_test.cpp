@@ -163,6 +163,36 @@ TEST_F(FormTest, HourTypesConfirmedWithoutAChangeComeBackToo) {
   EXPECT_FALSE(form.IsModified());
 }
 
+TEST_F(FormTest, ConfirmedDayTypesComeBackWithCalendarAndHourTypes) {
+  auto form = OpenContent(withParts);
+  form.OnDayTypes([&](XmlNode* dayTypes, XmlNode* calendar, XmlNode* hourTypes) {
+    EXPECT_EQ(*dayTypes, *form.Root().Node(L"dayTypes"));
+    EXPECT_EQ(*calendar, *form.Root().Node(L"calendar"));
+    EXPECT_EQ(*hourTypes, *form.Root().Node(L"hourTypes"));
+    dayTypes->Reset();
+    hourTypes->Reset();
+    calendar->NewChild(L"year", nullptr);
+    EXPECT_EQ(PartsOf(form), L"h|d|");
+    return EditorEnd{true, true};
+  });
+  EXPECT_EQ(PartsOf(form), L"||");
+  EXPECT_TRUE(form.Root().Node(L"calendar")->Node(L"year"));
+  EXPECT_TRUE(form.IsModified());
+}
+
+TEST_F(FormTest, CancelledDayTypesLeaveTheDocumentAsItWas) {
+  auto form = OpenContent(withParts);
+  form.OnDayTypes([](XmlNode* dayTypes, XmlNode* calendar, XmlNode* hourTypes) {
+    dayTypes->Reset();
+    hourTypes->Reset();
+    calendar->NewChild(L"year", nullptr);
+    return EditorEnd{false, true};
+  });
+  EXPECT_EQ(PartsOf(form), L"h|d|");
+  EXPECT_FALSE(form.Root().Node(L"calendar")->Node(L"year"));
+  EXPECT_FALSE(form.IsModified());
+}
+
 TEST_F(FormTest, AHourTypesDialogThatThrowsLeavesTheDocumentAsItWas) {
   auto form = OpenContent(withParts);
   EXPECT_THROW(form.OnHourTypes([](XmlNode* hourTypes, XmlNode*) -> EditorEnd {

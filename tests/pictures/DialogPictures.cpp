@@ -7,7 +7,10 @@
 #include "apps/configurator/Theme.h"
 #include "apps/configurator/Workspace.h"
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
+#include "timestructure/ui/CDlgAddModifyDayType.h"
 #include "timestructure/ui/CDlgAddModifyHourType.h"
+#include "timestructure/ui/CDlgAddModifyTimeSlot.h"
+#include "timestructure/ui/CDlgDayTypes.h"
 #include "timestructure/ui/CDlgHourTypes.h"
 
 namespace {
@@ -65,5 +68,16 @@ int main(int count, char** arguments) {
   Picture(wide, directory.filePath(QStringLiteral("hour-types-wide.png")), QSize(640, 480));
   CDlgAddModifyHourType hourType(nullptr, &hourTypes, *hourTypes.ChildsBegin());
   Picture(hourType, directory.filePath(QStringLiteral("hour-type.png")));
+
+  qv::XmlNode& dayTypes = *document.Root()->Node(L"dayTypes");
+  qv::XmlNode& day = **dayTypes.ChildsBegin();
+  CDlgDayTypes days(nullptr, &dayTypes, nullptr, &hourTypes);
+  Picture(days, directory.filePath(QStringLiteral("day-types.png")));
+  CDlgAddModifyDayType dayType(nullptr, &day, &dayTypes, &hourTypes);
+  Picture(dayType, directory.filePath(QStringLiteral("day-type.png")));
+  CDlgAddModifyDayType large(nullptr, &day, &dayTypes, &hourTypes);
+  Picture(large, directory.filePath(QStringLiteral("day-type-large.png")), QSize(1100, 700));
+  CDlgAddModifyTimeSlot slot(nullptr, &hourTypes, day.Node(L"slot"), 0x80CCFF);
+  Picture(slot, directory.filePath(QStringLiteral("time-slot.png")));
   return 0;
 }

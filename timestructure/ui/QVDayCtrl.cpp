@@ -1,12 +1,11 @@
 #include "timestructure/ui/QVDayCtrl.h"
 
-#include <QImage>
 #include <QPainter>
-#include <cmath>
 
 #include "host/QVLoadString.h"
 #include "timestructure/DayDial.h"
 #include "timestructure/SlotWords.h"
+#include "toolkit/OffScreen.h"
 #include "toolkit/PaintBox.h"
 #include "toolkit/PainterCanvas.h"
 #include "toolkit/Strings.h"
@@ -21,17 +20,6 @@ constexpr QSize naturalSize(280, 128);
 QString Words(Text text) {
   const QVLoadString* loadString = QVLoadString::Get();
   return loadString ? qv::OwnText(*loadString, text) : QString();
-}
-
-/// A surface for so many pixels, with all the dots that `painter` draws for them.
-QImage OffScreen(QSize size, const QPainter& painter) {
-  // The device knows only of the screen, while its picture may be asked for at any density.
-  const double density = std::sqrt(std::abs(painter.deviceTransform().determinant()));
-  const QSize dots(static_cast<int>(std::ceil(size.width() * density)),
-                   static_cast<int>(std::ceil(size.height() * density)));
-  QImage surface(dots, QImage::Format_RGB32);
-  surface.setDevicePixelRatio(density);
-  return surface;
 }
 
 }  // namespace
@@ -66,7 +54,7 @@ QSize QVDayCtrl::sizeHint() const { return naturalSize; }
 
 void QVDayCtrl::paintEvent(QPaintEvent*) {
   QPainter screen(this);
-  QImage surface = OffScreen(size(), screen);
+  QImage surface = qv::OffScreen(size(), screen);
   if (surface.isNull()) {
     return;
   }

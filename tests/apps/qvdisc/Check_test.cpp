@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 #include <set>
+#include <tuple>
 
 #include "tests/apps/qvdisc/CommandLine.h"
 
@@ -98,6 +99,31 @@ TEST_F(CheckTest, ASlotWithoutItsHourTypeIsToldWithItsPlace) {
   const Json found = Only("dead-hour-type");
   EXPECT_EQ(found["place"], "dayTypes/Winter day/slot 2 (08:00-18:00)");
   EXPECT_THAT(found["value"].get<std::string>(), testing::StartsWith("deaddead"));
+}
+
+TEST_F(CheckTest, SlotsThatMakeNoDayAreTold) {
+  const std::vector<std::tuple<std::string, std::string, std::string, std::string>> faults = {
+      {"<to>08:00</to>", "<to>8:00</to>", "malformed-time", "8:00"},
+      {"<to>08:00</to>", "<to>24:30</to>", "time-out-of-range", "24:30"},
+      {"<to>08:00</to>", "<to>07:60</to>", "time-out-of-range", "07:60"},
+      {"<from>18:00</from>", "<from>24:00</from>", "day-gaps", "360"},
+      {"<from>18:00</from>", "<from>17:59</from>", "slots-overlap", "slot 2 (08:00-18:00)"},
+      {"<from>18:00</from>", "<from>18:01</from>", "day-gaps", "1"},
+  };
+  const std::string good = Read(file);
+  for (const auto& [from, to, kind, value] : faults) {
+    Write(file, good);
+    Edit(file, from, to);
+    const auto findings = Findings(kind != "day-gaps");
+    ASSERT_EQ(Kinds(findings), kind + "\n") << to;
+    EXPECT_EQ(findings[0]["value"], value);
+    EXPECT_THAT(findings[0]["place"].get<std::string>(),
+                testing::StartsWith("dayTypes/Winter day"));
+    EXPECT_EQ(findings[0]["fault"], kind != "day-gaps");
+  }
+  Write(file, good);
+  Edit(file, "<from>08:00</from>", "<from>19:00</from>");
+  EXPECT_EQ(Only("start-after-end")["place"], "dayTypes/Winter day/slot 2 (19:00-18:00)");
 }
 
 TEST_F(CheckTest, ADateWithoutItsDayTypeIsTold) {

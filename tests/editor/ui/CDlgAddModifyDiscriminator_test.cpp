@@ -151,8 +151,8 @@ TEST_F(Editor, LabelsNameTheirControls) {
 TEST_F(Editor, LinksThatCannotBeOpenedYetSayWhy) {
   host->loadString.additions = {60005};
   Add([] {
-    EXPECT_FALSE(TopControl(dayTypesLink)->isEnabled());
-    EXPECT_EQ(TopControl(dayTypesLink)->toolTip(), "<p>[60005]</p>");
+    EXPECT_FALSE(TopControl(calendarLink)->isEnabled());
+    EXPECT_EQ(TopControl(calendarLink)->toolTip(), "<p>[60005]</p>");
     Click(IDCANCEL);
   });
 }
@@ -332,6 +332,40 @@ TEST_F(Editor, CancellingTheEditorDropsConfirmedHourTypes) {
     Click(IDCANCEL);
   });
   EXPECT_EQ(Content("1.old.xdct"), oldFile);
+}
+
+TEST_F(Editor, ADayTypeWithASlotAndAnHourTypeIsMadeThroughAllEditors) {
+  const QString path = AddFile("1.old.xdct", oldFile);
+  Modify(path, [&] {
+    WhenNextWindow([] {    // the day types
+      WhenNextWindow([] {  // a day type
+        QTest::keyClicks(TopControl(5299), "whole");
+        WhenNextWindow([] {    // a slot
+          WhenNextWindow([] {  // an hour type
+            QTest::keyClicks(TopControl(hourTypeName), "peak");
+            Click(IDOK);
+          });
+          Click(addHourType);
+          auto* hours = qobject_cast<QLineEdit*>(TopControl(5320));
+          hours->setFocus();
+          hours->selectAll();
+          QTest::keyClicks(hours, "24");
+          Click(IDOK);
+        });
+        Click(5348);
+        Click(IDOK);
+      });
+      Click(5348);
+      Click(IDOK);
+    });
+    Click(dayTypesLink);
+    Click(IDOK);
+  });
+  EXPECT_TRUE(modified);
+  const QByteArray content = Content("1.old.xdct");
+  EXPECT_TRUE(content.contains("<name>whole</name>"));
+  EXPECT_TRUE(content.contains("<name>peak</name>"));
+  EXPECT_TRUE(content.contains("<to>24:00</to>"));
 }
 
 TEST_F(Editor, TheWheelWithoutFocusLeavesTheType) {

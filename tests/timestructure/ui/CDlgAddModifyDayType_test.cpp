@@ -1,0 +1,286 @@
+#include "timestructure/ui/CDlgAddModifyDayType.h"
+
+#include <QColorDialog>
+#include <QGroupBox>
+
+#include "tests/timestructure/ui/DayTypesFixture.h"
+#include "timestructure/ui/CDlgDayTypes.h"
+#include "timestructure/ui/QVDayCtrl.h"
+
+namespace qv {
+namespace {
+
+class DayTypeEditor : public DayTypesFixture {
+ protected:
+  int Run(XmlNode& day, const std::function<void()>& script) {
+    CDlgAddModifyDayType editor(nullptr, &day, days.get(), hours.get());
+    const int result = Drive([&] { return editor.DoModal(); }, script);
+    modified = editor.m_modified;
+    return result;
+  }
+
+  /// Lets the slot editor that comes next take these times, and ends it by `end`.
+  static void SlotNext(const QString& from, const QString& to, int end = IDOK) {
+    WhenNextWindow([=] {
+      Type(fromHours, from);
+      Type(toHours, to);
+      Click(end);
+    });
+  }
+
+  static QColor DialAt(double x, double y) {
+    const auto* dial = TopControl(5000);
+    const QImage picture = const_cast<QWidget*>(dial)->grab().toImage();
+    return picture.pixelColor(static_cast<int>(picture.width() * x),
+                              static_cast<int>(picture.height() * y));
+  }
+};
+
+TEST_F(DayTypeEditor, ShowsNameSlotsAndDial) {
+  const int result = Run(Day(L"work"), [] {
+    EXPECT_EQ(TopWindow()->windowTitle(), "[460]");
+    EXPECT_EQ(Edit(dayName)->text(), "work");
+    EXPECT_EQ(Rows(), QStringList({"peak 00:00-12:00", "valley 12:00-24:00"}));
+    EXPECT_EQ(DialAt(0.25, 0.45), QColor(Qt::red));
+    EXPECT_EQ(DialAt(0.75, 0.45), QColor(Qt::blue));
+    EXPECT_FALSE(TopControl(modifyButton)->isEnabled());
+    EXPECT_EQ(List()->headerItem()->text(1), "[462]");
+    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(gridBox))->title(), "[339]");
+    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(5300))->title(), "[461]");
+    Click(IDOK);
+  });
+  EXPECT_EQ(result, IDOK);
+  EXPECT_FALSE(modified);
+  EXPECT_EQ(*days, daysBefore);
+}
+
+TEST_F(DayTypeEditor, SlotsAreAddedChangedAndRemoved) {
+  Run(Day(L"feast"), [] {
+    SlotNext("0", "6");
+    Click(addButton);
+    SlotNext("6", "20");
+    QTest::keyClick(List(), Qt::Key_Insert);
+    EXPECT_EQ(Rows(), QStringList({"peak 00:00-06:00", "peak 06:00-20:00"}));
+    EXPECT_EQ(DialAt(0.3, 0.45), QColor(Qt::red));
+    ClickRow(1);
+    SlotNext("6", "23");
+    Click(modifyButton);
+    EXPECT_EQ(Rows().last(), "peak 06:00-23:00");
+    EXPECT_TRUE(List()->SelectedRows().empty());
+    EXPECT_FALSE(TopControl(removeButton)->isEnabled());
+    ClickRow(0);
+    QTest::keyClick(List(), Qt::Key_Delete);
+    EXPECT_EQ(Rows(), QStringList("peak 06:00-23:00"));
+    EXPECT_EQ(List()->SelectedRows(), std::vector<int>{0});
+    AnswerNextBox(471, QMessageBox::Yes);
+    Click(IDOK);
+  });
+  EXPECT_TRUE(modified);
+  EXPECT_EQ(Day(L"feast").Node(L"slot")->Value(L"to", L""), L"23:00");
+}
+
+TEST_F(DayTypeEditor, ACancelledSlotLeavesNothingBehind) {
+  Run(Day(L"work"), [] {
+    SlotNext("1", "2", IDCANCEL);
+    Click(addButton);
+    ClickRow(0);
+    SlotNext("1", "2", IDCANCEL);
+    Click(modifyButton);
+    EXPECT_EQ(List()->SelectedRows(), std::vector<int>{0});
+    Click(IDOK);
+  });
+  EXPECT_EQ(*days, daysBefore);
+  EXPECT_FALSE(modified);
+}
+
+TEST_F(DayTypeEditor, FaultsAreToldBeforeTheWindowShowsAndGapsOnlyAtOk) {
+  Day(L"work").Node(L"slot")->SetValue(L"to", L"13:00");
+  Day(L"feast").NewChild(L"other", nullptr);
+  CDlgAddModifyDayType editor(nullptr, &Day(L"work"), days.get(), hours.get());
+  Drive([&] { return editor.DoModal(); },
+        [&] {
+          auto* box = qobject_cast<QMessageBox*>(TopWindow());
+          ASSERT_TRUE(box);
+          EXPECT_EQ(box->property("textNumber").toUInt(), 470U);
+          EXPECT_FALSE(editor.isVisible());
+          WhenNextWindow([] { Click(IDCANCEL); });
+          box->button(QMessageBox::Ok)->click();
+        });
+  EXPECT_FALSE(editor.m_modified);
+  Run(Day(L"feast"), [] {
+    EXPECT_TRUE(Rows().isEmpty());
+    AnswerNextBox(471, QMessageBox::No);
+    Click(IDOK);
+    AnswerNextBox(471, QMessageBox::Yes);
+    Click(IDOK);
+  });
+  EXPECT_FALSE(modified);
+}
+
+TEST_F(DayTypeEditor, SlotsOfARemovedHourTypeAreGone) {
+  hours->RemoveChild(hours->NodeV(L"hour?id=%s?", L"p"));
+  Run(Day(L"work"), [] {
+    EXPECT_EQ(Rows(), QStringList("valley 12:00-24:00"));
+    Click(IDCANCEL);
+  });
+  EXPECT_FALSE(modified);
+}
+
+TEST_F(DayTypeEditor, MalformedTimesAreShownAsMidnightWhileTheDialReadsThem) {
+  Day(L"work").Node(L"slot")->SetValue(L"from", L"7:30");
+  Run(Day(L"work"), [] {
+    EXPECT_EQ(Rows().first(), "peak 00:00-12:00");
+    EXPECT_EQ(DialAt(0.3, 0.45), QColor(0xFF, 0xCC, 0x80)) << "nothing before half past seven";
+    Click(IDOK);
+  });
+  EXPECT_EQ(Day(L"work").Node(L"slot")->Value(L"from", L""), L"7:30");
+}
+
+TEST_F(DayTypeEditor, AColourIsChosenForSwatchAndDial) {
+  Run(Day(L"feast"), [] {
+    WhenNextWindow([] {
+      qobject_cast<QColorDialog*>(TopWindow())->setCurrentColor(QColor(1, 2, 3));
+      QTest::keyClick(TopWindow(), Qt::Key_Return);
+    });
+    Click(daySwatch);
+    EXPECT_EQ(DialAt(0.25, 0.5), QColor(1, 2, 3));
+    AnswerNextBox(471, QMessageBox::Yes);
+    Click(IDOK);
+  });
+  EXPECT_EQ(Day(L"feast").Value(L"color", L""), L"030201");
+  EXPECT_TRUE(modified);
+}
+
+TEST_F(DayTypeEditor, ARefusedNameStaysInTheEditor) {
+  Run(Day(L"work"), [] {
+    Type(dayName, "feast");
+    AnswerNextBox(466, QMessageBox::Ok);
+    Click(IDOK);
+    Type(dayName, "");
+    Edit(dayName)->clear();
+    AnswerNextBox(464, QMessageBox::Ok);
+    Click(IDOK);
+    Click(IDCANCEL);
+  });
+  EXPECT_EQ(*days, daysBefore);
+}
+
+TEST_F(DayTypeEditor, AnHourTypeMadeInTheSlotEditorOutlivesACancel) {
+  XmlDocument copy(Day(L"work"));
+  Run(*copy.Root(), [] {
+    WhenNextWindow([] {
+      WhenNextWindow([] {
+        Type(hourName, "new");
+        Click(IDOK);
+      });
+      Click(addButton);
+      Click(IDOK);
+    });
+    Click(addButton);
+    Click(IDCANCEL);
+  });
+  EXPECT_TRUE(hours->NodeV(L"hour?name=%s?", L"new"));
+  EXPECT_EQ(*days, daysBefore);
+}
+
+TEST_F(DayTypeEditor, ColumnsAndSizesFollowTheWindow) {
+  Run(Day(L"work"), [] {
+    const QSize opened = TopWindow()->size();
+    EXPECT_EQ(TopWindow()->minimumSize(), opened);
+    for (const QSize size : {opened, QSize(1000, 700)}) {
+      TopWindow()->resize(size);
+      Settle();
+      const int room = List()->viewport()->width();
+      EXPECT_EQ(List()->columnWidth(0), room / 3);
+      EXPECT_EQ(List()->columnWidth(1), room / 3);
+      EXPECT_EQ(List()->columnWidth(2), room - 2 * (room / 3));
+      EXPECT_TRUE(TopControl(gridBox)->geometry().contains(TopControl(5000)->geometry()));
+    }
+    Click(IDCANCEL);
+  });
+}
+
+class DayTypeList : public DayTypesFixture {
+ protected:
+  int Run(const std::function<void()>& script) {
+    CDlgDayTypes dialog(nullptr, days.get(), calendar.get(), hours.get());
+    const int result = Drive([&] { return dialog.DoModal(); }, script);
+    modified = dialog.m_modified;
+    return result;
+  }
+
+  std::unique_ptr<XmlNode> calendar = Parsed("<calendar><year/></calendar>");
+};
+
+TEST_F(DayTypeList, ListsAndRemovesDayTypesAndLeavesTheCalendar) {
+  EXPECT_EQ(Run([] {
+              EXPECT_EQ(TopWindow()->windowTitle(), "[479]");
+              EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(5319))->title(), "[431]");
+              EXPECT_EQ(Rows(), QStringList({"feast", "work"}));
+              EXPECT_EQ(TopWindow()->minimumSize(), QSize(200, 300));
+              ClickRow(1);
+              Click(removeButton);
+              EXPECT_EQ(Rows(), QStringList("feast"));
+              Click(IDOK);
+            }),
+            IDOK);
+  EXPECT_TRUE(modified);
+  EXPECT_TRUE(calendar->Node(L"year"));
+}
+
+TEST_F(DayTypeList, ACancelledNewDayTypeTakesItsSlotsAlong) {
+  Run([] {
+    WhenNextWindow([] {
+      EXPECT_EQ(TopWindow()->windowTitle(), "[459]");
+      WhenNextWindow([] { Click(IDOK); });
+      Click(addButton);
+      EXPECT_EQ(Rows().size(), 1);
+      Click(IDCANCEL);
+    });
+    Click(addButton);
+    Click(IDOK);
+  });
+  EXPECT_EQ(*days, daysBefore);
+  EXPECT_FALSE(modified);
+}
+
+TEST_F(DayTypeList, ChangesToACopyComeBackAfterOk) {
+  Run([] {
+    ClickRow(1);
+    WhenNextWindow([] {
+      ClickRow(0);
+      Click(removeButton);
+      AnswerNextBox(471, QMessageBox::Yes);
+      Click(IDOK);
+    });
+    Click(modifyButton);
+    ClickRow(1);
+    WhenNextWindow([] {
+      EXPECT_EQ(Rows(), QStringList("valley 12:00-24:00"));
+      ClickRow(0);
+      Click(removeButton);
+      Click(IDCANCEL);
+    });
+    Click(modifyButton);
+    Click(IDOK);
+  });
+  EXPECT_TRUE(modified);
+  EXPECT_EQ(std::distance(Day(L"work").ChildsBegin(), Day(L"work").ChildsEnd()), 4);
+}
+
+TEST_F(DayTypeList, ANewDayTypeHasWhatWasEntered) {
+  Run([] {
+    WhenNextWindow([] {
+      Type(dayName, "new");
+      AnswerNextBox(471, QMessageBox::Yes);
+      Click(IDOK);
+    });
+    QTest::keyClick(List(), Qt::Key_Insert);
+    EXPECT_EQ(Rows(), QStringList({"feast", "new", "work"}));
+    Click(IDOK);
+  });
+  EXPECT_EQ(Day(L"new").Value(L"color", L""), L"FFFFFF");
+}
+
+}  // namespace
+}  // namespace qv

@@ -1,0 +1,290 @@
+#include "timestructure/ui/CDlgAddModifyTimeSlot.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include "tests/timestructure/ui/DayTypesFixture.h"
+#include "timestructure/TimeGrid.h"
+#include "toolkit/SpinButtons.h"
+
+namespace qv {
+namespace {
+
+class SlotEditor : public DayTypesFixture {
+ protected:
+  int Run(const std::string& id, const std::string& from, const std::string& to,
+          const std::function<void()>& script) {
+    slot = Parsed("<slot><id>" + id + "</id><from>" + from + "</from><to>" + to + "</to></slot>");
+    CDlgAddModifyTimeSlot editor(nullptr, hours.get(), slot.get(), 0x80CCFF);
+    const int result = Drive([&] { return editor.DoModal(); }, script);
+    modified = editor.m_modified;
+    return result;
+  }
+
+  std::wstring Stored() const {
+    return std::wstring(slot->Value(L"id", L"").ToView()) + L" " +
+           std::wstring(slot->Value(L"from", L"").ToView()) + L"-" +
+           std::wstring(slot->Value(L"to", L"").ToView());
+  }
+
+  static QString Shown() {
+    return Edit(fromHours)->text() + ":" + Edit(fromMinutes)->text() + "-" + Edit(toHours)->text() +
+           ":" + Edit(toMinutes)->text();
+  }
+
+  /// The middle of the quarter that starts at this minute, in the dialog.
+  static QPoint Cell(int minute) {
+    const QWidget* box = TopControl(gridBox);
+    const TimeGrid grid(box->width(), box->height());
+    for (int x = 0; x < box->width(); ++x) {
+      for (int y = 0; y < box->height(); ++y) {
+        if (grid.MinuteAt({x, y}) == minute) {
+          return box->mapTo(TopWindow(), QPoint(x + 3, y + 3));
+        }
+      }
+    }
+    ADD_FAILURE() << "no such cell";
+    return {};
+  }
+
+  static void Press(int minute) {
+    QTest::mousePress(TopWindow(), Qt::LeftButton, {}, Cell(minute));
+  }
+  static void MoveTo(const QPoint& place, Qt::MouseButtons buttons = Qt::LeftButton) {
+    QMouseEvent event(QEvent::MouseMove, place, TopWindow()->mapToGlobal(place), Qt::NoButton,
+                      buttons, {});
+    QApplication::sendEvent(TopWindow(), &event);
+  }
+  static void Release(const QPoint& place) {
+    QTest::mouseRelease(TopWindow(), Qt::LeftButton, {}, place);
+  }
+
+  static void ClickArrow(int spin, Qt::ArrowType arrow) {
+    for (auto* button : TopControl(spin)->findChildren<QToolButton*>()) {
+      if (button->arrowType() == arrow) {
+        QTest::mouseClick(button, Qt::LeftButton);
+      }
+    }
+  }
+
+  /// The colour of the picture at the middle of a quarter.
+  static QColor ColourAt(int minute) {
+    return TopWindow()->grab().toImage().pixelColor(Cell(minute));
+  }
+
+  std::unique_ptr<XmlNode> slot;
+};
+
+TEST_F(SlotEditor, ANewSlotIsStoredAsItOpens) {
+  EXPECT_EQ(Run("", "00:00", "00:00",
+                [] {
+                  EXPECT_EQ(TopWindow()->windowTitle(), "[473]");
+                  EXPECT_EQ(Shown(), "0:0-0:0");
+                  EXPECT_EQ(Combo()->currentText(), "peak");
+                  EXPECT_EQ(Combo()->count(), 2);
+                  Click(IDOK);
+                }),
+            IDOK);
+  EXPECT_EQ(Stored(), L"p 00:00-00:00");
+  EXPECT_FALSE(modified);
+}
+
+TEST_F(SlotEditor, EachControlHasItsText) {
+  Run("v", "01:00", "24:00", [] {
+    EXPECT_EQ(TopWindow()->windowTitle(), "[474]");
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5304))->text(), "[472]");
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5306))->text(), "[462]");
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5308))->text(), "[463]");
+    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(addButton))->text(), "[415]");
+    EXPECT_EQ(Edit(fromHours)->accessibleName(), "[462]");
+    EXPECT_EQ(Combo()->currentText(), "valley");
+    EXPECT_FALSE(TopControl(toMinutesSpin)->isEnabled());
+    EXPECT_TRUE(Edit(toMinutes)->isEnabled()) << "only the spin is locked";
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(SlotEditor, TimesAreTypedAndTheHourTypeChosen) {
+  Run("", "00:00", "00:00", [] {
+    Type(fromHours, "7");
+    Type(fromMinutes, "30");
+    Type(toHours, "8x5");  // digits only
+    EXPECT_EQ(Edit(toHours)->text(), "85");
+    QTest::keyClick(Edit(toHours), Qt::Key_Tab);
+    EXPECT_EQ(Edit(toHours)->text(), "24");
+    EXPECT_FALSE(TopControl(toMinutesSpin)->isEnabled());
+    Combo()->setFocus();
+    QTest::keyClick(Combo(), Qt::Key_Down);
+    Click(IDOK);
+  });
+  EXPECT_EQ(Stored(), L"v 07:30-24:00");
+  EXPECT_TRUE(modified);
+}
+
+TEST_F(SlotEditor, ATyped24WithMinutesIsStored) {
+  Run("p", "00:00", "01:00", [] {
+    Type(toHours, "24");
+    Type(toMinutes, "30");
+    QTest::keyClick(Edit(toMinutes), Qt::Key_Return);
+  });
+  EXPECT_EQ(Stored(), L"p 00:00-24:30");
+}
+
+TEST_F(SlotEditor, ReturnSavesAnEmptiedFieldByItsLastNumber) {
+  Run("p", "07:30", "08:00", [] {
+    Edit(fromHours)->setFocus();
+    Edit(fromHours)->selectAll();
+    QTest::keyClick(Edit(fromHours), Qt::Key_Delete);
+    QTest::keyClick(Edit(fromHours), Qt::Key_Return);
+  });
+  EXPECT_EQ(Stored(), L"p 07:30-08:00");
+}
+
+TEST_F(SlotEditor, ArrowsKeysAndWheelStep) {
+  Run("p", "00:00", "23:10", [] {
+    ClickArrow(toHoursSpin, Qt::UpArrow);
+    EXPECT_EQ(Shown(), "0:0-24:0");
+    EXPECT_FALSE(TopControl(toMinutesSpin)->isEnabled());
+    ClickArrow(toMinutesSpin, Qt::UpArrow);
+    ClickArrow(toHoursSpin, Qt::DownArrow);
+    EXPECT_EQ(Shown(), "0:0-23:0");
+    Edit(fromHours)->setFocus();
+    QTest::keyClick(Edit(fromHours), Qt::Key_Up);
+    QTest::keyClick(Edit(fromHours), Qt::Key_Up);
+    QTest::keyClick(Edit(fromHours), Qt::Key_Down);
+    EXPECT_EQ(Shown(), "1:0-23:0");
+    for (QWidget* target : {static_cast<QWidget*>(Edit(fromHours)), TopControl(fromHoursSpin)}) {
+      QWheelEvent wheel({5, 5}, target->mapToGlobal(QPoint(5, 5)), {}, {0, 120}, Qt::NoButton, {},
+                        Qt::NoScrollPhase, false);
+      QApplication::sendEvent(target, &wheel);
+    }
+    EXPECT_EQ(Shown(), "3:0-23:0");
+    Click(IDCANCEL);
+  });
+  EXPECT_TRUE(modified);
+}
+
+TEST_F(SlotEditor, AStartAfterItsEndIsToldAndTheEditorStays) {
+  Run("p", "09:00", "08:00", [] {
+    AnswerNextBox(469, QMessageBox::Ok);
+    Click(IDOK);
+    EXPECT_EQ(Shown(), "9:0-8:0");
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(SlotEditor, WithoutHourTypesOnlyTheirButtonWorks) {
+  hours->Reset();
+  Run("", "00:00", "00:00", [] {
+    for (const int id : {typeCombo, fromHours, fromMinutes, toHours, toMinutes, fromHoursSpin, 5315,
+                         toHoursSpin, toMinutesSpin}) {
+      EXPECT_FALSE(TopControl(id)->isEnabled()) << id;
+    }
+    AnswerNextBox(480, QMessageBox::Ok);
+    Click(IDOK);
+    WhenNextWindow([] { Click(IDCANCEL); });
+    Click(addButton);
+    EXPECT_FALSE(Combo()->isEnabled());
+    WhenNextWindow([] {
+      Type(hourName, "new");
+      Click(IDOK);
+    });
+    Click(addButton);
+    EXPECT_EQ(Combo()->currentText(), "new");
+    EXPECT_TRUE(Edit(toMinutes)->isEnabled());
+    Click(IDOK);
+  });
+  ASSERT_TRUE(hours->Node(L"hour"));
+  EXPECT_EQ(slot->Value(L"id", L""), hours->Node(L"hour")->Value(L"id", L"?"));
+}
+
+TEST_F(SlotEditor, AClickOnTheGridSelectsAQuarter) {
+  Run("p", "00:00", "00:00", [] {
+    Press(10 * 60 + 15);
+    Release(Cell(10 * 60 + 15));
+    EXPECT_EQ(Shown(), "10:15-10:30");
+    EXPECT_EQ(ColourAt(10 * 60 + 15), QColor(Qt::red));
+    EXPECT_EQ(ColourAt(10 * 60 + 30), QColor(0xFF, 0xCC, 0x80));
+    Click(IDOK);
+  });
+  EXPECT_EQ(Stored(), L"p 10:15-10:30");
+  EXPECT_TRUE(modified);
+}
+
+TEST_F(SlotEditor, ADragFollowsThePointerAndEndsWithTheButton) {
+  Run("p", "00:00", "00:00", [] {
+    Press(10 * 60 + 15);
+    MoveTo(Cell(12 * 60 + 30));
+    EXPECT_EQ(Shown(), "10:15-12:45");
+    MoveTo(Cell(9 * 60));
+    EXPECT_EQ(Shown(), "9:0-10:30");
+    MoveTo(QPoint(1, 1));
+    EXPECT_EQ(Shown(), "9:0-10:30");
+    Release(QPoint(1, 1));
+    MoveTo(Cell(20 * 60), Qt::NoButton);
+    EXPECT_EQ(Shown(), "9:0-10:30");
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(SlotEditor, AReleaseOutsideTheDialogLetsTheSelectionGoOnUntilTheNextPress) {
+  Run("p", "00:00", "00:00", [] {
+    Press(10 * 60);
+    Release(QPoint(-20, -20));
+    MoveTo(Cell(11 * 60), Qt::NoButton);
+    EXPECT_EQ(Shown(), "10:0-11:15");
+    Press(15 * 60);
+    MoveTo(Cell(16 * 60), Qt::NoButton);
+    EXPECT_EQ(Shown(), "10:0-11:15") << "the press only ended it";
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(SlotEditor, APressBesideTheGridEndsARunningSelection) {
+  Run("p", "00:00", "00:00", [] {
+    Press(10 * 60);
+    Release(QPoint(-20, -20));
+    QTest::mousePress(TopWindow(), Qt::LeftButton, {}, QPoint(2, 2));
+    MoveTo(Cell(11 * 60), Qt::NoButton);
+    EXPECT_EQ(Shown(), "10:0-10:15");
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(SlotEditor, LockedMinutesStayAtZeroWhileDragging) {
+  Run("p", "00:00", "24:00", [] {
+    Press(10 * 60 + 15);
+    MoveTo(Cell(12 * 60 + 15));
+    EXPECT_EQ(Shown(), "10:15-12:0");
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(SlotEditor, ItHasAFixedSizeAndNothingOverlaps) {
+  Run("p", "00:00", "24:00", [] {
+    EXPECT_EQ(TopWindow()->minimumSize(), TopWindow()->maximumSize());
+    const int ids[] = {typeCombo, addButton, fromHours,   fromHoursSpin, fromMinutes,
+                       5315,      toHours,   toHoursSpin, toMinutes,     toMinutesSpin,
+                       gridBox,   IDOK,      IDCANCEL};
+    for (const int a : ids) {
+      EXPECT_TRUE(TopWindow()->rect().contains(TopControl(a)->geometry())) << a;
+      for (const int b : ids) {
+        EXPECT_TRUE(a == b || !TopControl(a)->geometry().intersects(TopControl(b)->geometry()))
+            << a << " " << b;
+      }
+    }
+    Click(IDCANCEL);
+  });
+}
+
+TEST(SlotEditorAlone, WithoutAHostItGivesMinusOne) {
+  XmlNode hours(L"hourTypes");
+  XmlNode slot(L"slot");
+  CDlgAddModifyTimeSlot editor(nullptr, &hours, &slot, 0);
+  EXPECT_EQ(editor.DoModal(), -1);
+}
+
+}  // namespace
+}  // namespace qv

@@ -1,0 +1,252 @@
+#include "timestructure/ui/CDlgAddModifyDayType.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "timestructure/ui/CDlgAddModifyTimeSlot.h"
+#include "timestructure/ui/QVDayCtrl.h"
+#include "toolkit/AskColour.h"
+#include "toolkit/ColorIcons.h"
+#include "toolkit/ColorSwatch.h"
+#include "toolkit/Controls.h"
+#include "toolkit/LimitTyping.h"
+#include "toolkit/QVControlBoxButtonsLayout.h"
+#include "toolkit/QVLayout.h"
+#include "toolkit/ReportList.h"
+#include "toolkit/RunDialog.h"
+#include "toolkit/Strings.h"
+#include "toolkit/Texts.h"
+#include "ui_1303.h"
+
+namespace {
+
+constexpr int dial = 5000;
+constexpr int swatch = 5262;
+constexpr int nameLabel = 5298;
+constexpr int nameEdit = 5299;
+constexpr int slotsBox = 5300;
+constexpr int dialBox = 5301;
+constexpr int colourLabel = 5302;
+constexpr int slotsView = 5303;
+constexpr int removeButton = 5347;
+constexpr int addButton = 5348;
+constexpr int modifyButton = 5349;
+
+void BuildTemplate(QDialog* dialog) { Ui::Template1303().setupUi(dialog); }
+
+}  // namespace
+
+CDlgAddModifyDayType::CDlgAddModifyDayType(CWnd* parent, qv::XmlNode* day, qv::XmlNode* dayTypes,
+                                           qv::XmlNode* hourTypes)
+    : CDialog(BuildTemplate, parent),
+      m_day(day),
+      m_dayTypes(dayTypes),
+      m_hourTypes(hourTypes),
+      m_view(Find<qv::ReportList>(slotsView)),
+      m_dial(new QVDayCtrl(this)) {
+  m_dial->setProperty(qv::controlIdProperty, dial);
+  Connect();
+}
+
+CDlgAddModifyDayType::~CDlgAddModifyDayType() = default;
+
+void CDlgAddModifyDayType::Connect() {
+  using qv::ReportList;
+  const auto onClick = [this](int button, void (CDlgAddModifyDayType::*run)()) {
+    connect(Find<QPushButton>(button), &QPushButton::clicked, this, run);
+  };
+  onClick(addButton, &CDlgAddModifyDayType::OnAdd);
+  onClick(modifyButton, &CDlgAddModifyDayType::OnModify);
+  onClick(removeButton, &CDlgAddModifyDayType::OnRemove);
+  connect(m_view, &ReportList::DoubleClicked, this, &CDlgAddModifyDayType::OnModify);
+  connect(m_view, &ReportList::KeyDown, this, &CDlgAddModifyDayType::OnKeydown);
+  connect(m_view, &ReportList::itemSelectionChanged, this,
+          &CDlgAddModifyDayType::EnableDisableButtons);
+  connect(m_view, &ReportList::RoomChanged, this, &CDlgAddModifyDayType::ResizeColumns);
+  connect(Find<qv::ColorSwatch>(swatch), &qv::ColorSwatch::clicked, this,
+          &CDlgAddModifyDayType::OnColor);
+}
+
+std::optional<int> CDlgAddModifyDayType::OnCreate() {
+  if (const auto refused = CDialog::OnCreate()) {
+    return refused;
+  }
+  m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
+  m_form = std::make_unique<qv::DayTypeForm>(*m_day, *m_dayTypes, *m_hourTypes, *m_boxes);
+  return std::nullopt;
+}
+
+void CDlgAddModifyDayType::OnInitDialog() {
+  qv::LimitTyping(Find<QLineEdit>(nameEdit), qv::TypeIdentity::longestTypedName);
+  InitializeTexts();
+  CreateColumns();
+  qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Name()));
+  m_form->Fill();
+  FillList(std::nullopt);
+  PositioningControls();
+  ShowColour();
+  EnableDisableButtons();
+  m_form->ReportSlots();
+  KeepAsLeastSize();
+}
+
+void CDlgAddModifyDayType::InitializeTexts() {
+  SetText(0, m_form->Name().Empty() ? Text::AddDayTypeTitle : Text::ModifyDayTypeTitle);
+  SetLabel(nameLabel, nameEdit, Text::Name);
+  SetLabel(colourLabel, swatch, Text::Colour);
+  SetLabel(slotsBox, slotsView, Text::TimeSlots);
+  SetText(dialBox, Text::Diagram);
+  SetButton(addButton, Text::Add, L"NEW-16.png");
+  SetButton(modifyButton, Text::Modify, L"MODIFY-16.png");
+  SetButton(removeButton, Text::Remove, L"REMOVE-16.png");
+  SetButton(IDOK, Text::Ok, L"OK-16.png");
+  SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
+}
+
+void CDlgAddModifyDayType::CreateColumns() {
+  const auto& loadString = Services().loadString;
+  m_view->setColumnCount(3);
+  m_view->setHeaderLabels({qv::HostText(loadString, Text::Name),
+                           qv::HostText(loadString, Text::From),
+                           qv::HostText(loadString, Text::To)});
+  m_view->setIconSize(qv::SmallIconSize(m_view));
+}
+
+void CDlgAddModifyDayType::ResizeColumns() {
+  const int room = m_view->viewport()->width();
+  m_view->setColumnWidth(0, room / 3);
+  m_view->setColumnWidth(1, room / 3);
+  m_view->setColumnWidth(2, room - 2 * (room / 3));
+}
+
+void CDlgAddModifyDayType::FillList(std::optional<int> select) {
+  QList<QTreeWidgetItem*> items;
+  for (const qv::SlotRow& row : m_form->Rows()) {
+    auto* item = new QTreeWidgetItem(
+        {qv::ToQString(row.hourType), qv::ToQString(row.from), qv::ToQString(row.to)});
+    item->setIcon(0, qv::ColorIcon(row.colour, m_view->iconSize()));
+    items.append(item);
+  }
+  m_view->clear();
+  m_view->addTopLevelItems(items);
+  if (select) {
+    m_view->setCurrentItem(m_view->topLevelItem(*select));
+  }
+}
+
+void CDlgAddModifyDayType::UpdateDial() {
+  m_dial->Setup(m_day, m_hourTypes);
+  m_dial->update();
+}
+
+void CDlgAddModifyDayType::ShowColour() {
+  Find<qv::ColorSwatch>(swatch)->SetColour(m_form->Colour());
+  m_dial->SetBkColor(m_form->Colour());
+  m_dial->SetColor(m_form->Colour());
+  UpdateDial();
+}
+
+void CDlgAddModifyDayType::EnableDisableButtons() {
+  const bool selected = SelectedRow().has_value();
+  Control(modifyButton)->setEnabled(selected);
+  Control(removeButton)->setEnabled(selected);
+}
+
+std::optional<int> CDlgAddModifyDayType::SelectedRow() const {
+  const auto rows = m_view->SelectedRows();
+  return rows.empty() ? std::nullopt : std::optional(rows.front());
+}
+
+void CDlgAddModifyDayType::OnColor() {
+  const auto chosen =
+      qv::AskColour(this, m_form->Colour(), qv::HostText(Services().loadString, Text::Colour));
+  if (chosen && m_form->ChooseColour(*chosen)) {
+    ShowColour();
+  }
+}
+
+qv::DayTypeForm::RunEditor CDlgAddModifyDayType::Editor() {
+  return [this](qv::XmlNode& hourTypes, qv::XmlNode& slot) {
+    CDlgAddModifyTimeSlot editor(this, &hourTypes, &slot, m_form->Colour());
+    return qv::RunDialog<qv::EditorEnd>(editor);
+  };
+}
+
+void CDlgAddModifyDayType::OnAdd() { Follow(m_form->OnAdd(Editor())); }
+
+void CDlgAddModifyDayType::OnModify() { Follow(m_form->OnModify(SelectedRow(), Editor())); }
+
+void CDlgAddModifyDayType::OnRemove() { Follow(m_form->OnRemove(SelectedRow())); }
+
+void CDlgAddModifyDayType::OnKeydown(int key) {
+  if (key == Qt::Key_Delete) {
+    OnRemove();
+  } else if (key == Qt::Key_Insert) {
+    OnAdd();
+  }
+}
+
+void CDlgAddModifyDayType::Follow(const qv::ListEnd& end) {
+  if (end.refilled) {
+    FillList(end.rowToSelect);
+    UpdateDial();
+    ResizeColumns();
+  }
+}
+
+void CDlgAddModifyDayType::PositioningControls() {
+  const QSize swatchSize = Control(swatch)->size();
+  QVVerticalLayout label(this);
+  label.AddGap(50);
+  label.AddControl(colourLabel, LayoutSizeLabel);
+  label.AddGap(50);
+  QVHoritzontalLayout colour(this);
+  colour.AddControl(swatch, QVLayout::Pixels2Size(swatchSize.width()).width);
+  colour.AddGap(LayoutSizeStandard);
+  colour.AddLayout(&label, 100);
+  QVVerticalLayout lowered(this);
+  lowered.AddGap(100);
+  lowered.AddLayout(&colour, QVLayout::Pixels2Size(swatchSize.height()).height);
+  QVControlBoxButtonsLayout list(this, slotsView, slotsBox);
+  list.AddButtons21(addButton, modifyButton, removeButton);
+  QVVerticalLayout left(this);
+  left.AddControlAndLabel(nameEdit, nameLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
+  left.AddGap(LayoutSizeStandard);
+  left.AddLayout(&list, 100);
+  QVVerticalLayout right(this);
+  right.AddLayout(&lowered, LayoutSizeEdit);
+  right.AddGap(LayoutSizeStandard);
+  right.AddControlWithBox(dial, dialBox, 100, LayoutSizeStandard, true);
+  QVHoritzontalLayout sides(this);
+  sides.AddLayout(&left, 50);
+  sides.AddGap(LayoutSizeStandard);
+  sides.AddLayout(&right, 50);
+  QVHoritzontalLayout buttons(this);
+  buttons.AddGap(10);
+  buttons.AddControl(IDOK, 40);
+  buttons.AddGap(LayoutSizeStandard);
+  buttons.AddControl(IDCANCEL, 40);
+  buttons.AddGap(10);
+  QVVerticalLayout column(this);
+  column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
+  column.AddGap(LayoutSizeStandard);
+  column.AddLayout(&sides, 100);
+  column.AddGap(LayoutSizeStandard);
+  column.AddLayout(&buttons, LayoutSizeStandard);
+  column.AddGap(LayoutSizeStandard);
+  column.Layout(rect());
+  ResizeColumns();
+}
+
+void CDlgAddModifyDayType::OnOK() {
+  if (m_form->Save(qv::ToWide(Find<QLineEdit>(nameEdit)->text()))) {
+    CDialog::OnOK();
+  }
+}
+
+void CDlgAddModifyDayType::OnDestroy() {
+  m_modified = m_form->IsModified();
+  m_view->clear();
+  m_form.reset();
+  m_boxes.reset();
+}
