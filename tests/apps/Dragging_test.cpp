@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "tests/apps/ExampleCopy.h"
-#include "tests/apps/VirtualDisplay.h"
+#include "tests/support/VirtualDisplay.h"
 #include "tools/XmlDocument.h"
 
 namespace configurator {
@@ -24,7 +24,7 @@ std::vector<std::wstring> DevicesOfFirstGroup(const ExampleCopy& installation) {
 }
 
 TEST(Dragging, ALineGoesIntoAGroupAndNoneIsLost) {
-  const VirtualDisplay display;
+  const qv::VirtualDisplay display;
   const ExampleCopy installation;
   QProcess process;
   display.Start(process, CONFIGURATOR_FILE, {"--installation", installation.Directory()});
@@ -38,11 +38,11 @@ TEST(Dragging, ALineGoesIntoAGroupAndNoneIsLost) {
         display.Press("ctrl+s");
         return QTest::qWaitFor([&] { return installation.ConfigurationBytes() != before; }, 1000);
       },
-      patience));
+      qv::patience));
   const auto devices = DevicesOfFirstGroup(installation);
   ASSERT_EQ(devices.size(), 4U);
   EXPECT_EQ(devices.back(), L"73831dc0-bb6b-43da-9b25-0728e950cccc");
-  VirtualDisplay::End(process);
+  qv::VirtualDisplay::End(process);
 }
 
 }  // namespace

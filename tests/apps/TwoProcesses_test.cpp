@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "tests/apps/ExampleCopy.h"
-#include "tests/apps/VirtualDisplay.h"
+#include "tests/support/VirtualDisplay.h"
 #include "tools/XmlDocument.h"
 
 namespace configurator {
@@ -18,13 +18,13 @@ namespace {
 /// The manager of discriminators as a process of its own, on a copy of the example installation.
 class Manager {
  public:
-  explicit Manager(const VirtualDisplay& display) : m_display(display) {
+  explicit Manager(const qv::VirtualDisplay& display) : m_display(display) {
     m_display.Start(m_process, CONFIGURATOR_FILE,
                     {"--installation", m_installation.Directory(), "--show", "discriminators"});
     m_display.Focus(m_process);
   }
 
-  ~Manager() { VirtualDisplay::End(m_process); }
+  ~Manager() { qv::VirtualDisplay::End(m_process); }
 
   void Press(const QString& keys) const {
     m_display.Focus(m_process);
@@ -42,7 +42,7 @@ class Manager {
   }
 
  private:
-  const VirtualDisplay& m_display;
+  const qv::VirtualDisplay& m_display;
   ExampleCopy m_installation;
   QProcess m_process;
 };
@@ -61,7 +61,7 @@ std::pair<std::wstring, std::string> Content(const std::filesystem::path& file) 
 }
 
 TEST(TwoProcesses, CopyInOnePasteInTheOther) {
-  const VirtualDisplay display;
+  const qv::VirtualDisplay display;
   const Manager from(display);
   from.Press("Home");
   from.Press("shift+End");
@@ -76,7 +76,7 @@ TEST(TwoProcesses, CopyInOnePasteInTheOther) {
         return QTest::qWaitFor([&] { return to.Discriminators().size() >= 2 * before.size(); },
                                1000);
       },
-      patience));
+      qv::patience));
 
   std::map<std::wstring, std::string> pasted;
   for (const auto& file : to.Discriminators()) {

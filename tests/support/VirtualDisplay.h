@@ -8,7 +8,7 @@
 #include <QStringList>
 #include <QThread>
 
-namespace configurator {
+namespace qv {
 
 /// How long a process may take to do anything, in milliseconds: the machine may be busy.
 inline constexpr int patience = 120000;
@@ -81,4 +81,4 @@ class VirtualDisplay {
   QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };
 
-}  // namespace configurator
+}  // namespace qv
