@@ -5,13 +5,13 @@
 
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
+#include "timestructure/STagSlot.h"
 
 namespace qv {
 namespace {
 
 constexpr int hoursOfDay = 24;
 constexpr int minutesOfHour = 60;
-constexpr int minutesOfDay = hoursOfDay * minutesOfHour;
 
 bool IsDigit(wchar_t letter) { return letter >= L'0' && letter <= L'9'; }
 

@@ -5,6 +5,7 @@
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
 #include "timestructure/NewChildNode.h"
+#include "timestructure/STagSlot.h"
 #include "timestructure/TimeGrid.h"
 #include "tools/Guid.h"
 #include "tools/Numbers.h"
@@ -15,7 +16,6 @@ namespace {
 constexpr int lastHour = 24;
 constexpr int lastMinute = 59;
 constexpr int minutesOfHour = 60;
-constexpr int minutesOfDay = lastHour * minutesOfHour;
 
 }  // namespace
 

@@ -9,6 +9,7 @@
 #include "discriminator/Nodes.h"
 #include "discriminator/ValueForms.h"
 #include "timestructure/DaySlots.h"
+#include "timestructure/STagSlot.h"
 #include "timestructure/TimeSlotForm.h"
 #include "tools/Format.h"
 #include "tools/Numbers.h"
@@ -27,8 +28,6 @@ std::optional<int> NumberInTag(const XmlNode& node, std::wstring_view prefix) {
                           digits.find_first_not_of(L"0123456789") == std::wstring_view::npos;
   return isNumbered ? std::optional(qv::Wtoi(digits)) : std::nullopt;
 }
-
-constexpr int minutesOfDay = 24 * 60;
 
 class DocumentCheck {
  public:
@@ -119,7 +118,7 @@ class DocumentCheck {
       Tell({.kind = FindingKind::MalformedTime, .place = place, .value = text});
       return std::nullopt;
     }
-    if (time.minutes >= minutesOfHour || time.Minutes() > minutesOfDay) {
+    if (time.minutes >= minutesOfHour || time.Minutes() > qv::minutesOfDay) {
       Tell({.kind = FindingKind::TimeOutOfRange, .place = place, .value = text});
       return std::nullopt;
     }
@@ -143,10 +142,10 @@ class DocumentCheck {
       }
       covered += slot->times.to - slot->times.from;
     }
-    if (isApart && slots.size() == slotsOfDay && covered < minutesOfDay) {
+    if (isApart && slots.size() == slotsOfDay && covered < qv::minutesOfDay) {
       Tell({.kind = FindingKind::DayGaps,
             .place = place,
-            .value = std::to_wstring(minutesOfDay - covered)});
+            .value = std::to_wstring(qv::minutesOfDay - covered)});
     }
   }
 
