@@ -368,6 +368,57 @@ TEST_F(Editor, ADayTypeWithASlotAndAnHourTypeIsMadeThroughAllEditors) {
   EXPECT_TRUE(content.contains("<to>24:00</to>"));
 }
 
+/// Makes a day type with a slot and an hour type, in which each editor ends as told.
+void MakeDayType(int daysEnd, int dayEnd, int slotEnd, int hourEnd) {
+  WhenNextWindow([=] {    // the day types
+    WhenNextWindow([=] {  // a day type
+      QTest::keyClicks(TopControl(5299), "whole");
+      WhenNextWindow([=] {    // a slot
+        WhenNextWindow([=] {  // an hour type
+          QTest::keyClicks(TopControl(hourTypeName), "peak");
+          Click(hourEnd);
+        });
+        Click(addHourType);
+        QTest::keyClick(TopControl(5320), Qt::Key_Up);
+        Click(slotEnd);
+      });
+      Click(5348);
+      if (dayEnd == IDOK) {
+        AnswerNextBox(471, QMessageBox::Yes);
+      }
+      Click(dayEnd);
+    });
+    Click(5348);
+    Click(daysEnd);
+  });
+  Click(dayTypesLink);
+}
+
+TEST_F(Editor, CancellingAtAnyLevelTakesBackWhatLiesBelowIt) {
+  struct Case {
+    int days, day, slot, hour;
+    const char* kept;  // of the names that were entered
+  };
+  // An hour type that was made in the editor of a slot outlives a cancel of the day type.
+  for (const Case& ends :
+       {Case{IDCANCEL, IDOK, IDOK, IDOK, ""}, Case{IDOK, IDCANCEL, IDOK, IDOK, "peak"},
+        Case{IDOK, IDOK, IDCANCEL, IDOK, "whole"}, Case{IDOK, IDCANCEL, IDCANCEL, IDOK, ""},
+        Case{IDOK, IDOK, IDOK, IDOK, "whole peak"}}) {
+    const QString path = AddFile("1.old.xdct", oldFile);
+    Modify(path, [&] {
+      MakeDayType(ends.days, ends.day, ends.slot, ends.hour);
+      Click(IDOK);
+    });
+    const QByteArray content = Content("1.old.xdct");
+    const QByteArray kept = ends.kept;
+    EXPECT_EQ(content.contains("<name>whole</name>"), kept.contains("whole")) << ends.kept;
+    EXPECT_EQ(content.contains("<name>peak</name>"), kept.contains("peak")) << ends.kept;
+    // The list of day types knows nothing of an hour type that was made on the way.
+    EXPECT_EQ(modified, kept.contains("whole")) << ends.kept;
+    EXPECT_EQ(content.contains("<revision>r</revision>"), !modified) << ends.kept;
+  }
+}
+
 TEST_F(Editor, TheWheelWithoutFocusLeavesTheType) {
   Add([] {
     Edit(nameEdit)->setFocus();

@@ -183,6 +183,34 @@ TEST_F(DayTypeEditor, AnHourTypeMadeInTheSlotEditorOutlivesACancel) {
   EXPECT_EQ(*days, daysBefore);
 }
 
+TEST_F(DayTypeEditor, ThousandsOfSlotsOfAnyTextOpen) {
+  const wchar_t* const texts[] = {L"", L"7:30", L"99:99", L"-1:-1", L"zz:zz", L"00:00", L"24:00"};
+  XmlNode& day = Day(L"feast");
+  for (int i = 0; i < 3000; ++i) {
+    XmlNode* slot = day.NewChild(L"slot", nullptr);
+    slot->SetValue(L"id", L"p");
+    slot->SetValue(L"from", texts[i % 7]);
+    slot->SetValue(L"to", texts[i % 5]);
+  }
+  hours->Node(L"hour")->SetValue(L"color", L"no colour");
+  Drive(
+      [&] {
+        CDlgAddModifyDayType editor(nullptr, &day, days.get(), hours.get());
+        return editor.DoModal();
+      },
+      [] {
+        auto* told = qobject_cast<QMessageBox*>(TopWindow());
+        ASSERT_TRUE(told);
+        EXPECT_EQ(told->property("textNumber").toUInt(), 467U);
+        WhenNextWindow([] {
+          EXPECT_EQ(Rows().size(), 3000);
+          Settle();
+          Click(IDCANCEL);
+        });
+        told->button(QMessageBox::Ok)->click();
+      });
+}
+
 TEST_F(DayTypeEditor, ColumnsAndSizesFollowTheWindow) {
   Run(Day(L"work"), [] {
     const QSize opened = TopWindow()->size();
