@@ -61,7 +61,7 @@ void View(benchmark::State& state) {
   box.resize(screen.size());
   qv::TimeGridView view(&box);
   view.FitIntoBox();
-  view.Show(allDay.selection, allDay.selectionColour, allDay.dayColour);
+  view.SetPicture(allDay);
   for (auto _ : state) {
     view.render(&screen, QPoint(), QRegion(), QWidget::RenderFlags());
   }

@@ -5,27 +5,24 @@
 
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
-#include "timestructure/STagSlot.h"
+#include "timestructure/DayMinutes.h"
 
 namespace qv {
 namespace {
 
-constexpr int hoursOfDay = 24;
-constexpr int minutesOfHour = 60;
-
 bool IsDigit(wchar_t letter) { return letter >= L'0' && letter <= L'9'; }
 
-/// The minutes of a slot, the end exclusive.
-struct Minutes {
-  int from = 0;
-  int to = 0;
+}  // namespace
 
-  int Length() const { return to - from; }
-  bool Overlaps(const Minutes& other) const { return from < other.to && to > other.from; }
-};
+QVWideString NormalizeTime(const QVWideString& text) {
+  const std::wstring_view view = text.ToView();
+  constexpr std::size_t length = 5;
+  const bool isTime = view.size() == length && view[2] == L':' && IsDigit(view[0]) &&
+                      IsDigit(view[1]) && IsDigit(view[3]) && IsDigit(view[4]);
+  return isTime ? text : QVWideString(L"00:00");
+}
 
-/// What is wrong with the times of a slot, before it is compared with others.
-std::optional<Text> FaultOf(TimeOfDay from, TimeOfDay to) {
+std::optional<Text> FaultOfTimes(TimeOfDay from, TimeOfDay to) {
   const auto isBeyondDay = [](TimeOfDay time) {
     return time.hours > hoursOfDay || (time.hours == hoursOfDay && time.minutes > 0);
   };
@@ -36,16 +33,6 @@ std::optional<Text> FaultOf(TimeOfDay from, TimeOfDay to) {
     return Text::SlotMinuteOutOfRange;
   }
   return from.Minutes() > to.Minutes() ? std::optional(Text::SlotStartAfterEnd) : std::nullopt;
-}
-
-}  // namespace
-
-QVWideString NormalizeTime(const QVWideString& text) {
-  const std::wstring_view view = text.ToView();
-  constexpr std::size_t length = 5;
-  const bool isTime = view.size() == length && view[2] == L':' && IsDigit(view[0]) &&
-                      IsDigit(view[1]) && IsDigit(view[3]) && IsDigit(view[4]);
-  return isTime ? text : QVWideString(L"00:00");
 }
 
 DaySlots::DaySlots(XmlNode& day, const XmlNode& hourTypes) : m_day(day), m_hourTypes(hourTypes) {}
@@ -85,18 +72,18 @@ void DaySlots::Remove(int row) {
 }
 
 bool DaySlots::CheckSlots(bool warn, Prompter& prompter) const {
-  std::vector<Minutes> earlier;
+  std::vector<MinuteRange> earlier;
   int total = 0;
   for (const SlotRow& row : m_rows) {
     const TimeOfDay from = TimeOf(row.from);
     const TimeOfDay to = TimeOf(row.to);
-    if (const auto fault = FaultOf(from, to)) {
+    if (const auto fault = FaultOfTimes(from, to)) {
       prompter.Show(*fault);
       return false;
     }
-    const Minutes slot{from.Minutes(), to.Minutes()};
+    const MinuteRange slot{from.Minutes(), to.Minutes()};
     if (std::any_of(earlier.begin(), earlier.end(),
-                    [&](const Minutes& other) { return slot.Overlaps(other); })) {
+                    [&](const MinuteRange& other) { return slot.Overlaps(other); })) {
       prompter.Show(Text::SlotsOverlap);
       return false;
     }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
+#include "discriminator/ValueForms.h"
 #include "host/Prompter.h"
 #include "tools/XmlNode.h"
 
@@ -20,6 +22,10 @@ struct SlotRow {
 
 /// `text` if it has the form of a time ("07:30", any digits), and "00:00" for any other text.
 QVWideString NormalizeTime(const QVWideString& text);
+
+/// What is wrong with the times of a slot, in the order in which it is told: an hour above 24 or 24
+/// with minutes, minutes above 59, a start after its end. Nothing if they are good.
+std::optional<Text> FaultOfTimes(TimeOfDay from, TimeOfDay to);
 
 /// The slots of one day type: in its document, in the order in which they were made, and as rows.
 /// The k-th row is that of the k-th slot.

@@ -1,7 +1,5 @@
 #include "timestructure/DayTypeForm.h"
 
-#include <algorithm>
-
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
 #include "timestructure/NewChildNode.h"
@@ -66,8 +64,7 @@ ListEnd DayTypeForm::OnRemove(std::optional<int> row) {
   }
   m_slots.Remove(*row);
   m_modified = true;
-  const int last = static_cast<int>(Rows().size()) - 1;
-  return {true, Rows().empty() ? std::nullopt : std::optional(std::min(*row, last))};
+  return {true, RowAfterRemoval(*row, Rows().size())};
 }
 
 bool DayTypeForm::Save(const QVWideString& name) {

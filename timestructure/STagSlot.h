@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <optional>
 
-namespace qv {
+#include "timestructure/DayMinutes.h"
 
-inline constexpr int minutesOfDay = 1440;
+namespace qv {
 
 /// A stretch of the day in one colour. Minutes count from 00:00 and should lie in 0 to 1440; what a
 /// file or a host gives is kept as it is.

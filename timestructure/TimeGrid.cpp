@@ -9,8 +9,6 @@
 namespace qv {
 namespace {
 
-constexpr int hours = 24;
-constexpr int minutesOfHour = 60;
 constexpr int quartersOfHour = 4;
 
 /// The title of the box stands in this height, for the painted area and for the mouse alike.
@@ -45,7 +43,7 @@ TimeGrid::Cells TimeGrid::CellsOf(int labels) const {
   const Rect painted = PaintedArea();
   const Rect area{margin, 0, painted.Width() - margin, painted.Height() - margin};
   const int height = area.Height() - labels;
-  return {area, area.top + labels, area.Width() / static_cast<double>(hours),
+  return {area, area.top + labels, area.Width() / static_cast<double>(hoursOfDay),
           height / static_cast<double>(minutesOfHour), height * 0.25};
 }
 
@@ -77,7 +75,7 @@ void TimeGrid::Paint(Canvas& canvas, const Picture& picture) const {
                        picture.selectionColour, picture.selectionColour);
     }
   }
-  for (int hour = 0; hour <= hours; ++hour) {
+  for (int hour = 0; hour <= hoursOfDay; ++hour) {
     const int x = static_cast<int>(cells.X(hour));
     canvas.Line({x, cells.top}, {x, cells.area.bottom}, picture.ink);
   }
@@ -100,7 +98,7 @@ std::optional<int> TimeGrid::MinuteAt(Point place) const {
   }
   const int x = std::min(place.x - hit.left, hit.Width() - 1);
   const int y = std::min(place.y - hit.top, hit.Height() - 1);
-  const int column = static_cast<int>(x / (hit.Width() / static_cast<double>(hours)));
+  const int column = static_cast<int>(x / (hit.Width() / static_cast<double>(hoursOfDay)));
   const int row = static_cast<int>(y / (hit.Height() * 0.25));
   return (row + quartersOfHour * column) * quarter;
 }

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "timestructure/TimeSlotForm.h"
+#include "timestructure/DayMinutes.h"
 #include "tools/Canvas.h"
 
 namespace qv {
@@ -21,6 +21,8 @@ class TimeGrid {
     Canvas::Colour selectionColour = 0;
     Canvas::Colour ground = 0xF0F0F0;  ///< around the grid
     Canvas::Colour ink = 0;            ///< of labels and lines
+
+    friend bool operator==(const Picture&, const Picture&) = default;
   };
 
   /// The size of the group box, in pixels.

@@ -5,7 +5,6 @@
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
 #include "timestructure/NewChildNode.h"
-#include "timestructure/STagSlot.h"
 #include "timestructure/TimeGrid.h"
 #include "tools/Guid.h"
 #include "tools/Numbers.h"
@@ -13,9 +12,8 @@
 namespace qv {
 namespace {
 
-constexpr int lastHour = 24;
+constexpr int lastHour = hoursOfDay;
 constexpr int lastMinute = 59;
-constexpr int minutesOfHour = 60;
 
 }  // namespace
 
@@ -27,6 +25,11 @@ void SpinState::SetText(const std::wstring& text) {
   if (number >= 0 && number <= m_upper) {
     m_position = number;
   }
+}
+
+void SpinState::SetRange(int upper) {
+  m_upper = upper;
+  SetText(m_text);
 }
 
 void SpinState::SetPosition(int position) {
@@ -71,7 +74,6 @@ void TimeSlotForm::InitializeTime(SlotEdge edge, const QVWideString& text) {
   Hours(edge).SetPosition(time.hours);
   if (Hours(edge).Position() < lastHour) {
     Minutes(edge).SetPosition(time.minutes);
-    Minutes(edge).Enable(true);
   } else {
     LockMinutes(edge);
   }
@@ -88,55 +90,80 @@ void TimeSlotForm::FreeMinutes(SlotEdge edge) {
   Minutes(edge).Enable(true);
 }
 
-void TimeSlotForm::SelectHourType(int index) {
-  m_selected = index;
+/// All that the four fields show.
+std::wstring TimeSlotForm::Shown() const {
+  std::wstring shown;
+  for (const SpinState& spin : m_spins) {
+    shown += spin.Text() + L"|";
+  }
+  return shown;
+}
+
+void TimeSlotForm::TakeChange() {
   m_modified = true;
+  if (m_dragging) {
+    TakeDragged();  // a selection under way has the last word
+  }
+}
+
+void TimeSlotForm::SelectHourType(int index) {
+  if (index != m_selected) {
+    m_selected = index;
+    TakeChange();
+  }
 }
 
 void TimeSlotForm::Type(TimeField field, const std::wstring& text) {
   m_spins[Index(field)].SetText(text);
-  m_modified = true;
+  TakeChange();
 }
 
 void TimeSlotForm::Step(TimeField field, int delta) {
+  const std::wstring before = Shown();
   SpinState& spin = m_spins[Index(field)];
   const int position = spin.Position() + delta;
   if (field.isHours) {
     position < lastHour ? FreeMinutes(field.edge) : LockMinutes(field.edge);
   }
   spin.SetPosition(position);
-  m_modified = true;
+  if (Shown() != before) {
+    TakeChange();
+  }
 }
 
 void TimeSlotForm::LeaveField(TimeField field) {
+  const std::wstring before = Shown();
   SpinState& spin = m_spins[Index(field)];
   const bool isAbove = Wtoi(spin.Text()) > spin.Upper();
   if (isAbove) {
     spin.SetPosition(spin.Upper());
-    m_modified = true;  // the field shows another number
   }
   if (field.isHours) {
     isAbove ? LockMinutes(field.edge) : FreeMinutes(field.edge);
   }
-}
-
-void TimeSlotForm::Press(std::optional<int> minute) {
-  if (!minute || m_dragging) {
-    m_dragging = false;
-    return;
+  if (Shown() != before) {
+    TakeChange();
   }
-  m_dragging = true;
-  m_dragStart = *minute;
-  m_dragEnd = *minute + TimeGrid::quarter;
-  m_modified = true;
-  ShowDragged();
 }
 
-void TimeSlotForm::Move(std::optional<int> minute) {
-  if (m_dragging && minute) {
+bool TimeSlotForm::Press(std::optional<int> minute) {
+  const bool begins = minute && !m_dragging;
+  m_dragging = begins;
+  if (begins) {
+    m_dragStart = *minute;
     m_dragEnd = *minute + TimeGrid::quarter;
-    ShowDragged();
+    TakeChange();
   }
+  return begins;
+}
+
+bool TimeSlotForm::Move(std::optional<int> minute) {
+  const bool follows = minute && m_dragging;
+  if (follows) {
+    m_dragEnd = *minute + TimeGrid::quarter;
+    TakeDragged();
+  }
+  return follows;
 }
 
 std::optional<MinuteRange> TimeSlotForm::Dragged() const {
@@ -149,7 +176,7 @@ std::optional<MinuteRange> TimeSlotForm::Dragged() const {
              : MinuteRange{m_dragEnd - TimeGrid::quarter, m_dragStart + TimeGrid::quarter};
 }
 
-void TimeSlotForm::ShowDragged() {
+void TimeSlotForm::TakeDragged() {
   // The positions alone: minutes that are locked stay at 0.
   if (const auto range = Dragged()) {
     Hours(SlotEdge::From).SetPosition(range->from / minutesOfHour);

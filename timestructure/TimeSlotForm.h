@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/Prompter.h"
+#include "timestructure/DayMinutes.h"
 #include "timestructure/TypeList.h"
 #include "tools/XmlNode.h"
 
@@ -37,7 +38,8 @@ class SpinState {
   void SetText(const std::wstring& text);
   /// Moves the position into the range and shows it.
   void SetPosition(int position);
-  void SetRange(int upper) { m_upper = upper; }
+  /// A number in the field that is in the range now becomes the position.
+  void SetRange(int upper);
   void Enable(bool enabled) { m_enabled = enabled; }
 
  private:
@@ -45,14 +47,6 @@ class SpinState {
   int m_position = 0;
   int m_upper = 0;
   bool m_enabled = true;
-};
-
-/// Minutes of a day, the end exclusive.
-struct MinuteRange {
-  int from = 0;
-  int to = 0;
-
-  friend bool operator==(const MinuteRange&, const MinuteRange&) = default;
 };
 
 /// One slot of a day type while it is edited: its hour type, its times as four spins, and the
@@ -86,10 +80,11 @@ class TimeSlotForm {
   void LeaveField(TimeField field);
 
   /// The user pressed the button at this minute of the grid, or outside of it. A press while a
-  /// selection is under way ends it.
-  void Press(std::optional<int> minute);
+  /// selection is under way ends it. Whether a selection began, which has to be shown.
+  bool Press(std::optional<int> minute);
   /// The pointer moved; outside the grid, and without a selection under way, nothing changes.
-  void Move(std::optional<int> minute);
+  /// Whether the selection follows, which has to be shown.
+  bool Move(std::optional<int> minute);
   /// The button was released, anywhere.
   void Release() { m_dragging = false; }
 
@@ -124,7 +119,9 @@ class TimeSlotForm {
   void LockMinutes(SlotEdge edge);
   void FreeMinutes(SlotEdge edge);
   std::optional<MinuteRange> Dragged() const;
-  void ShowDragged();
+  void TakeDragged();
+  void TakeChange();
+  std::wstring Shown() const;
   int MinuteOf(SlotEdge edge) const;
   bool IsValid() const;
 

@@ -16,6 +16,10 @@ constexpr wchar_t white[] = L"FFFFFF";
 
 }  // namespace
 
+std::optional<int> RowAfterRemoval(int row, std::size_t count) {
+  return count == 0 ? std::nullopt : std::optional(std::min(row, static_cast<int>(count) - 1));
+}
+
 TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(container), m_tag(tag) {
   Fill();
 }
@@ -69,8 +73,7 @@ ListEnd TypeList::OnRemove(std::optional<int> row) {
   m_container.RemoveChild(node);
   Fill();
   m_modified = true;
-  const int last = static_cast<int>(m_rows.size()) - 1;
-  return {true, m_rows.empty() ? std::nullopt : std::optional(std::min(*row, last))};
+  return {true, RowAfterRemoval(*row, m_rows.size())};
 }
 
 XmlNode* TypeList::NodeOf(std::optional<int> row) const {

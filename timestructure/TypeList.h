@@ -25,6 +25,10 @@ struct ListEnd {
   friend bool operator==(const ListEnd&, const ListEnd&) = default;
 };
 
+/// The row to select after the row `row` was removed, so that `count` are left: the one that moved
+/// to its place, or the new last one; nothing if none is left.
+std::optional<int> RowAfterRemoval(int row, std::size_t count);
+
 /// The hour types or the day types of a discriminator, as their dialog lists them: the children of
 /// a container with one tag, sorted by name. Children with other tags are left alone.
 class TypeList {

@@ -1,5 +1,7 @@
 #include "toolkit/SpinButtons.h"
 
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -19,8 +21,13 @@ QToolButton* SpinButtons::NewArrow(Qt::ArrowType arrow, int delta) {
   button->setAutoRepeat(true);
   // The focus stays in the field, which has the keys.
   button->setFocusPolicy(Qt::NoFocus);
-  connect(button, &QToolButton::clicked, this, [this, delta] { emit Stepped(delta); });
+  connect(button, &QToolButton::clicked, this, [this, delta] { Step(delta); });
   return button;
+}
+
+void SpinButtons::SetBuddy(QLineEdit* buddy) {
+  m_buddy = buddy;
+  buddy->installEventFilter(this);
 }
 
 QSize SpinButtons::sizeHint() const { return naturalSize; }
@@ -31,12 +38,42 @@ void SpinButtons::resizeEvent(QResizeEvent*) {
   m_down->setGeometry(0, half, width(), height() - half);
 }
 
-void SpinButtons::wheelEvent(QWheelEvent* event) {
-  const int delta = event->angleDelta().y();
-  if (delta != 0) {
-    emit Stepped(delta > 0 ? 1 : -1);
+void SpinButtons::Step(int delta) {
+  if (isEnabled()) {
+    emit Stepped(delta);
   }
+}
+
+void SpinButtons::Turn(const QWheelEvent& event) {
+  // Fine wheels and touchpads turn in parts of a step.
+  m_turned += event.angleDelta().y();
+  for (; m_turned >= QWheelEvent::DefaultDeltasPerStep;
+       m_turned -= QWheelEvent::DefaultDeltasPerStep) {
+    Step(1);
+  }
+  for (; m_turned <= -QWheelEvent::DefaultDeltasPerStep;
+       m_turned += QWheelEvent::DefaultDeltasPerStep) {
+    Step(-1);
+  }
+}
+
+void SpinButtons::wheelEvent(QWheelEvent* event) {
+  Turn(*event);
   event->accept();
+}
+
+bool SpinButtons::eventFilter(QObject* buddy, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Up || key == Qt::Key_Down) {
+      Step(key == Qt::Key_Up ? 1 : -1);
+      return true;
+    }
+  } else if (event->type() == QEvent::Wheel && m_buddy->hasFocus()) {
+    Turn(static_cast<const QWheelEvent&>(*event));
+    return true;
+  }
+  return QWidget::eventFilter(buddy, event);
 }
 
 }  // namespace qv

@@ -2,17 +2,22 @@
 
 #include <QWidget>
 
+class QLineEdit;
 class QToolButton;
 
 namespace qv {
 
-/// Two small arrows that step the number in the field beside them. They repeat while they are held
-/// down; the wheel steps as well. Keys are those of the field.
+/// Two small arrows that step the number in the field beside them, their buddy. They repeat while
+/// they are held down. The arrow keys of the buddy step as well, and so does the wheel over the
+/// arrows, or over the buddy while it has the focus.
 class SpinButtons : public QWidget {
   Q_OBJECT
 
  public:
   explicit SpinButtons(QWidget* parent = nullptr);
+
+  /// `buddy` outlives the arrows, which step while they are enabled.
+  void SetBuddy(QLineEdit* buddy);
 
   QSize sizeHint() const override;
 
@@ -23,12 +28,17 @@ class SpinButtons : public QWidget {
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  bool eventFilter(QObject* buddy, QEvent* event) override;
 
  private:
   QToolButton* NewArrow(Qt::ArrowType arrow, int delta);
+  void Step(int delta);
+  void Turn(const QWheelEvent& event);
 
   QToolButton* m_up;
   QToolButton* m_down;
+  QLineEdit* m_buddy = nullptr;
+  int m_turned = 0;  ///< of the wheel, in eighths of a degree, what is not yet a step
 };
 
 }  // namespace qv

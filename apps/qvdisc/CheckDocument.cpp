@@ -8,9 +8,8 @@
 #include "discriminator/Fields.h"
 #include "discriminator/Nodes.h"
 #include "discriminator/ValueForms.h"
+#include "timestructure/DayMinutes.h"
 #include "timestructure/DaySlots.h"
-#include "timestructure/STagSlot.h"
-#include "timestructure/TimeSlotForm.h"
 #include "tools/Format.h"
 #include "tools/Numbers.h"
 
@@ -111,14 +110,13 @@ class DocumentCheck {
   }
 
   std::optional<int> GoodTime(const std::wstring& text, const std::wstring& place) {
-    constexpr int minutesOfHour = 60;
     const QVWideString wide(text.c_str());
     const qv::TimeOfDay time = qv::TimeOf(wide);
     if (qv::NormalizeTime(wide) != wide) {
       Tell({.kind = FindingKind::MalformedTime, .place = place, .value = text});
       return std::nullopt;
     }
-    if (time.minutes >= minutesOfHour || time.Minutes() > qv::minutesOfDay) {
+    if (qv::FaultOfTimes(time, time)) {
       Tell({.kind = FindingKind::TimeOutOfRange, .place = place, .value = text});
       return std::nullopt;
     }
@@ -132,7 +130,7 @@ class DocumentCheck {
     bool isApart = true;
     for (auto slot = slots.begin(); slot != slots.end(); ++slot) {
       const auto other = std::find_if(slots.begin(), slot, [&](const NamedSlot& earlier) {
-        return slot->times.from < earlier.times.to && slot->times.to > earlier.times.from;
+        return slot->times.Overlaps(earlier.times);
       });
       if (other != slot) {
         isApart = false;
@@ -140,7 +138,7 @@ class DocumentCheck {
               .place = place + L"/" + slot->name,
               .value = other->name});
       }
-      covered += slot->times.to - slot->times.from;
+      covered += slot->times.Length();
     }
     if (isApart && slots.size() == slotsOfDay && covered < qv::minutesOfDay) {
       Tell({.kind = FindingKind::DayGaps,

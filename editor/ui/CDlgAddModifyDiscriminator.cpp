@@ -7,6 +7,7 @@
 #include "timestructure/ui/CDlgHourTypes.h"
 #include "toolkit/ChoiceBox.h"
 #include "toolkit/LimitTyping.h"
+#include "toolkit/OkCancel.h"
 #include "toolkit/QVHyperlink.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/RunDialog.h"
@@ -161,9 +162,7 @@ void CDlgAddModifyDiscriminator::PositioningControls() {
   QVHoritzontalLayout links(this);
   AddLinks(links);
   QVHoritzontalLayout buttons(this);
-  buttons.AddControl(IDOK, 50);
-  buttons.AddGap(LayoutSizeStandard);
-  buttons.AddControl(IDCANCEL, 50);
+  qv::AddOkCancel(buttons);
   QVHoritzontalLayout details(this);
   AddDetails(details);
   QVVerticalLayout column(this);

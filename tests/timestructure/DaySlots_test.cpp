@@ -170,9 +170,20 @@ struct Judgement {
 
 Judgement Judge(const std::vector<std::pair<int, int>>& slots) {
   std::array<int, 24 * 60> owner{};
-  for (const auto& [from, to] : slots) {
+  for (std::size_t i = 0; i < slots.size(); ++i) {
+    const auto [from, to] = slots[i];
     if (from > to) {
       return {Text::SlotStartAfterEnd, false};
+    }
+    // A slot of no length owns no minute; it may lie anywhere but inside another one.
+    const auto liesInside = [](std::pair<int, int> point, std::pair<int, int> slot) {
+      return point.first == point.second && point.first > slot.first && point.first < slot.second;
+    };
+    if (std::any_of(slots.begin(), slots.begin() + static_cast<std::ptrdiff_t>(i),
+                    [&, slot = slots[i]](const auto& earlier) {
+                      return liesInside(slot, earlier) || liesInside(earlier, slot);
+                    })) {
+      return {Text::SlotsOverlap, false};
     }
     for (int minute = from; minute < to; ++minute) {
       if (owner[static_cast<std::size_t>(minute)]++ > 0) {
@@ -200,8 +211,10 @@ TEST_F(DaySlotsTest, RandomDaysAreJudgedAsMinuteByMinute) {
       if (below(8) == 0) {
         end = below(1441);
       }
-      if (start != end) {  // a slot of no length is nowhere, minute by minute
-        days.emplace_back(start, end);
+      days.emplace_back(start, end);
+      if (below(8) == 0) {
+        const int point = below(1441);
+        days.emplace_back(point, point);
       }
       start = std::min(end, 1438);
     }
@@ -225,6 +238,15 @@ TEST_F(DaySlotsTest, RandomDaysAreJudgedAsMinuteByMinute) {
   for (const int count : seen) {
     EXPECT_GT(count, 50) << "each judgement has to come up";
   }
+}
+
+TEST_F(DaySlotsTest, ThousandsOfSlotsAreReadAndChecked) {
+  for (int i = 0; i < 3000; ++i) {
+    AddSlot(i % 2 == 0 ? L"p" : L"none", L"10:00", L"10:00");
+  }
+  slots.Fill();
+  EXPECT_EQ(slots.Rows().size(), 1500U);
+  EXPECT_TRUE(slots.CheckSlots(false, prompter));
 }
 
 }  // namespace

@@ -186,6 +186,34 @@ TEST_F(DayTypeFormTest, RemoveKeepsTheSelectionAtItsPlace) {
   EXPECT_TRUE(form.IsModified());
 }
 
+TEST_F(DayTypeFormTest, RemovingTheLastRowSelectsTheNewLastOne) {
+  EXPECT_EQ(form.OnRemove(1), (ListEnd{true, 0}));
+}
+
+TEST_F(DayTypeFormTest, NamesThatDifferInCaseAreTwoNames) { EXPECT_TRUE(form.Save(L"FEAST")); }
+
+TEST_F(DayTypeFormTest, AColourOpenedEqualToAnothersIsNotAskedAbout) {
+  Day(L"feast").SetValue(L"color", L"0000FF");
+  EXPECT_TRUE(form.Save(L"work"));
+}
+
+TEST_F(DayTypeFormTest, ADayWithoutSlotsIsSavedIfTheUserAcceptsIt) {
+  DayTypeForm feast(Day(L"feast"), *days, *hours, prompter);
+  feast.Fill();
+  prompter.ExpectAsk(Text::DayNotCoveredQuestion, true);
+  EXPECT_TRUE(feast.Save(L"feast"));
+  EXPECT_FALSE(Day(L"feast").Node(L"slot"));
+  EXPECT_FALSE(feast.IsModified());
+}
+
+TEST_F(DayTypeFormTest, AnyFaultOfTheSlotsLeavesAChangedNameAChange) {
+  Day(L"work").Node(L"slot")->SetValue(L"to", L"12:01");
+  form.Fill();
+  prompter.ExpectShow(Text::SlotsOverlap);
+  EXPECT_FALSE(form.Save(L"office"));
+  EXPECT_TRUE(form.IsModified());
+}
+
 TEST_F(DayTypeFormTest, DroppingDeadSlotsIsNoChange) {
   hours->Reset();
   form.Fill();

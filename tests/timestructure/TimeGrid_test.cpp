@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <string>
 
 #include "tests/support/RecordingCanvas.h"
 
@@ -74,6 +77,32 @@ TEST(TimeGrid, EachSelectedMinuteIsARectangle) {
       .dayColour = 0xFFFFFF, .selection = MinuteRange{59, 61}, .selectionColour = 0x0000FF};
   EXPECT_EQ(Recorded(picture, "rectangle").size(), 2U + 2U);
   EXPECT_EQ(Recorded({.selection = MinuteRange{0, 1440}}, "rectangle").size(), 2U + 1440U);
+}
+
+/// The lines of a golden file. After a change that is meant, run the tests with QV_WRITE_GOLDEN
+/// set, and look at what differs.
+std::vector<std::string> Golden(const std::string& name, const std::vector<std::string>& drawn) {
+  const std::string file = QV_PROJECT_DIR "/tests/timestructure/golden/" + name;
+  if (std::getenv("QV_WRITE_GOLDEN")) {
+    std::ofstream stream(file);
+    for (const std::string& line : drawn) {
+      stream << line << '\n';
+    }
+  }
+  std::ifstream stream(file);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(stream, line);) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+TEST(TimeGrid, DrawsWhatItDrewBefore) {
+  RecordingCanvas canvas;
+  TimeGrid(300, 200).Paint(canvas, {.dayColour = 0x80CCFF,
+                                    .selection = MinuteRange{12 * 60 + 50, 13 * 60 + 2},
+                                    .selectionColour = 0x0000FF});
+  EXPECT_EQ(canvas.lines, Golden("TimeGrid.txt", canvas.lines));
 }
 
 TEST(TimeGrid, ABoxOfAnySizeIsPainted) {

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
+#include <random>
 #include <stdexcept>
 
 #include "tests/support/ScriptedPrompter.h"
@@ -126,6 +128,45 @@ TEST_F(TimeSlotFormTest, SpinsStopAtTheirEnds) {
   form->Step(fromMinutes, -1);
   form->Step(toMinutes, 1);
   EXPECT_EQ(Shown(), L"00:00-10:59");
+  EXPECT_FALSE(form->IsModified()) << "nothing changed";
+}
+
+TEST_F(TimeSlotFormTest, MinutesTypedWhileLockedCountOnceTheyAreFree) {
+  Open("p", "12:00", "24:00");
+  form->Type(toMinutes, L"30");
+  EXPECT_EQ(Shown(), L"12:00-24:00");
+  form->Step(toHours, -1);
+  EXPECT_EQ(Shown(), L"12:00-23:30") << "what the field shows";
+  EXPECT_TRUE(form->Save());
+  EXPECT_EQ(Stored(), L"p 12:00-23:30");
+}
+
+TEST_F(TimeSlotFormTest, ALoadedStartOf24LocksItsMinutes) {
+  Open("p", "24:00", "24:00");
+  ExpectLocked(fromMinutes, true);
+  form->Type(fromHours, L"25");
+  form->LeaveField(fromHours);
+  EXPECT_EQ(Shown(), L"24:00-24:00");
+}
+
+TEST_F(TimeSlotFormTest, ChoosingTheSameHourTypeIsNoChange) {
+  Open("v", "01:00", "02:00");
+  form->SelectHourType(1);
+  EXPECT_FALSE(form->IsModified());
+  form->SelectHourType(0);
+  EXPECT_TRUE(form->IsModified());
+}
+
+TEST_F(TimeSlotFormTest, ASelectionUnderWayHasTheLastWord) {
+  Open("p", "00:00", "00:00");
+  form->Press(At(10, 0));
+  form->Type(fromHours, L"3");
+  EXPECT_EQ(Shown(), L"10:00-10:15");
+  form->Step(toHours, 1);
+  EXPECT_EQ(Shown(), L"10:00-10:15");
+  form->Release();
+  form->Type(fromHours, L"3");
+  EXPECT_EQ(Shown(), L"03:00-10:15");
 }
 
 TEST_F(TimeSlotFormTest, ATyped24LeavesTheMinutesFree) {
@@ -243,6 +284,7 @@ TEST_F(TimeSlotFormTest, ANameThatCanNotBeFoundSavesNothingInSilence) {
   hours->Node(L"hour")->SetValue(L"name", L"a?b");
   Open("p", "07:00", "08:00");
   EXPECT_FALSE(form->Save());
+  EXPECT_EQ(Stored(), L"p 07:00-08:00");
 }
 
 TEST_F(TimeSlotFormTest, AClickSelectsAQuarter) {
@@ -314,9 +356,65 @@ TEST_F(TimeSlotFormTest, NothingIsPaintedOfNoTimeOrOfAWrongOne) {
   EXPECT_FALSE(form->Selection()) << "beyond the day";
 }
 
+/// The mouse as a person would describe it.
+struct MouseModel {
+  int start = -1;  ///< while the button is down
+  int from = 0;
+  int to = 0;
+
+  void Take(int minute) {
+    from = std::min(start, minute);
+    to = std::max(start, minute) + TimeGrid::quarter;
+  }
+  void Press(std::optional<int> minute) {
+    const bool begins = minute && start < 0;
+    start = begins ? *minute : -1;
+    if (begins) {
+      Take(*minute);
+    }
+  }
+  void Move(std::optional<int> minute) {
+    if (start >= 0 && minute) {
+      Take(*minute);
+    }
+  }
+};
+
+TEST_F(TimeSlotFormTest, RandomMousesFollowTheModelLockedOrNot) {
+  std::mt19937 random(5);
+  const auto below = [&](int limit) {
+    return std::uniform_int_distribution<int>(0, limit - 1)(random);
+  };
+  for (const bool locked : {false, true}) {
+    Open("p", "00:00", locked ? "24:00" : "00:00");
+    MouseModel model{.start = -1, .from = 0, .to = locked ? At(24, 0) : 0};
+    for (int step = 0; step < 20000; ++step) {
+      const auto place =
+          below(5) == 0 ? std::nullopt : std::optional(below(96) * TimeGrid::quarter);
+      switch (below(4)) {
+        case 0:
+          form->Press(place);
+          model.Press(place);
+          break;
+        case 1:
+          form->Release();
+          model.start = -1;
+          break;
+        default:
+          form->Move(place);
+          model.Move(place);
+      }
+      const int to = locked ? model.to / 60 * 60 : model.to;
+      ASSERT_EQ(Shown(), Format(L"%02d:%02d-%02d:%02d",
+                                {model.from / 60, model.from % 60, to / 60, to % 60}))
+          << step;
+    }
+  }
+}
+
 /// Presses and moves over all cells against what a person would expect.
 TEST_F(TimeSlotFormTest, AnyDragSelectsFromItsFirstToItsLastCell) {
-  for (int start = 0; start < 1440; start += 60 + 15) {
+  for (int start = 0; start < 1440; start += TimeGrid::quarter) {
     for (int end = 0; end < 1440; end += TimeGrid::quarter) {
       Open("p", "00:00", "00:00");
       form->Press(start);

@@ -1,6 +1,7 @@
 #include "timestructure/ui/CDlgAddModifyDayType.h"
 
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QPushButton>
 
 #include "timestructure/ui/CDlgAddModifyTimeSlot.h"
@@ -10,6 +11,7 @@
 #include "toolkit/ColorSwatch.h"
 #include "toolkit/Controls.h"
 #include "toolkit/LimitTyping.h"
+#include "toolkit/OkCancel.h"
 #include "toolkit/QVControlBoxButtonsLayout.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/ReportList.h"
@@ -194,6 +196,16 @@ void CDlgAddModifyDayType::Follow(const qv::ListEnd& end) {
   }
 }
 
+void CDlgAddModifyDayType::paintEvent(QPaintEvent* event) {
+  CDialog::paintEvent(event);
+  // What is damaged is painted from the document as it stands now. The dial is painted after this,
+  // so nothing has to be asked for.
+  const QRect box = Control(dialBox)->geometry();
+  if (event->rect().adjusted(-1, -1, 1, 1).intersects(box)) {
+    m_dial->Setup(m_day, m_hourTypes);
+  }
+}
+
 void CDlgAddModifyDayType::PositioningControls() {
   const QSize swatchSize = Control(swatch)->size();
   QVVerticalLayout label(this);
@@ -222,11 +234,7 @@ void CDlgAddModifyDayType::PositioningControls() {
   sides.AddGap(LayoutSizeStandard);
   sides.AddLayout(&right, 50);
   QVHoritzontalLayout buttons(this);
-  buttons.AddGap(10);
-  buttons.AddControl(IDOK, 40);
-  buttons.AddGap(LayoutSizeStandard);
-  buttons.AddControl(IDCANCEL, 40);
-  buttons.AddGap(10);
+  qv::AddNarrowOkCancel(buttons);
   QVVerticalLayout column(this);
   column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
   column.AddGap(LayoutSizeStandard);

@@ -34,6 +34,7 @@ class CDlgAddModifyDayType : public CDialog {
   void PositioningControls() override;
   void OnOK() override;
   void OnDestroy() override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void Connect();

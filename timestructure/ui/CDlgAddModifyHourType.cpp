@@ -6,6 +6,7 @@
 #include "toolkit/AskColour.h"
 #include "toolkit/ColorSwatch.h"
 #include "toolkit/LimitTyping.h"
+#include "toolkit/OkCancel.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
@@ -98,11 +99,7 @@ void CDlgAddModifyHourType::PositioningControls() {
   AddFields(fields);
   fields.AddLayout(&colour, QVLayout::Pixels2Size(swatchSize.height()).height);
   QVHoritzontalLayout buttons(this);
-  buttons.AddGap(10);
-  buttons.AddControl(IDOK, 40);
-  buttons.AddGap(LayoutSizeStandard);
-  buttons.AddControl(IDCANCEL, 40);
-  buttons.AddGap(10);
+  qv::AddNarrowOkCancel(buttons);
   QVVerticalLayout column(this);
   column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
   column.AddGap(LayoutSizeStandard);

@@ -1,11 +1,9 @@
 #include "timestructure/ui/CDlgAddModifyTimeSlot.h"
 
 #include <QFocusEvent>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QRegularExpressionValidator>
-#include <QWheelEvent>
 #include <algorithm>
 #include <iterator>
 
@@ -13,6 +11,7 @@
 #include "timestructure/ui/TimeGridView.h"
 #include "toolkit/ChoiceBox.h"
 #include "toolkit/ColorIcons.h"
+#include "toolkit/OkCancel.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/RunDialog.h"
 #include "toolkit/SpinButtons.h"
@@ -38,6 +37,13 @@ constexpr int toMinutesEdit = 5324;
 constexpr int addButton = 5348;
 
 void BuildTemplate(QDialog* dialog) { Ui::Template1304().setupUi(dialog); }
+
+/// A label above a row of controls.
+void AddLabelled(QVVerticalLayout& column, int label, QVHoritzontalLayout& row, LayoutSize height) {
+  column.AddControl(label, LayoutSizeLabel);
+  column.AddGap(LayoutSizeLabelGap);
+  column.AddLayout(&row, height);
+}
 
 }  // namespace
 
@@ -66,19 +72,24 @@ CDlgAddModifyTimeSlot::~CDlgAddModifyTimeSlot() = default;
 void CDlgAddModifyTimeSlot::Connect() {
   for (const FieldControls& controls : fields) {
     auto* edit = Find<QLineEdit>(controls.edit);
+    edit->setMaxLength(2);
     edit->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,2}")), edit));
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), edit));
     edit->installEventFilter(this);
     connect(edit, &QLineEdit::textEdited, this, [this, controls](const QString& text) {
       m_form->Type(controls.field, text.toStdWString());
-      ShowGrid();
+      ShowTimes();
     });
-    connect(Find<qv::SpinButtons>(controls.spin), &qv::SpinButtons::Stepped, this,
-            [this, controls](int delta) { Step(controls.field, delta); });
+    auto* spin = Find<qv::SpinButtons>(controls.spin);
+    spin->SetBuddy(edit);
+    connect(spin, &qv::SpinButtons::Stepped, this, [this, controls](int delta) {
+      m_form->Step(controls.field, delta);
+      ShowTimes();
+    });
   }
   connect(Find<qv::ChoiceBox>(typeCombo), &QComboBox::activated, this, [this](int index) {
     m_form->SelectHourType(index);
-    ShowGrid();
+    ShowTimes();
   });
   connect(Find<QPushButton>(addButton), &QPushButton::clicked, this,
           &CDlgAddModifyTimeSlot::OnAddHourType);
@@ -144,14 +155,9 @@ void CDlgAddModifyTimeSlot::ShowTimes() {
 }
 
 void CDlgAddModifyTimeSlot::ShowGrid() {
-  m_grid->Show(m_form->Selection(), m_form->SelectionColour().value_or(m_dayColor), m_dayColor);
-}
-
-void CDlgAddModifyTimeSlot::Step(qv::TimeField field, int delta) {
-  if (m_form->IsSpinEnabled(field)) {
-    m_form->Step(field, delta);
-    ShowTimes();
-  }
+  m_grid->SetPicture({.dayColour = m_dayColor,
+                      .selection = m_form->Selection(),
+                      .selectionColour = m_form->SelectionColour().value_or(m_dayColor)});
 }
 
 void CDlgAddModifyTimeSlot::OnAddHourType() {
@@ -170,9 +176,6 @@ bool CDlgAddModifyTimeSlot::eventFilter(QObject* edit, QEvent* event) {
   if (controls == std::end(fields) || !m_form) {
     return CDialog::eventFilter(edit, event);
   }
-  if (IsStep(*controls, event)) {
-    return true;
-  }
   if (event->type() == QEvent::FocusOut &&
       static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
     m_form->LeaveField(controls->field);
@@ -181,48 +184,42 @@ bool CDlgAddModifyTimeSlot::eventFilter(QObject* edit, QEvent* event) {
   return CDialog::eventFilter(edit, event);
 }
 
-bool CDlgAddModifyTimeSlot::IsStep(const FieldControls& controls, QEvent* event) {
-  int delta = 0;
-  if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    delta = key == Qt::Key_Up ? 1 : key == Qt::Key_Down ? -1 : 0;
-  } else if (event->type() == QEvent::Wheel && Control(controls.edit)->hasFocus()) {
-    const int turn = static_cast<QWheelEvent*>(event)->angleDelta().y();
-    delta = (turn > 0) - (turn < 0);
-  }
-  if (delta != 0) {
-    Step(controls.field, delta);
-  }
-  return delta != 0;
-}
-
 std::optional<int> CDlgAddModifyTimeSlot::MinuteAt(const QMouseEvent& event) const {
   return m_grid->MinuteAt(Control(gridBox)->mapFrom(this, event.position().toPoint()));
 }
 
 void CDlgAddModifyTimeSlot::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) {
-    m_form->Press(MinuteAt(*event));
+  if (m_form && event->button() == Qt::LeftButton && m_form->Press(MinuteAt(*event))) {
     ShowTimes();
   }
 }
 
 void CDlgAddModifyTimeSlot::mouseMoveEvent(QMouseEvent* event) {
-  m_form->Move(MinuteAt(*event));
-  ShowTimes();
+  if (m_form && m_form->Move(MinuteAt(*event))) {
+    ShowTimes();
+  }
 }
 
 void CDlgAddModifyTimeSlot::mouseReleaseEvent(QMouseEvent* event) {
   // A release outside isn't this dialog's: the selection goes on.
-  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+  if (m_form && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
     m_form->Release();
   }
 }
 
+void CDlgAddModifyTimeSlot::AddTimes(QVHoritzontalLayout& row, qv::SlotEdge edge) const {
+  for (const FieldControls& controls : fields) {
+    if (controls.field.edge == edge) {
+      if (!controls.field.isHours) {
+        row.AddGap(LayoutSizeStandard);
+      }
+      row.AddControl(controls.edit, 50);
+      row.AddControl(controls.spin, QVLayout::Pixels2Size(Control(controls.spin)->width()).width);
+    }
+  }
+}
+
 void CDlgAddModifyTimeSlot::PositioningControls() {
-  const QSize spin = Control(fromHoursSpin)->size();
-  const auto spinWidth = QVLayout::Pixels2Size(spin.width()).width;
-  const auto spinHeight = QVLayout::Pixels2Size(spin.height()).height;
   QVVerticalLayout add(this);
   add.AddGap(100);
   add.AddControl(addButton, LayoutSizeStandard);
@@ -230,31 +227,21 @@ void CDlgAddModifyTimeSlot::PositioningControls() {
   type.AddControlAndLabel(typeCombo, typeLabel, 60, 2, LayoutSizeLabel);
   type.AddGap(LayoutSizeStandard);
   type.AddLayout(&add, 40);
-  QVHoritzontalLayout rows[] = {QVHoritzontalLayout(this), QVHoritzontalLayout(this)};
-  QVVerticalLayout edges[] = {QVVerticalLayout(this), QVVerticalLayout(this)};
+  const auto spinHeight = QVLayout::Pixels2Size(Control(fromHoursSpin)->height()).height;
+  QVHoritzontalLayout fromTimes(this);
+  QVHoritzontalLayout toTimes(this);
+  AddTimes(fromTimes, qv::SlotEdge::From);
+  AddTimes(toTimes, qv::SlotEdge::To);
+  QVVerticalLayout from(this);
+  QVVerticalLayout to(this);
+  AddLabelled(from, fromLabel, fromTimes, spinHeight);
+  AddLabelled(to, toLabel, toTimes, spinHeight);
   QVHoritzontalLayout times(this);
-  for (std::size_t edge = 0; edge < std::size(rows); ++edge) {
-    const FieldControls& hours = fields[2 * edge];
-    const FieldControls& minutes = fields[2 * edge + 1];
-    rows[edge].AddControl(hours.edit, 50);
-    rows[edge].AddControl(hours.spin, spinWidth);
-    rows[edge].AddGap(LayoutSizeStandard);
-    rows[edge].AddControl(minutes.edit, 50);
-    rows[edge].AddControl(minutes.spin, spinWidth);
-    edges[edge].AddControl(edge == 0 ? fromLabel : toLabel, LayoutSizeLabel);
-    edges[edge].AddGap(LayoutSizeLabelGap);
-    edges[edge].AddLayout(&rows[edge], spinHeight);
-    if (edge > 0) {
-      times.AddGap(LayoutSizeStandard);
-    }
-    times.AddLayout(&edges[edge], 50);
-  }
+  times.AddLayout(&from, 50);
+  times.AddGap(LayoutSizeStandard);
+  times.AddLayout(&to, 50);
   QVHoritzontalLayout buttons(this);
-  buttons.AddGap(10);
-  buttons.AddControl(IDOK, 40);
-  buttons.AddGap(LayoutSizeStandard);
-  buttons.AddControl(IDCANCEL, 40);
-  buttons.AddGap(10);
+  qv::AddNarrowOkCancel(buttons);
   QVVerticalLayout column(this);
   column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
   column.AddGap(LayoutSizeStandard);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMap>
 #include <memory>
 #include <optional>
 
@@ -8,7 +7,7 @@
 #include "toolkit/CDialog.h"
 #include "toolkit/MessageBoxes.h"
 
-class QLineEdit;
+class QVHoritzontalLayout;
 
 namespace qv {
 class TimeGridView;
@@ -51,11 +50,10 @@ class CDlgAddModifyTimeSlot : public CDialog {
   void Connect();
   void InitializeTexts();
   void OnAddHourType();
-  void Step(qv::TimeField field, int delta);
-  bool IsStep(const FieldControls& field, QEvent* event);
   void ShowHourTypes();
   void ShowTimes();
   void ShowGrid();
+  void AddTimes(QVHoritzontalLayout& row, qv::SlotEdge edge) const;
   std::optional<int> MinuteAt(const QMouseEvent& event) const;
 
   qv::XmlNode* m_hourTypes;

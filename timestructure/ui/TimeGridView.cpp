@@ -19,12 +19,13 @@ std::optional<int> TimeGridView::MinuteAt(const QPoint& placeInBox) const {
   return Grid().MinuteAt({placeInBox.x(), placeInBox.y()});
 }
 
-void TimeGridView::Show(std::optional<MinuteRange> selection, Canvas::Colour selectionColour,
-                        Canvas::Colour dayColour) {
-  m_picture.selection = selection;
-  m_picture.selectionColour = selectionColour;
-  m_picture.dayColour = dayColour;
-  update();
+void TimeGridView::SetPicture(TimeGrid::Picture picture) {
+  picture.ground = m_picture.ground;
+  picture.ink = m_picture.ink;
+  if (picture != m_picture) {
+    m_picture = picture;
+    update();
+  }
 }
 
 void TimeGridView::FitIntoBox() {

@@ -18,10 +18,8 @@ class TimeGridView : public QWidget {
   /// The minute under a place of the box, if there is one.
   std::optional<int> MinuteAt(const QPoint& placeInBox) const;
 
-  /// Shows the selection in its colour on the colour of the day. Ground, labels and lines follow
-  /// the palette.
-  void Show(std::optional<MinuteRange> selection, Canvas::Colour selectionColour,
-            Canvas::Colour dayColour);
+  /// Shows this picture, but for ground and ink, which follow the palette.
+  void SetPicture(TimeGrid::Picture picture);
 
   /// Takes the place in the box that its size now gives.
   void FitIntoBox();

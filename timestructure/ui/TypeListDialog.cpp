@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "toolkit/ColorIcons.h"
+#include "toolkit/OkCancel.h"
 #include "toolkit/QVControlBoxButtonsLayout.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/ReportList.h"
@@ -86,9 +87,7 @@ void TypeListDialog::PositioningControls() {
   QVControlBoxButtonsLayout listLayout(this, listView, m_kind.box);
   listLayout.AddButtons21(addButton, modifyButton, removeButton);
   QVHoritzontalLayout buttons(this);
-  buttons.AddControl(IDOK, 50);
-  buttons.AddGap(LayoutSizeStandard);
-  buttons.AddControl(IDCANCEL, 50);
+  AddOkCancel(buttons);
   QVVerticalLayout column(this);
   column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
   column.AddGap(LayoutSizeStandard);
