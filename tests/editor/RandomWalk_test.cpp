@@ -259,18 +259,16 @@ class Walk {
     if (!devices || devices->ChildsBegin() == devices->ChildsEnd()) {
       return;
     }
+    const auto made = [](XmlNode& level, const wchar_t* tag) {
+      XmlNode* node = level.Node(tag);
+      return node ? node : level.NewChild(tag, nullptr);
+    };
     XmlNode* level = m_groups.Root();
     for (int depth = Below(3); depth >= 0; --depth) {
-      XmlNode* groups = level->Node(L"groups");
-      groups = groups ? groups : level->NewChild(L"groups", nullptr);
-      level = Below(2) == 0 && groups->ChildsBegin() != groups->ChildsEnd()
-                  ? *groups->ChildsBegin()
-                  : groups->NewChild(L"any", nullptr);
+      level = made(*made(*level, L"groups"), Below(2) == 0 ? L"group" : L"any");
     }
-    XmlNode* target = level->Node(L"devices");
-    target = target ? target : level->NewChild(L"devices", nullptr);
     XmlNode* entry = *devices->ChildsBegin();
-    *target->NewChild(L"device", nullptr) = *entry;
+    *made(*level, L"devices")->NewChild(L"device", nullptr) = *entry;
     devices->RemoveChild(entry);
   }
 
