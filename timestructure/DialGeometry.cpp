@@ -95,7 +95,7 @@ std::vector<Point> CreatePolygon(FaceMinutes minutes, const Rect& face) {
   const double hh = face.Height() * 0.5;
   const double r = hw - ringBreadth;
   std::vector<Point> points;
-  points.reserve(static_cast<std::size_t>(minutes.last - minutes.first + 2));
+  points.reserve(static_cast<std::size_t>(minutes.last - minutes.first) + 2);
   points.push_back({static_cast<int>(face.left + hw), static_cast<int>(face.top + hh)});
   for (int m = minutes.first; m <= minutes.last; ++m) {
     const double angle = halfPi - (m * twoPi) / minutesOfFace;

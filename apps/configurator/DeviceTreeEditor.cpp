@@ -236,7 +236,7 @@ void DeviceTreeEditor::FillMoveTo() {
 void DeviceTreeEditor::AddTarget(const QString& name, const TreePlace& group) {
   const auto what = m_view.Selected();
   const auto stands = [&](const TreePlace& place) { return ParentOf(place) == group; };
-  const QString margin(indentation * static_cast<int>(group.size()), QLatin1Char(' '));
+  const QString margin(indentation * static_cast<qsizetype>(group.size()), QLatin1Char(' '));
   QAction* target = m_moveTo->addAction(margin + LiteralCaption(name), this,
                                         [this, what, group] { Move(what, group, {}); });
   target->setEnabled(CanMove(Groups(), what, group) &&

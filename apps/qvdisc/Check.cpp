@@ -35,7 +35,7 @@ std::wstring UpperCased(const std::wstring& text) {
 }
 
 std::wstring IdInFileName(const std::wstring& file) {
-  return std::wstring(qv::IdOfStem(QVWideString(std::wstring_view(file))).ToView());
+  return std::wstring(qv::IdOfStem(QVWideString(std::wstring_view{file})).ToView());
 }
 
 class InstallationCheck {
@@ -61,13 +61,13 @@ class InstallationCheck {
  private:
   static bool ComesBefore(const Finding& a, const Finding& b) {
     const auto rank = [](const Finding& finding) {
-      return std::pair(finding.file == configurationFile, std::wstring_view(finding.file));
+      return std::pair(finding.file == configurationFile, std::wstring_view{finding.file});
     };
     return rank(a) < rank(b);
   }
 
   QVWideString PathOf(const std::wstring& file) const {
-    return m_checked.directory + QVWideString(std::wstring_view(file));
+    return m_checked.directory + QVWideString(std::wstring_view{file});
   }
 
   /// The root of a file, or null once it has been told why it can't be read.

@@ -77,11 +77,12 @@ class DocumentCheck {
       const std::wstring to = FieldOf(*slot, qv::tag::To);
       const std::wstring name =
           qv::Format(L"slot %u (%s-%s)", {++number, from.c_str(), to.c_str()});
+      const std::wstring slotPlace = qv::Format(L"%s/%s", {place.c_str(), name.c_str()});
       const std::wstring id = FieldOf(*slot, qv::tag::Id);
       if (hours.count(id) == 0) {
-        Tell({.kind = FindingKind::DeadHourType, .place = place + L"/" + name, .value = id});
+        Tell({.kind = FindingKind::DeadHourType, .place = slotPlace, .value = id});
       }
-      if (const auto times = GoodTimes(from, to, place + L"/" + name)) {
+      if (const auto times = GoodTimes(from, to, slotPlace)) {
         good.push_back({name, *times});
       }
     }
