@@ -12,7 +12,9 @@ namespace {
 
 QFont FontOfPixels(int pixels) {
   QFont font;
-  font.setFamilies(QGuiApplication::font().families());
+  // Pictures are measured for a narrow face; a broad one would not fit beside a dial.
+  font.setFamilies(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")} +
+                   QGuiApplication::font().families());
   font.setStyleHint(QFont::SansSerif);
   font.setWeight(QFont::Normal);
   font.setStyle(QFont::StyleNormal);

@@ -62,7 +62,7 @@ class Canvas {
   /// From `from` up to `to`, which is not drawn.
   virtual void Line(Point from, Point to, Colour pen) = 0;
 
-  /// A line of text in the upright sans-serif face whose ascent plus descent is `height`; `at` is
+  /// A line of text in an upright sans-serif face whose ascent plus descent is `height`; `at` is
   /// the upper left corner of its extent. What lies behind it stays.
   virtual void Text(Point at, std::wstring_view text, int height, Colour colour) = 0;
 
