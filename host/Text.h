@@ -78,6 +78,8 @@ enum class Text : unsigned {
   AddSlotTitle = 473,     ///< title, for a new slot
   ModifySlotTitle = 474,  ///< title, for an existing slot
   NoHourType = 480,       ///< message: there is no hour type to choose
+  SlotHours = 60009,      ///< what a field of a start or end is called, for people who can't see it
+  SlotMinutes = 60010,    ///< likewise
 
   // Day dial
   DayDialName = 60006,   ///< name, for people who can't see it

@@ -2,12 +2,10 @@
 
 #include <QLineEdit>
 #include <QPaintEvent>
-#include <QPushButton>
 
 #include "timestructure/ui/CDlgAddModifyTimeSlot.h"
 #include "timestructure/ui/QVDayCtrl.h"
 #include "toolkit/AskColour.h"
-#include "toolkit/ColorIcons.h"
 #include "toolkit/ColorSwatch.h"
 #include "toolkit/Controls.h"
 #include "toolkit/LimitTyping.h"
@@ -29,10 +27,6 @@ constexpr int nameEdit = 5299;
 constexpr int slotsBox = 5300;
 constexpr int dialBox = 5301;
 constexpr int colourLabel = 5302;
-constexpr int slotsView = 5303;
-constexpr int removeButton = 5347;
-constexpr int addButton = 5348;
-constexpr int modifyButton = 5349;
 
 void BuildTemplate(QDialog* dialog) { Ui::Template1303().setupUi(dialog); }
 
@@ -40,34 +34,17 @@ void BuildTemplate(QDialog* dialog) { Ui::Template1303().setupUi(dialog); }
 
 CDlgAddModifyDayType::CDlgAddModifyDayType(CWnd* parent, qv::XmlNode* day, qv::XmlNode* dayTypes,
                                            qv::XmlNode* hourTypes)
-    : CDialog(BuildTemplate, parent),
+    : ListDialog(BuildTemplate, parent),
       m_day(day),
       m_dayTypes(dayTypes),
       m_hourTypes(hourTypes),
-      m_view(Find<qv::ReportList>(slotsView)),
       m_dial(new QVDayCtrl(this)) {
   m_dial->setProperty(qv::controlIdProperty, dial);
-  Connect();
-}
-
-CDlgAddModifyDayType::~CDlgAddModifyDayType() = default;
-
-void CDlgAddModifyDayType::Connect() {
-  using qv::ReportList;
-  const auto onClick = [this](int button, void (CDlgAddModifyDayType::*run)()) {
-    connect(Find<QPushButton>(button), &QPushButton::clicked, this, run);
-  };
-  onClick(addButton, &CDlgAddModifyDayType::OnAdd);
-  onClick(modifyButton, &CDlgAddModifyDayType::OnModify);
-  onClick(removeButton, &CDlgAddModifyDayType::OnRemove);
-  connect(m_view, &ReportList::DoubleClicked, this, &CDlgAddModifyDayType::OnModify);
-  connect(m_view, &ReportList::KeyDown, this, &CDlgAddModifyDayType::OnKeydown);
-  connect(m_view, &ReportList::itemSelectionChanged, this,
-          &CDlgAddModifyDayType::EnableDisableButtons);
-  connect(m_view, &ReportList::RoomChanged, this, &CDlgAddModifyDayType::ResizeColumns);
   connect(Find<qv::ColorSwatch>(swatch), &qv::ColorSwatch::clicked, this,
           &CDlgAddModifyDayType::OnColor);
 }
+
+CDlgAddModifyDayType::~CDlgAddModifyDayType() = default;
 
 std::optional<int> CDlgAddModifyDayType::OnCreate() {
   if (const auto refused = CDialog::OnCreate()) {
@@ -81,7 +58,9 @@ std::optional<int> CDlgAddModifyDayType::OnCreate() {
 void CDlgAddModifyDayType::OnInitDialog() {
   qv::LimitTyping(Find<QLineEdit>(nameEdit), qv::TypeIdentity::longestTypedName);
   InitializeTexts();
-  CreateColumns();
+  const auto& loadString = Services().loadString;
+  InitializeList({qv::HostText(loadString, Text::Name), qv::HostText(loadString, Text::From),
+                  qv::HostText(loadString, Text::To)});
   qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Name()));
   m_form->Fill();
   FillList(std::nullopt);
@@ -96,44 +75,27 @@ void CDlgAddModifyDayType::InitializeTexts() {
   SetText(0, m_form->Name().Empty() ? Text::AddDayTypeTitle : Text::ModifyDayTypeTitle);
   SetLabel(nameLabel, nameEdit, Text::Name);
   SetLabel(colourLabel, swatch, Text::Colour);
-  SetLabel(slotsBox, slotsView, Text::TimeSlots);
+  SetLabel(slotsBox, listView, Text::TimeSlots);
   SetText(dialBox, Text::Diagram);
-  SetButton(addButton, Text::Add, L"NEW-16.png");
-  SetButton(modifyButton, Text::Modify, L"MODIFY-16.png");
-  SetButton(removeButton, Text::Remove, L"REMOVE-16.png");
   SetButton(IDOK, Text::Ok, L"OK-16.png");
   SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
 }
 
-void CDlgAddModifyDayType::CreateColumns() {
-  const auto& loadString = Services().loadString;
-  m_view->setColumnCount(3);
-  m_view->setHeaderLabels({qv::HostText(loadString, Text::Name),
-                           qv::HostText(loadString, Text::From),
-                           qv::HostText(loadString, Text::To)});
-  m_view->setIconSize(qv::SmallIconSize(m_view));
-}
-
 void CDlgAddModifyDayType::ResizeColumns() {
-  const int room = m_view->viewport()->width();
-  m_view->setColumnWidth(0, room / 3);
-  m_view->setColumnWidth(1, room / 3);
-  m_view->setColumnWidth(2, room - 2 * (room / 3));
+  const int room = View().viewport()->width();
+  View().setColumnWidth(0, room / 3);
+  View().setColumnWidth(1, room / 3);
+  View().setColumnWidth(2, room - 2 * (room / 3));
 }
 
 void CDlgAddModifyDayType::FillList(std::optional<int> select) {
-  QList<QTreeWidgetItem*> items;
-  for (const qv::SlotRow& row : m_form->Rows()) {
-    auto* item = new QTreeWidgetItem(
-        {qv::ToQString(row.hourType), qv::ToQString(row.from), qv::ToQString(row.to)});
-    item->setIcon(0, qv::ColorIcon(row.colour, m_view->iconSize()));
-    items.append(item);
+  std::vector<Row> rows;
+  for (const qv::SlotRow& slot : m_form->Rows()) {
+    rows.push_back(
+        {{qv::ToQString(slot.hourType), qv::ToQString(slot.from), qv::ToQString(slot.to)},
+         slot.colour});
   }
-  m_view->clear();
-  m_view->addTopLevelItems(items);
-  if (select) {
-    m_view->setCurrentItem(m_view->topLevelItem(*select));
-  }
+  ShowRows(rows, select);
 }
 
 void CDlgAddModifyDayType::UpdateDial() {
@@ -146,17 +108,6 @@ void CDlgAddModifyDayType::ShowColour() {
   m_dial->SetBkColor(m_form->Colour());
   m_dial->SetColor(m_form->Colour());
   UpdateDial();
-}
-
-void CDlgAddModifyDayType::EnableDisableButtons() {
-  const bool selected = SelectedRow().has_value();
-  Control(modifyButton)->setEnabled(selected);
-  Control(removeButton)->setEnabled(selected);
-}
-
-std::optional<int> CDlgAddModifyDayType::SelectedRow() const {
-  const auto rows = m_view->SelectedRows();
-  return rows.empty() ? std::nullopt : std::optional(rows.front());
 }
 
 void CDlgAddModifyDayType::OnColor() {
@@ -179,14 +130,6 @@ void CDlgAddModifyDayType::OnAdd() { Follow(m_form->OnAdd(Editor())); }
 void CDlgAddModifyDayType::OnModify() { Follow(m_form->OnModify(SelectedRow(), Editor())); }
 
 void CDlgAddModifyDayType::OnRemove() { Follow(m_form->OnRemove(SelectedRow())); }
-
-void CDlgAddModifyDayType::OnKeydown(int key) {
-  if (key == Qt::Key_Delete) {
-    OnRemove();
-  } else if (key == Qt::Key_Insert) {
-    OnAdd();
-  }
-}
 
 void CDlgAddModifyDayType::Follow(const qv::ListEnd& end) {
   if (end.refilled) {
@@ -219,7 +162,7 @@ void CDlgAddModifyDayType::PositioningControls() {
   QVVerticalLayout lowered(this);
   lowered.AddGap(100);
   lowered.AddLayout(&colour, QVLayout::Pixels2Size(swatchSize.height()).height);
-  QVControlBoxButtonsLayout list(this, slotsView, slotsBox);
+  QVControlBoxButtonsLayout list(this, listView, slotsBox);
   list.AddButtons21(addButton, modifyButton, removeButton);
   QVVerticalLayout left(this);
   left.AddControlAndLabel(nameEdit, nameLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
@@ -254,7 +197,7 @@ void CDlgAddModifyDayType::OnOK() {
 
 void CDlgAddModifyDayType::OnDestroy() {
   m_modified = m_form->IsModified();
-  m_view->clear();
+  View().clear();
   m_form.reset();
   m_boxes.reset();
 }

@@ -4,17 +4,13 @@
 #include <optional>
 
 #include "timestructure/DayTypeForm.h"
-#include "toolkit/CDialog.h"
+#include "timestructure/ui/ListDialog.h"
 #include "toolkit/MessageBoxes.h"
 
 class QVDayCtrl;
 
-namespace qv {
-class ReportList;
-}
-
 /// The editor of one day type: name, colour, and its slots, which a dial shows.
-class CDlgAddModifyDayType : public CDialog {
+class CDlgAddModifyDayType : public qv::ListDialog {
   Q_OBJECT
 
  public:
@@ -34,30 +30,24 @@ class CDlgAddModifyDayType : public CDialog {
   void PositioningControls() override;
   void OnOK() override;
   void OnDestroy() override;
+  void OnAdd() override;
+  void OnModify() override;
+  void OnRemove() override;
+  void ResizeColumns() override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void Connect();
   void InitializeTexts();
-  void CreateColumns();
-  void ResizeColumns();
   void FillList(std::optional<int> select);
   void UpdateDial();
   void ShowColour();
-  void EnableDisableButtons();
   void OnColor();
-  void OnAdd();
-  void OnModify();
-  void OnRemove();
-  void OnKeydown(int key);
   void Follow(const qv::ListEnd& end);
   qv::DayTypeForm::RunEditor Editor();
-  std::optional<int> SelectedRow() const;
 
   qv::XmlNode* m_day;
   qv::XmlNode* m_dayTypes;
   qv::XmlNode* m_hourTypes;
-  qv::ReportList* m_view;
   QVDayCtrl* m_dial;
   std::unique_ptr<qv::MessageBoxes> m_boxes;
   std::unique_ptr<qv::DayTypeForm> m_form;

@@ -117,15 +117,23 @@ void CDlgAddModifyTimeSlot::InitializeTexts() {
   SetText(fromLabel, Text::From);
   SetText(toLabel, Text::To);
   for (const FieldControls& controls : fields) {
-    const bool isStart = controls.field.edge == qv::SlotEdge::From;
-    Control(controls.edit)
-        ->setAccessibleName(qv::HostText(Services().loadString, isStart ? Text::From : Text::To));
+    const QString name = NameOf(controls.field);
+    Control(controls.edit)->setAccessibleName(name);
+    Control(controls.spin)->setAccessibleName(name);
   }
   SetText(gridBox, Text::Diagram);
   m_grid->setAccessibleName(qv::HostText(Services().loadString, Text::Diagram));
   SetButton(addButton, Text::Add, L"NEW-16.png");
   SetButton(IDOK, Text::Ok, L"OK-16.png");
   SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
+}
+
+QString CDlgAddModifyTimeSlot::NameOf(qv::TimeField field) const {
+  const auto& loadString = Services().loadString;
+  const QString edge =
+      qv::HostText(loadString, field.edge == qv::SlotEdge::From ? Text::From : Text::To);
+  const QString unit = qv::OwnText(loadString, field.isHours ? Text::SlotHours : Text::SlotMinutes);
+  return unit.isEmpty() ? edge : QStringLiteral("%1, %2").arg(edge, unit);
 }
 
 void CDlgAddModifyTimeSlot::ShowHourTypes() {

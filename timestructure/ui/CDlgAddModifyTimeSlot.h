@@ -49,6 +49,7 @@ class CDlgAddModifyTimeSlot : public CDialog {
 
   void Connect();
   void InitializeTexts();
+  QString NameOf(qv::TimeField field) const;
   void OnAddHourType();
   void ShowHourTypes();
   void ShowTimes();

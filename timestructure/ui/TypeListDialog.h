@@ -4,15 +4,13 @@
 #include <optional>
 
 #include "timestructure/TypeList.h"
-#include "toolkit/CDialog.h"
+#include "timestructure/ui/ListDialog.h"
 
 namespace qv {
 
-class ReportList;
-
 /// The dialog that lists hour types or day types: a row with a colour icon for each, and the
 /// buttons Add, Modify and Remove. What differs between the two is in `Kind` and the editor.
-class TypeListDialog : public CDialog {
+class TypeListDialog : public ListDialog {
   Q_OBJECT
 
  public:
@@ -39,24 +37,19 @@ class TypeListDialog : public CDialog {
   void OnInitDialog() override;
   void PositioningControls() override;
   void OnDestroy() override;
+  void OnAdd() override;
+  void OnModify() override;
+  void OnRemove() override;
+  void ResizeColumns() override;
 
  private:
   void InitializeTexts();
-  void CreateColumns();
-  void ResizeColumn();
-  void EnableDisableButtons();
-  void OnAdd();
-  void OnModify();
-  void OnRemove();
-  void OnKeydown(int key);
   TypeList::RunEditor Editor();
   void Follow(const ListEnd& end);
   void FillList(std::optional<int> select);
-  std::optional<int> SelectedRow() const;
 
   Kind m_kind;
   XmlNode* m_container;
-  ReportList* m_view;
   std::unique_ptr<TypeList> m_types;
 };
 

@@ -106,6 +106,16 @@ TEST_F(SlotEditor, EachControlHasItsText) {
   });
 }
 
+TEST_F(SlotEditor, ItsFieldsAreCalledByEdgeAndUnitWhereTheLanguageHasThem) {
+  host->loadString.additions = {60009, 60010};
+  Run("p", "01:00", "02:00", [] {
+    EXPECT_EQ(Edit(fromHours)->accessibleName(), "[462], [60009]");
+    EXPECT_EQ(Edit(toMinutes)->accessibleName(), "[463], [60010]");
+    EXPECT_EQ(TopControl(toMinutesSpin)->accessibleName(), "[463], [60010]");
+    Click(IDCANCEL);
+  });
+}
+
 TEST_F(SlotEditor, TimesAreTypedAndTheHourTypeChosen) {
   Run("", "00:00", "00:00", [] {
     Type(fromHours, "7");
