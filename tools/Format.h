@@ -12,11 +12,14 @@ namespace qv {
 /// One argument of `Format`: a text or a whole number.
 class QVTOOLS_EXPORT FormatArgument {
  public:
-  FormatArgument(const wchar_t* text);       // NOLINT(google-explicit-constructor)
-  FormatArgument(const QVWideString& text);  // NOLINT(google-explicit-constructor)
-  FormatArgument(std::wstring_view text);    // NOLINT(google-explicit-constructor)
-  FormatArgument(int number);                // NOLINT(google-explicit-constructor)
-  FormatArgument(unsigned number);           // NOLINT(google-explicit-constructor)
+  // Callers list texts and numbers as they are, as in Format(L"%s %d", {name, 3}).
+  // NOLINTBEGIN(google-explicit-constructor)
+  FormatArgument(const wchar_t* text);
+  FormatArgument(const QVWideString& text);
+  FormatArgument(std::wstring_view text);
+  FormatArgument(int number);
+  FormatArgument(unsigned number);
+  // NOLINTEND(google-explicit-constructor)
 
   /// The argument under a conversion character `s`, `d`, `u` or `X`, with at least `width`
   /// characters, filled with `fill` on the left.

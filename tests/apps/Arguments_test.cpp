@@ -186,6 +186,7 @@ TEST(Arguments, ADirectoryWhoseNameIsNotUtf8IsRefused) {
   const qv::TemporaryDirectory directory;
   const auto odd = directory.Path() / "caf\xE9";
   if (!std::filesystem::create_directory(odd)) {
+    // Some file systems hold names in Unicode only, and then no directory can be called so.
     GTEST_SKIP() << "the file system doesn't take such names";
   }
   const EarlyEnd end = Ended({"--installation", odd.string()});

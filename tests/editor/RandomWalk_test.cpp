@@ -11,6 +11,7 @@
 #include "discriminator/FileNames.h"
 #include "editor/DiscriminatorForm.h"
 #include "hostkit/IndexFiles.h"
+#include "tests/editor/UsersTree.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"
@@ -55,7 +56,7 @@ class Walk {
         Paste();
         break;
       case 6:
-        MoveEntryIntoGroup();
+        MoveEntryIntoGroup(*m_groups.Root(), m_random);
         break;
       default:
         m_list.OnAdd([](XmlNode*, const QVWideString*) { return EditorEnd{}; }, [] {});
@@ -253,25 +254,6 @@ class Walk {
     EXPECT_EQ(m_entries.size(), entriesBefore + m_payload.size());
   }
 
-  /// What the host's user does between two runs.
-  void MoveEntryIntoGroup() {
-    XmlNode* devices = m_groups.Root()->Node(L"devices");
-    if (!devices || devices->ChildsBegin() == devices->ChildsEnd()) {
-      return;
-    }
-    const auto made = [](XmlNode& level, const wchar_t* tag) {
-      XmlNode* node = level.Node(tag);
-      return node ? node : level.NewChild(tag, nullptr);
-    };
-    XmlNode* level = m_groups.Root();
-    for (int depth = Below(3); depth >= 0; --depth) {
-      level = made(*made(*level, L"groups"), Below(2) == 0 ? L"group" : L"any");
-    }
-    XmlNode* entry = *devices->ChildsBegin();
-    *made(*level, L"devices")->NewChild(L"device", nullptr) = *entry;
-    devices->RemoveChild(entry);
-  }
-
   static std::wstring FreeName(const std::wstring& name, const std::vector<std::wstring>& taken) {
     std::wstring candidate = name;
     const auto isTaken = [&] {
@@ -342,26 +324,7 @@ class Walk {
     EXPECT_EQ(Entries(), m_entries);
   }
 
-  /// How many entries each id has, at any level.
-  std::map<std::wstring, int> Entries() {
-    std::map<std::wstring, int> entries;
-    CountEntries(*m_groups.Root(), entries);
-    return entries;
-  }
-
-  static void CountEntries(XmlNode& level, std::map<std::wstring, int>& entries) {
-    if (const XmlNode* devices = level.Node(L"devices")) {
-      for (auto child = devices->ChildsBegin(); child != devices->ChildsEnd(); ++child) {
-        EXPECT_EQ((*child)->Value(L"type", L""), L"R$DISC");
-        ++entries[std::wstring((*child)->Value(L"id", L"").ToView())];
-      }
-    }
-    if (XmlNode* groups = level.Node(L"groups")) {
-      for (XmlNode* group : std::vector(groups->ChildsBegin(), groups->ChildsEnd())) {
-        CountEntries(*group, entries);
-      }
-    }
-  }
+  std::map<std::wstring, int> Entries() const { return EntriesOf(*m_groups.Root()); }
 
   FakeHost host;
   ScriptedFiles files;

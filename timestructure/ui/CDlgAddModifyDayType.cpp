@@ -5,6 +5,7 @@
 
 #include "timestructure/ui/CDlgAddModifyTimeSlot.h"
 #include "timestructure/ui/QVDayCtrl.h"
+#include "timestructure/ui/SwatchRow.h"
 #include "toolkit/AskColour.h"
 #include "toolkit/ColorSwatch.h"
 #include "toolkit/Controls.h"
@@ -150,18 +151,10 @@ void CDlgAddModifyDayType::paintEvent(QPaintEvent* event) {
 }
 
 void CDlgAddModifyDayType::PositioningControls() {
-  const QSize swatchSize = Control(swatch)->size();
-  QVVerticalLayout label(this);
-  label.AddGap(50);
-  label.AddControl(colourLabel, LayoutSizeLabel);
-  label.AddGap(50);
-  QVHoritzontalLayout colour(this);
-  colour.AddControl(swatch, QVLayout::Pixels2Size(swatchSize.width()).width);
-  colour.AddGap(LayoutSizeStandard);
-  colour.AddLayout(&label, 100);
+  qv::SwatchRow colour(this, Control(swatch), colourLabel, LayoutSizeStandard);
   QVVerticalLayout lowered(this);
   lowered.AddGap(100);
-  lowered.AddLayout(&colour, QVLayout::Pixels2Size(swatchSize.height()).height);
+  colour.AddTo(lowered);
   QVControlBoxButtonsLayout list(this, listView, slotsBox);
   list.AddButtons21(addButton, modifyButton, removeButton);
   QVVerticalLayout left(this);

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 
 #include "host/Installation.h"
+#include "timestructure/ui/SwatchRow.h"
 #include "toolkit/AskColour.h"
 #include "toolkit/ColorSwatch.h"
 #include "toolkit/LimitTyping.h"
@@ -86,18 +87,10 @@ void CDlgAddModifyHourType::AddFields(QVVerticalLayout& column) const {
 }
 
 void CDlgAddModifyHourType::PositioningControls() {
-  const QSize swatchSize = Control(swatch)->size();
-  QVVerticalLayout label(this);
-  label.AddGap(50);
-  label.AddControl(colourLabel, LayoutSizeLabel);
-  label.AddGap(50);
-  QVHoritzontalLayout colour(this);
-  colour.AddControl(swatch, QVLayout::Pixels2Size(swatchSize.width()).width);
-  colour.AddGap(LayoutSizeLabel);
-  colour.AddLayout(&label, 100);
+  qv::SwatchRow colour(this, Control(swatch), colourLabel, LayoutSizeLabel);
   QVVerticalLayout fields(this);
   AddFields(fields);
-  fields.AddLayout(&colour, QVLayout::Pixels2Size(swatchSize.height()).height);
+  colour.AddTo(fields);
   QVHoritzontalLayout buttons(this);
   qv::AddNarrowOkCancel(buttons);
   QVVerticalLayout column(this);

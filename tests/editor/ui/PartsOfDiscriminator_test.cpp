@@ -133,6 +133,8 @@ TEST_F(Editor, CancellingAtAnyLevelTakesBackWhatLiesBelowIt) {
     int days, day, slot, hour;
     const char* kept;  // of the names that were entered
   };
+  Modify(AddFile("1.old.xdct", oldFile), [] { Click(IDOK); });
+  const QByteArray untouched = Content("1.old.xdct");
   // An hour type that was made in the editor of a slot outlives a cancel of the day type.
   for (const Case& ends :
        {Case{IDCANCEL, IDOK, IDOK, IDOK, ""}, Case{IDOK, IDCANCEL, IDOK, IDOK, "peak"},
@@ -150,6 +152,7 @@ TEST_F(Editor, CancellingAtAnyLevelTakesBackWhatLiesBelowIt) {
     // The list of day types knows nothing of an hour type that was made on the way.
     EXPECT_EQ(modified, kept.contains("whole")) << ends.kept;
     EXPECT_EQ(content.contains("<revision>r</revision>"), !modified) << ends.kept;
+    EXPECT_EQ(content == untouched, kept.isEmpty()) << "the whole document";
   }
 }
 
