@@ -33,7 +33,7 @@ void AddSlots(qv::XmlNode& day, const qv::XmlNode& hourTypes, int count) {
   auto hour = hourTypes.ChildsBegin();
   for (int i = 0; i < count; ++i) {
     qv::XmlNode* slot = day.NewChild(L"slot", nullptr);
-    slot->SetValue(L"id", (*hour)->Value(L"id", L""));
+    slot->SetValue(L"id", (*hour)->Value(L"id"));
     slot->SetValue(L"from", Time(i * length));
     slot->SetValue(L"to", Time((i + 1) * length));
     hour = ++hour == hourTypes.ChildsEnd() ? hourTypes.ChildsBegin() : hour;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "discriminator/Fields.h"
+#include "tools/Nodes.h"
 #include "tools/XmlReader.h"
 #include "tools/XmlWriter.h"
 
@@ -84,12 +85,7 @@ std::unique_ptr<XmlDocument> ParsePayload(const char* text) {
 
 std::vector<const XmlNode*> ItemsOfPayload(const XmlDocument& payload) {
   std::vector<const XmlNode*> items;
-  const XmlNode& root = *payload.Root();
-  for (auto child = root.ChildsBegin(); child != root.ChildsEnd(); ++child) {
-    const XmlNode& wrapper = **child;
-    if (wrapper.Tag() != itemTag) {
-      continue;
-    }
+  for (const XmlNode& wrapper : ChildrenWithTag(payload.Root(), itemTag)) {
     const XmlNode* item = wrapper.Node(tag::Main);
     item = item ? item : wrapper.Node(tag::Root);
     if (item) {

@@ -24,7 +24,7 @@ void AddDiscriminatorToDeviceGroupsNode(XmlNode* deviceGroups, const XmlNode& ro
     devices = deviceGroups->NewChild(tag::Devices, nullptr);
   }
   XmlNode* device = devices->NewChild(tag::Device, nullptr);
-  device->SetValue(tag::Id, root.Value(tag::Id, L""));
+  device->SetValue(tag::Id, root.Value(tag::Id));
   device->SetValue(tag::Type, word::DiscriminatorDevice);
 }
 

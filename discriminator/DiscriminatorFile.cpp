@@ -7,7 +7,7 @@ namespace qv {
 namespace {
 
 QVWideString StemOfFields(const XmlNode& root) {
-  return FileStem(root.Value(tag::Id, L""), root.Value(tag::Name, L""));
+  return FileStem(root.Value(tag::Id), root.Value(tag::Name));
 }
 
 }  // namespace
@@ -32,11 +32,11 @@ std::optional<DiscriminatorSummary> GetDiscriminatorIdNameDescription(const QVWi
     return std::nullopt;
   }
   const XmlNode& root = *document.Root();
-  if (root.Value(tag::Type, L"") == word::Conditions && showConditions == ShowConditions::No) {
+  if (root.Value(tag::Type) == word::Conditions && showConditions == ShowConditions::No) {
     return std::nullopt;
   }
-  return DiscriminatorSummary{StemOfFields(root), root.Value(tag::Name, L""),
-                              root.Value(tag::Description, L"")};
+  return DiscriminatorSummary{StemOfFields(root), root.Value(tag::Name),
+                              root.Value(tag::Description)};
 }
 
 }  // namespace qv

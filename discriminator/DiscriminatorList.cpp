@@ -163,7 +163,7 @@ std::unique_ptr<XmlDocument> DiscriminatorList::ReadClipboard() const {
 }
 
 void DiscriminatorList::PasteItem(const XmlNode& item) {
-  const QVWideString name = item.Value(tag::Name, L"");
+  const QVWideString name = item.Value(tag::Name);
   if (name.Empty()) {
     return;
   }

@@ -28,7 +28,7 @@ DiscriminatorForm::DiscriminatorForm(const Surroundings& surroundings, const QVW
   m_type = found.type;
   m_typeSelectable = !IsEmbedded(m_surroundings.host.mainCfg);
   if (!IsNew()) {
-    m_initialName = root.Value(tag::Name, L"");
+    m_initialName = root.Value(tag::Name);
   }
 }
 
@@ -36,8 +36,8 @@ DiscriminatorFields DiscriminatorForm::InitialFields() const {
   DiscriminatorFields fields;
   fields.setZeroOutsideSlot = IsFlagSet(Root().Value(tag::SetZeroOutsideSlot, L"T"));
   if (!IsNew()) {
-    fields.name = Root().Value(tag::Name, L"");
-    fields.description = Root().Value(tag::Description, L"");
+    fields.name = Root().Value(tag::Name);
+    fields.description = Root().Value(tag::Description);
   }
   return fields;
 }
@@ -97,7 +97,7 @@ bool DiscriminatorForm::Save(const DiscriminatorFields& typed) {
   }
   if (written) {
     // The index service is asked by the name alone, without the id.
-    host.createIndex(host.setup.CfgPath(), root.Value(tag::Name, L"") + discriminatorExtension);
+    host.createIndex(host.setup.CfgPath(), root.Value(tag::Name) + discriminatorExtension);
   } else {
     m_surroundings.prompter.Show(Text::DiscriminatorNotSaved);
   }
@@ -109,7 +109,7 @@ bool DiscriminatorForm::IsAccepted(const DiscriminatorFields& typed) {
   if (typed.name.Empty()) {
     prompter.Show(Text::DiscriminatorNameMissing);
   } else if (!IsValidId(typed.name, true) ||
-             !FitsFileName(FileStem(Root().Value(tag::Id, L""), typed.name))) {
+             !FitsFileName(FileStem(Root().Value(tag::Id), typed.name))) {
     prompter.Show(Text::NameNotAllowed);
   } else if (NameExists(typed.name)) {
     prompter.Show(Text::DiscriminatorNameTaken);
@@ -135,7 +135,7 @@ bool DiscriminatorForm::NameExists(const QVWideString& name) const {
 
 void DiscriminatorForm::TakeOver(const wchar_t* tag, const QVWideString& value) {
   XmlNode& root = *m_document.Root();
-  m_modified = m_modified || root.Value(tag, L"") != value;
+  m_modified = m_modified || root.Value(tag) != value;
   root.SetValue(tag, value);
 }
 

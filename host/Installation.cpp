@@ -2,16 +2,18 @@
 
 #include <algorithm>
 
+#include "tools/Nodes.h"
+
 namespace qv {
 
 bool IsEmbeddedDevice(const XmlNode& node) {
-  return node.Tag() == L"device" && node.Value(L"driver", L"") == embeddedDriver;
+  return node.Tag() == L"device" && node.Value(L"driver") == embeddedDriver;
 }
 
 bool IsEmbedded(const XmlDocument& mainCfg) {
   const XmlNode* commSystem = mainCfg.Root() ? mainCfg.Root()->Node(L"commSystem") : nullptr;
-  return commSystem && std::any_of(commSystem->ChildsBegin(), commSystem->ChildsEnd(),
-                                   [](const XmlNode* node) { return IsEmbeddedDevice(*node); });
+  const auto devices = ChildrenWithTag(commSystem, L"device");
+  return std::any_of(devices.begin(), devices.end(), IsEmbeddedDevice);
 }
 
 }  // namespace qv

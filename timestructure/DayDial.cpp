@@ -4,6 +4,7 @@
 
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
+#include "tools/Nodes.h"
 #include "tools/Numbers.h"
 
 namespace qv {
@@ -17,11 +18,11 @@ constexpr int labelHeight = 14;
 /// The colour of a slot's hour type. It is read as it stands: nothing folds its case.
 Canvas::Colour ColourOfSlot(const XmlNode& slot, const XmlNode* hourTypes) {
   const XmlNode* hour =
-      hourTypes ? hourTypes->NodeV(L"/hour?id=%s?", slot.Value(tag::Id, L"")) : nullptr;
+      hourTypes ? hourTypes->NodeV(L"/hour?id=%s?", slot.Value(tag::Id)) : nullptr;
   if (!hour) {
     return red;
   }
-  const QVWideString text = hour->Value(tag::Color, L"");
+  const QVWideString text = hour->Value(tag::Color);
   return static_cast<Canvas::Colour>(HtoL(text, text.Length()));
 }
 
@@ -53,16 +54,9 @@ void DayDial::Setup(const std::uint8_t* map, int count) {
 
 void DayDial::Setup(const XmlNode* day, const XmlNode* hourTypes) {
   ResetSlots();
-  if (!day) {
-    return;
-  }
-  for (auto child = day->ChildsBegin(); child != day->ChildsEnd(); ++child) {
-    const XmlNode& node = **child;
-    if (node.Tag() == tag::Slot) {
-      m_slots.push_back({TimeOf(node.Value(tag::From, L"")).Minutes(),
-                         TimeOf(node.Value(tag::To, L"")).Minutes(),
-                         ColourOfSlot(node, hourTypes)});
-    }
+  for (const XmlNode& slot : ChildrenWithTag(day, tag::Slot)) {
+    m_slots.push_back({TimeOf(slot.Value(tag::From)).Minutes(),
+                       TimeOf(slot.Value(tag::To)).Minutes(), ColourOfSlot(slot, hourTypes)});
   }
 }
 

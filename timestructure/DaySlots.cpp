@@ -6,6 +6,7 @@
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
 #include "timestructure/DayMinutes.h"
+#include "tools/Nodes.h"
 
 namespace qv {
 namespace {
@@ -39,29 +40,26 @@ DaySlots::DaySlots(XmlNode& day, const XmlNode& hourTypes) : m_day(day), m_hourT
 
 void DaySlots::Fill() {
   m_rows.clear();
-  for (auto child = m_day.ChildsBegin(); child != m_day.ChildsEnd();) {
-    XmlNode* slot = *child;
-    ++child;
-    if (slot->Tag() != tag::Slot) {
-      continue;
-    }
-    const XmlNode* hour = m_hourTypes.NodeV(L"hour?id=%s?", slot->Value(tag::Id, L""));
+  const auto slots = ChildrenWithTag(m_day, tag::Slot);
+  for (auto at = slots.begin(); at != slots.end();) {
+    XmlNode& slot = *at++;
+    const XmlNode* hour = m_hourTypes.NodeV(L"hour?id=%s?", slot.Value(tag::Id));
     if (!hour) {
-      m_day.RemoveChild(slot);
+      m_day.RemoveChild(&slot);
       continue;
     }
-    m_rows.push_back({hour->Value(tag::Name, L""), ColorOf(hour->Value(tag::Color, L"")),
-                      NormalizeTime(slot->Value(tag::From, L"")),
-                      NormalizeTime(slot->Value(tag::To, L""))});
+    m_rows.push_back({hour->Value(tag::Name), ColorOf(hour->Value(tag::Color)),
+                      NormalizeTime(slot.Value(tag::From)), NormalizeTime(slot.Value(tag::To))});
   }
 }
 
 XmlNode* DaySlots::SlotOfRow(int row) {
-  int slots = 0;
-  const auto found = std::find_if(m_day.ChildsBegin(), m_day.ChildsEnd(), [&](XmlNode* child) {
-    return child->Tag() == tag::Slot && slots++ == row;
-  });
-  return found == m_day.ChildsEnd() ? nullptr : *found;
+  for (XmlNode& slot : ChildrenWithTag(m_day, tag::Slot)) {
+    if (row-- == 0) {
+      return &slot;
+    }
+  }
+  return nullptr;
 }
 
 void DaySlots::Remove(int row) {

@@ -14,7 +14,7 @@ constexpr TypeIdentity::Kind kind{tag::Hour, Text::HourTypeNameMissing,
 HourTypeForm::HourTypeForm(const XmlNode& hourTypes, XmlNode& hour, Prompter& prompter)
     : m_hour(hour),
       m_identity(hourTypes, hour, kind, prompter),
-      m_openedValue(hour.Value(tag::Value, L"")) {}
+      m_openedValue(hour.Value(tag::Value)) {}
 
 bool HourTypeForm::ChooseColour(std::uint32_t colour) {
   const bool isOther = m_identity.SetColour(colour);

@@ -7,6 +7,7 @@
 #include "timestructure/NewChildNode.h"
 #include "timestructure/TimeGrid.h"
 #include "tools/Guid.h"
+#include "tools/Nodes.h"
 #include "tools/Numbers.h"
 
 namespace qv {
@@ -44,23 +45,19 @@ TimeSlotForm::TimeSlotForm(XmlNode& hourTypes, XmlNode& slot, Prompter& prompter
     Minutes(edge).SetRange(lastMinute);
   }
   FillHourTypes(std::nullopt);
-  InitializeTime(SlotEdge::From, m_slot.Value(tag::From, L""));
-  InitializeTime(SlotEdge::To, m_slot.Value(tag::To, L""));
+  InitializeTime(SlotEdge::From, m_slot.Value(tag::From));
+  InitializeTime(SlotEdge::To, m_slot.Value(tag::To));
 }
 
-bool TimeSlotForm::IsNew() const { return m_slot.Value(tag::Id, L"").Empty(); }
+bool TimeSlotForm::IsNew() const { return m_slot.Value(tag::Id).Empty(); }
 
 void TimeSlotForm::FillHourTypes(std::optional<int> select) {
   m_choices.clear();
-  const QVWideString slotId = m_slot.Value(tag::Id, L"");
+  const QVWideString slotId = m_slot.Value(tag::Id);
   int match = 0;
-  for (auto child = m_hourTypes.ChildsBegin(); child != m_hourTypes.ChildsEnd(); ++child) {
-    XmlNode& hour = **child;
-    if (hour.Tag() == tag::Hour) {
-      match = hour.Value(tag::Id, L"") == slotId ? static_cast<int>(m_choices.size()) : match;
-      m_choices.push_back(
-          {&hour, hour.Value(tag::Name, L""), ColorOf(hour.Value(tag::Color, L""))});
-    }
+  for (XmlNode& hour : ChildrenWithTag(m_hourTypes, tag::Hour)) {
+    match = hour.Value(tag::Id) == slotId ? static_cast<int>(m_choices.size()) : match;
+    m_choices.push_back({&hour, hour.Value(tag::Name), ColorOf(hour.Value(tag::Color))});
   }
   m_selected = m_choices.empty() ? std::nullopt : std::optional(select.value_or(match));
   // Also a spin that was locked: only its range still says so.
@@ -240,7 +237,7 @@ bool TimeSlotForm::Save() {
   const auto textOf = [this](SlotEdge edge) {
     return TimeText({Hours(edge).Position(), Minutes(edge).Position()});
   };
-  m_slot.SetValue(tag::Id, hour->Value(tag::Id, L""));
+  m_slot.SetValue(tag::Id, hour->Value(tag::Id));
   m_slot.SetValue(tag::From, textOf(SlotEdge::From));
   m_slot.SetValue(tag::To, textOf(SlotEdge::To));
   return true;

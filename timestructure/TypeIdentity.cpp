@@ -11,8 +11,8 @@ TypeIdentity::TypeIdentity(const XmlNode& list, const XmlNode& type, const Kind&
     : m_list(list),
       m_kind(kind),
       m_prompter(prompter),
-      m_openedName(type.Value(tag::Name, L"")),
-      m_openedColour(ColorOf(type.Value(tag::Color, L""))),
+      m_openedName(type.Value(tag::Name)),
+      m_openedColour(ColorOf(type.Value(tag::Color))),
       m_colour(m_openedColour) {}
 
 bool TypeIdentity::SetColour(std::uint32_t colour) {

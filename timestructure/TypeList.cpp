@@ -7,6 +7,7 @@
 #include "timestructure/NewChildNode.h"
 #include "tools/Guid.h"
 #include "tools/Names.h"
+#include "tools/Nodes.h"
 #include "tools/XmlDocument.h"
 
 namespace qv {
@@ -26,11 +27,8 @@ TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(contain
 
 void TypeList::Fill() {
   m_rows.clear();
-  for (auto child = m_container.ChildsBegin(); child != m_container.ChildsEnd(); ++child) {
-    XmlNode& node = **child;
-    if (node.Tag() == m_tag) {
-      m_rows.push_back({&node, node.Value(tag::Name, L""), ColorOf(node.Value(tag::Color, L""))});
-    }
+  for (XmlNode& type : ChildrenWithTag(m_container, m_tag)) {
+    m_rows.push_back({&type, type.Value(tag::Name), ColorOf(type.Value(tag::Color))});
   }
   std::stable_sort(m_rows.begin(), m_rows.end(), [](const TypeRow& a, const TypeRow& b) {
     return CompareLowered(a.name.ToView(), b.name.ToView()) < 0;

@@ -47,6 +47,19 @@ bool Satisfies(const XmlNode& node, const Path& path) {
          });
 }
 
+/// The first child of `node`, const or not, that `path` names, or null.
+template <class Node>
+Node* FindChild(Node& node, const wchar_t* path) {
+  const auto resolved = Resolve(path);
+  if (!resolved) {
+    return nullptr;
+  }
+  const auto found = std::find_if(node.ChildsBegin(), node.ChildsEnd(), [&](const XmlNode* child) {
+    return Satisfies(*child, *resolved);
+  });
+  return found == node.ChildsEnd() ? nullptr : *found;
+}
+
 void Destroy(XmlNode::Children& children) {
   for (XmlNode* child : children) {
     delete child;
@@ -58,7 +71,10 @@ void Destroy(XmlNode::Children& children) {
 
 XmlNode::XmlNode(const QVWideString& tag) : m_tag(tag) {}
 
-XmlNode::XmlNode(const XmlNode& source) : m_tag(source.m_tag), m_value(source.m_value) {
+// The node is whole once the first constructor has ended, so that its destructor frees the children
+// that there are if a later one can't be copied.
+XmlNode::XmlNode(const XmlNode& source) : XmlNode(source.m_tag) {
+  m_value = source.m_value;
   CopyChildren(source.m_children);
 }
 
@@ -75,7 +91,9 @@ XmlNode& XmlNode::operator=(const XmlNode& source) {
 
 void XmlNode::CopyChildren(const Children& source) {
   for (const XmlNode* child : source) {
-    m_children.push_back(new XmlNode(*child));
+    auto copy = std::make_unique<XmlNode>(*child);
+    m_children.push_back(copy.get());
+    copy.release();
   }
 }
 
@@ -84,20 +102,9 @@ QVWideString XmlNode::Value(const wchar_t* path, const wchar_t* otherwise) const
   return node ? node->m_value : QVWideString(otherwise);
 }
 
-XmlNode* XmlNode::Node(const wchar_t* path) {
-  return const_cast<XmlNode*>(std::as_const(*this).Node(path));
-}
+XmlNode* XmlNode::Node(const wchar_t* path) { return FindChild(*this, path); }
 
-const XmlNode* XmlNode::Node(const wchar_t* path) const {
-  const auto resolved = Resolve(path);
-  if (!resolved) {
-    return nullptr;
-  }
-  const auto found = std::find_if(m_children.begin(), m_children.end(), [&](const XmlNode* child) {
-    return Satisfies(*child, *resolved);
-  });
-  return found == m_children.end() ? nullptr : *found;
-}
+const XmlNode* XmlNode::Node(const wchar_t* path) const { return FindChild(*this, path); }
 
 void XmlNode::SetValue(const wchar_t* tag, const wchar_t* value) {
   SetValue(tag, QVWideString(value, false));

@@ -23,7 +23,7 @@ class QVTOOLS_EXPORT XmlNode {
   using const_iterator = Children::const_iterator;
 
   explicit XmlNode(const QVWideString& tag);
-  /// A deep copy: tag, value and children.
+  /// A deep copy: tag, value and children. What was copied is freed if there is no memory for all.
   XmlNode(const XmlNode& source);
   ~XmlNode();
 
@@ -34,7 +34,7 @@ class QVTOOLS_EXPORT XmlNode {
   const QVWideString& Tag() const { return m_tag; }
   const QVWideString& Value() const { return m_value; }
   /// The value of the node that `path` names, or `otherwise` if there is none.
-  QVWideString Value(const wchar_t* path, const wchar_t* otherwise) const;
+  QVWideString Value(const wchar_t* path, const wchar_t* otherwise = L"") const;
 
   /// The node that `path` names, or null.
   XmlNode* Node(const wchar_t* path);

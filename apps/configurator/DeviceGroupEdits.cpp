@@ -18,37 +18,40 @@ using NodeSet = std::set<const XmlNode*>;
 constexpr const wchar_t* groupsTag = qv::tag::Groups;
 constexpr const wchar_t* devicesTag = qv::tag::Devices;
 
-/// A line of the tree, and the container that its node is a child of.
-struct Line {
-  XmlNode* container = nullptr;
-  XmlNode* node = nullptr;
+/// A line of the tree, and the container that its node is a child of. `Node` is `XmlNode`, or
+/// `const XmlNode` where it is only read.
+template <class Node>
+struct LineOf {
+  Node* container = nullptr;
+  Node* node = nullptr;
   bool isGroup = false;
 
-  friend bool operator==(const Line&, const Line&) = default;
+  friend bool operator==(const LineOf&, const LineOf&) = default;
 };
+using Line = LineOf<XmlNode>;
 
-void AddLines(XmlNode* container, bool areGroups, std::vector<Line>& lines) {
+template <class Node>
+void AddLines(Node* container, bool areGroups, std::vector<LineOf<Node>>& lines) {
   if (container) {
     std::transform(container->ChildsBegin(), container->ChildsEnd(), std::back_inserter(lines),
-                   [&](XmlNode* child) {
-                     return Line{container, child, areGroups};
+                   [&](Node* child) {
+                     return LineOf<Node>{container, child, areGroups};
                    });
   }
 }
 
-std::vector<Line> LinesOf(XmlNode& level) {
-  std::vector<Line> lines;
+template <class Node>
+std::vector<LineOf<Node>> LinesOf(Node& level) {
+  std::vector<LineOf<Node>> lines;
   AddLines(level.Node(groupsTag), true, lines);
   AddLines(level.Node(devicesTag), false, lines);
   return lines;
 }
 
-/// Reading changes nothing.
-std::vector<Line> LinesOf(const XmlNode& level) { return LinesOf(const_cast<XmlNode&>(level)); }
-
 /// The line at `place`; one without a node if there is none.
-Line Find(XmlNode& deviceGroups, const TreePlace& place) {
-  Line line{nullptr, &deviceGroups, true};
+template <class Node>
+LineOf<Node> Find(Node& deviceGroups, const TreePlace& place) {
+  LineOf<Node> line{nullptr, &deviceGroups, true};
   for (const int row : place) {
     if (!line.isGroup) {
       return {};
@@ -60,10 +63,6 @@ Line Find(XmlNode& deviceGroups, const TreePlace& place) {
     line = lines[static_cast<std::size_t>(row)];
   }
   return line;
-}
-
-Line Find(const XmlNode& deviceGroups, const TreePlace& place) {
-  return Find(const_cast<XmlNode&>(deviceGroups), place);
 }
 
 bool IsAtOrBelow(const TreePlace& place, const TreePlace& above) {
@@ -83,12 +82,13 @@ Places Outermost(Places places) {
 }
 
 /// How many groups stand in each other from this line down.
-int Depth(const Line& line) {
+template <class Node>
+int Depth(const LineOf<Node>& line) {
   if (!line.isGroup) {
     return 0;
   }
   int below = 0;
-  for (const Line& child : LinesOf(*line.node)) {
+  for (const auto& child : LinesOf(*line.node)) {
     below = std::max(below, Depth(child));
   }
   return below + 1;
@@ -150,7 +150,7 @@ NodeSet MoveKind(const std::vector<Line>& lines, bool areGroups, XmlNode& level,
 void AddPlaces(const XmlNode& level, const TreePlace& place, const NodeSet& nodes, Places& places) {
   TreePlace below = place;
   below.push_back(0);
-  for (const Line& line : LinesOf(level)) {
+  for (const auto& line : LinesOf(level)) {
     if (nodes.count(line.node) > 0) {
       places.push_back(below);
     } else if (line.isGroup) {
@@ -163,9 +163,9 @@ void AddPlaces(const XmlNode& level, const TreePlace& place, const NodeSet& node
 void AddGroups(const XmlNode& level, const TreePlace& place, std::vector<GroupLine>& groups) {
   TreePlace below = place;
   below.push_back(0);
-  for (const Line& line : LinesOf(level)) {
+  for (const auto& line : LinesOf(level)) {
     if (line.isGroup) {
-      groups.push_back({below, std::wstring(line.node->Value(qv::tag::Name, L"").ToView())});
+      groups.push_back({below, std::wstring(line.node->Value(qv::tag::Name).ToView())});
       AddGroups(*line.node, below, groups);
       ++below.back();
     }
@@ -190,12 +190,12 @@ bool IsGroupPlace(const XmlNode& deviceGroups, const TreePlace& place) {
 }
 
 Siblings SiblingsOf(const XmlNode& deviceGroups, const TreePlace& place) {
-  const Line line = place.empty() ? Line{} : Find(deviceGroups, place);
-  if (!line.node) {
+  const auto line = Find(deviceGroups, place);
+  if (place.empty() || !line.node) {
     return {};
   }
   const auto lines = LinesOf(*Find(deviceGroups, ParentOf(place)).node);
-  const auto isSibling = [&](const Line& other) { return other.isGroup == line.isGroup; };
+  const auto isSibling = [&](const auto& other) { return other.isGroup == line.isGroup; };
   const auto first = std::find_if(lines.begin(), lines.end(), isSibling);
   return {static_cast<int>(first - lines.begin()),
           static_cast<int>(std::count_if(first, lines.end(), isSibling))};
@@ -238,8 +238,8 @@ bool RemoveGroup(XmlNode& deviceGroups, const TreePlace& place) {
 
 bool CanMove(const XmlNode& deviceGroups, const Places& what, const TreePlace& group) {
   const auto fits = [&](const TreePlace& place) {
-    const Line line = place.empty() ? Line{} : Find(deviceGroups, place);
-    return line.node && !(line.isGroup && IsAtOrBelow(group, place)) &&
+    const auto line = Find(deviceGroups, place);
+    return !place.empty() && line.node && !(line.isGroup && IsAtOrBelow(group, place)) &&
            (group.size() < place.size() ||
             static_cast<int>(group.size()) + Depth(line) <= maxGroupDepth);
   };

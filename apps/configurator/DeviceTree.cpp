@@ -7,7 +7,7 @@
 
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
-#include "discriminator/Nodes.h"
+#include "tools/Nodes.h"
 
 namespace configurator {
 namespace {
@@ -23,19 +23,12 @@ struct Names {
 };
 
 /// A device without a name goes by its id.
-void AddDeviceName(NamesById& names, const XmlNode& device) {
-  if (device.Tag() == L"device") {
-    const std::wstring id = qv::FieldOf(device, L"id");
-    const std::wstring name = qv::FieldOf(device, L"name");
-    names.emplace(id, name.empty() ? id : name);
-  }
-}
-
 NamesById DeviceNames(const XmlNode* commSystem) {
   NamesById names;
-  if (commSystem) {
-    std::for_each(commSystem->ChildsBegin(), commSystem->ChildsEnd(),
-                  [&](const XmlNode* device) { AddDeviceName(names, *device); });
+  for (const XmlNode& device : qv::ChildrenWithTag(commSystem, qv::tag::Device)) {
+    const std::wstring id = qv::FieldOf(device, qv::tag::Id);
+    const std::wstring name = qv::FieldOf(device, qv::tag::Name);
+    names.emplace(id, name.empty() ? id : name);
   }
   return names;
 }

@@ -9,7 +9,7 @@
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
 #include "discriminator/IndexDocument.h"
-#include "discriminator/Nodes.h"
+#include "tools/Nodes.h"
 #include "tools/XmlReader.h"
 
 namespace qvdisc {
@@ -204,10 +204,10 @@ class InstallationCheck {
 
   /// The depth is bounded: a document is nested 512 levels deep at most.
   void CheckLevel(const XmlNode& level, const std::wstring& place) {
-    for (const XmlNode* entry :
+    for (const XmlNode& entry :
          qv::ChildrenWithTag(level.Node(qv::tag::Devices), qv::tag::Device)) {
-      if (FieldOf(*entry, qv::tag::Type) == qv::word::DiscriminatorDevice) {
-        CheckEntry(FieldOf(*entry, qv::tag::Id), place);
+      if (FieldOf(entry, qv::tag::Type) == qv::word::DiscriminatorDevice) {
+        CheckEntry(FieldOf(entry, qv::tag::Id), place);
       }
     }
     if (const XmlNode* groups = level.Node(qv::tag::Groups)) {

@@ -6,11 +6,11 @@
 
 #include "apps/qvdisc/Check.h"
 #include "discriminator/Fields.h"
-#include "discriminator/Nodes.h"
 #include "discriminator/ValueForms.h"
 #include "timestructure/DayMinutes.h"
 #include "timestructure/DaySlots.h"
 #include "tools/Format.h"
+#include "tools/Nodes.h"
 #include "tools/Numbers.h"
 
 namespace qvdisc {
@@ -36,11 +36,11 @@ class DocumentCheck {
     const auto hours = Parts(qv::tag::HourTypes, qv::tag::Hour);
     const auto days = Parts(qv::tag::DayTypes, qv::tag::Day);
     Parts(qv::tag::Conditions, qv::tag::Condition);
-    for (const XmlNode* day : qv::ChildrenWithTag(m_root.Node(qv::tag::DayTypes), qv::tag::Day)) {
-      CheckSlots(*day, hours);
+    for (const XmlNode& day : qv::ChildrenWithTag(m_root.Node(qv::tag::DayTypes), qv::tag::Day)) {
+      CheckSlots(day, hours);
     }
-    for (const XmlNode* year : qv::ChildrenWithTag(m_root.Node(qv::tag::Calendar), qv::tag::Year)) {
-      CheckYear(*year, days);
+    for (const XmlNode& year : qv::ChildrenWithTag(m_root.Node(qv::tag::Calendar), qv::tag::Year)) {
+      CheckYear(year, days);
     }
     return std::move(m_findings);
   }
@@ -50,9 +50,9 @@ class DocumentCheck {
   std::set<std::wstring> Parts(const wchar_t* container, const wchar_t* tag) {
     std::set<std::wstring> ids;
     std::set<std::wstring> names;
-    for (const XmlNode* part : qv::ChildrenWithTag(m_root.Node(container), tag)) {
-      TellTwice(ids, *part, qv::tag::Id, container);
-      TellTwice(names, *part, qv::tag::Name, container);
+    for (const XmlNode& part : qv::ChildrenWithTag(m_root.Node(container), tag)) {
+      TellTwice(ids, part, qv::tag::Id, container);
+      TellTwice(names, part, qv::tag::Name, container);
     }
     return ids;
   }
@@ -72,13 +72,13 @@ class DocumentCheck {
     const std::wstring place = L"dayTypes/" + FieldOf(day, qv::tag::Name);
     std::vector<NamedSlot> good;
     unsigned number = 0;
-    for (const XmlNode* slot : qv::ChildrenWithTag(&day, qv::tag::Slot)) {
-      const std::wstring from = FieldOf(*slot, qv::tag::From);
-      const std::wstring to = FieldOf(*slot, qv::tag::To);
+    for (const XmlNode& slot : qv::ChildrenWithTag(day, qv::tag::Slot)) {
+      const std::wstring from = FieldOf(slot, qv::tag::From);
+      const std::wstring to = FieldOf(slot, qv::tag::To);
       const std::wstring name =
           qv::Format(L"slot %u (%s-%s)", {++number, from.c_str(), to.c_str()});
       const std::wstring slotPlace = qv::Format(L"%s/%s", {place.c_str(), name.c_str()});
-      const std::wstring id = FieldOf(*slot, qv::tag::Id);
+      const std::wstring id = FieldOf(slot, qv::tag::Id);
       if (hours.count(id) == 0) {
         Tell({.kind = FindingKind::DeadHourType, .place = slotPlace, .value = id});
       }
@@ -151,7 +151,7 @@ class DocumentCheck {
   void CheckYear(const XmlNode& year, const std::set<std::wstring>& days) {
     for (auto month = year.ChildsBegin(); month != year.ChildsEnd(); ++month) {
       if (const auto number = NumberInTag(**month, L"month")) {
-        CheckMonth(year.Value(qv::tag::Year, L""), *number, **month, days);
+        CheckMonth(year.Value(qv::tag::Year), *number, **month, days);
       }
     }
   }

@@ -4,8 +4,8 @@
 #include "apps/qvdisc/Reports.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
-#include "discriminator/Nodes.h"
 #include "discriminator/ValueForms.h"
+#include "tools/Nodes.h"
 
 namespace qvdisc {
 namespace {

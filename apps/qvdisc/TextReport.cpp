@@ -4,8 +4,8 @@
 
 #include "apps/qvdisc/Reports.h"
 #include "discriminator/Fields.h"
-#include "discriminator/Nodes.h"
 #include "discriminator/ValueForms.h"
+#include "tools/Nodes.h"
 #include "tools/Utf8.h"
 
 namespace qvdisc {
@@ -93,8 +93,9 @@ void WriteFields(Writer& writer, const XmlNode& root) {
 }
 
 /// The children of the container with this tag, under a heading if there is such a container.
-std::vector<const XmlNode*> Section(Writer& writer, const XmlNode& root, const wchar_t* container,
-                                    const wchar_t* tag, Word heading) {
+qv::TaggedChildren<const XmlNode> Section(Writer& writer, const XmlNode& root,
+                                          const wchar_t* container, const wchar_t* tag,
+                                          Word heading) {
   const XmlNode* node = root.Node(container);
   if (node) {
     writer.Write(L"");
@@ -107,22 +108,22 @@ using NamesById = std::map<std::wstring, std::wstring>;
 
 NamesById WriteHourTypes(Writer& writer, const XmlNode& root) {
   NamesById names;
-  for (const XmlNode* hour :
+  for (const XmlNode& hour :
        Section(writer, root, qv::tag::HourTypes, qv::tag::Hour, Word::HourTypes)) {
-    const std::wstring value = Line(*hour, qv::tag::Value);
-    names[Line(*hour, qv::tag::Id)] = Line(*hour, qv::tag::Name);
-    writer.Write(L"  " + Line(*hour, qv::tag::Name) + (value.empty() ? L"" : L" = " + value));
+    const std::wstring value = Line(hour, qv::tag::Value);
+    names[Line(hour, qv::tag::Id)] = Line(hour, qv::tag::Name);
+    writer.Write(L"  " + Line(hour, qv::tag::Name) + (value.empty() ? L"" : L" = " + value));
   }
   return names;
 }
 
 void WriteDayTypes(Writer& writer, const XmlNode& root, const NamesById& hours) {
-  for (const XmlNode* day :
+  for (const XmlNode& day :
        Section(writer, root, qv::tag::DayTypes, qv::tag::Day, Word::DayTypes)) {
-    writer.Write(L"  " + Line(*day, qv::tag::Name));
-    for (const XmlNode* slot : qv::ChildrenWithTag(day, qv::tag::Slot)) {
-      const auto hour = hours.find(Line(*slot, qv::tag::Id));
-      writer.Write(L"    " + Line(*slot, qv::tag::From) + L" " + Line(*slot, qv::tag::To) + L" " +
+    writer.Write(L"  " + Line(day, qv::tag::Name));
+    for (const XmlNode& slot : qv::ChildrenWithTag(day, qv::tag::Slot)) {
+      const auto hour = hours.find(Line(slot, qv::tag::Id));
+      writer.Write(L"    " + Line(slot, qv::tag::From) + L" " + Line(slot, qv::tag::To) + L" " +
                    (hour == hours.end() ? L"?" : hour->second));
     }
   }
@@ -137,18 +138,18 @@ int DatesIn(const XmlNode& year) {
 }
 
 void WriteCalendar(Writer& writer, const XmlNode& root, qv::Language language) {
-  for (const XmlNode* year :
+  for (const XmlNode& year :
        Section(writer, root, qv::tag::Calendar, qv::tag::Year, Word::Calendar)) {
-    const std::wstring name = Line(*year, qv::tag::Year);
-    writer.Write(L"  " + Words(Word::DatesOfYear, language, {name.c_str(), DatesIn(*year)}));
+    const std::wstring name = Line(year, qv::tag::Year);
+    writer.Write(L"  " + Words(Word::DatesOfYear, language, {name.c_str(), DatesIn(year)}));
   }
 }
 
 void WriteConditions(Writer& writer, const XmlNode& root) {
-  for (const XmlNode* condition :
+  for (const XmlNode& condition :
        Section(writer, root, qv::tag::Conditions, qv::tag::Condition, Word::Conditions)) {
-    writer.Write(L"  " + Line(*condition, qv::tag::Name) + L": " +
-                 Line(*condition, qv::tag::Expression));
+    writer.Write(L"  " + Line(condition, qv::tag::Name) + L": " +
+                 Line(condition, qv::tag::Expression));
   }
 }
 

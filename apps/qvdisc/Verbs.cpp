@@ -119,7 +119,7 @@ void KeepUnsaved(Session& session, const DiscriminatorForm& form) {
 bool ChooseType(Session& session, DiscriminatorForm& form) {
   const auto slots = session.Call().changes.slots;
   if (!slots ||
-      form.Root().Value(qv::tag::Type, L"") == (*slots ? qv::word::Slots : qv::word::Conditions)) {
+      form.Root().Value(qv::tag::Type) == (*slots ? qv::word::Slots : qv::word::Conditions)) {
     return true;
   }
   if (!form.IsTypeSelectable()) {

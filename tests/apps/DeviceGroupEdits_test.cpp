@@ -112,7 +112,7 @@ TEST_F(DeviceGroupEditsTest, ADeviceMovesWithAllThatItHolds) {
   EXPECT_THAT(MoveLines(tree, {{0, 0, 2}}, {1}, {}), ElementsAre(TreePlace{1, 0}));
   const XmlNode& device =
       **(*std::next(tree.Node(L"groups")->ChildsBegin()))->Node(L"devices")->ChildsBegin();
-  EXPECT_EQ(device.Value(L"type", L"").ToView(), L"T");
+  EXPECT_EQ(device.Value(L"type").ToView(), L"T");
 }
 
 struct Move {

@@ -18,7 +18,7 @@ std::vector<std::wstring> DevicesOfFirstGroup(const ExampleCopy& installation) {
   const qv::XmlNode& devices = *(*groups.ChildsBegin())->Node(L"devices");
   std::vector<std::wstring> ids;
   for (auto device = devices.ChildsBegin(); device != devices.ChildsEnd(); ++device) {
-    ids.emplace_back((*device)->Value(L"id", L"").ToView());
+    ids.emplace_back((*device)->Value(L"id").ToView());
   }
   return ids;
 }

@@ -155,7 +155,7 @@ TEST_P(ManagerFlow, AddChangeRenameSwitchAndCancel) {
   XmlDocument saved;
   ASSERT_TRUE(saved.Load(installation.File("configuration.xml").wstring().c_str()));
   const auto* devices = saved.Root()->Node(L"deviceGroups")->Node(L"devices");
-  EXPECT_EQ((*std::prev(devices->ChildsEnd()))->Value(L"type", L""), L"R$DISC");
+  EXPECT_EQ((*std::prev(devices->ChildsEnd()))->Value(L"type"), L"R$DISC");
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ManagerFlow,

@@ -51,7 +51,7 @@ class Manager {
 std::pair<std::wstring, std::string> Content(const std::filesystem::path& file) {
   XmlDocument document;
   EXPECT_TRUE(document.Load(file.wstring().c_str())) << file;
-  const std::wstring name(document.Root()->Value(L"name", L"").ToView());
+  const std::wstring name(document.Root()->Value(L"name").ToView());
   for (const wchar_t* renewed : {L"id", L"name", L"revision"}) {
     document.Root()->EraseTag(renewed);
   }

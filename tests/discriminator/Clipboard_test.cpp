@@ -124,10 +124,10 @@ TEST_F(ClipboardTest, PastingMakesNewDiscriminators) {
   EXPECT_EQ(Names(), (NameList{L"alpha", L"alpha_1", L"beta", L"beta_1"}));
   XmlDocument pasted;
   ASSERT_TRUE(pasted.Load(PathOf(L"alpha_1").c_str(), files));
-  EXPECT_EQ(pasted.Root()->Value(L"id", L"").Length(), 36U);
-  EXPECT_EQ(pasted.Root()->Value(L"revision", L"").Length(), 36U);
-  EXPECT_NE(pasted.Root()->Value(L"revision", L""), pasted.Root()->Value(L"id", L""));
-  EXPECT_EQ(pasted.Root()->Node(L"hourTypes")->Node(L"hour")->Value(L"id", L""), L"h");
+  EXPECT_EQ(pasted.Root()->Value(L"id").Length(), 36U);
+  EXPECT_EQ(pasted.Root()->Value(L"revision").Length(), 36U);
+  EXPECT_NE(pasted.Root()->Value(L"revision"), pasted.Root()->Value(L"id"));
+  EXPECT_EQ(pasted.Root()->Node(L"hourTypes")->Node(L"hour")->Value(L"id"), L"h");
   EXPECT_EQ(Entries(), 2U);
   EXPECT_EQ(host.guids.notices, (std::vector<int>{8, 5, 8, 5}));
   EXPECT_TRUE(list->Changed());
@@ -295,10 +295,10 @@ TEST_F(ClipboardTest, TheEntryOfEachItemHasTheIdOfItsFile) {
   for (const wchar_t* name : {L"alpha_1", L"beta_1"}) {
     XmlDocument document;
     ASSERT_TRUE(document.Load(PathOf(name).c_str(), files));
-    const QVWideString id = document.Root()->Value(L"id", L"");
+    const QVWideString id = document.Root()->Value(L"id");
     EXPECT_TRUE(devices->NodeV(L"device?id=%s?", id));
     ids.insert(std::wstring(id.ToView()));
-    revisions.insert(std::wstring(document.Root()->Value(L"revision", L"").ToView()));
+    revisions.insert(std::wstring(document.Root()->Value(L"revision").ToView()));
   }
   EXPECT_EQ(ids.size(), 2U);
   EXPECT_EQ(revisions.size(), 2U);

@@ -199,7 +199,7 @@ TEST_F(DiscriminatorFileTest, LoadedDocumentIsThatOfTheFile) {
   files.contents[L"/cfg/1.A.xdct"] = Discriminator("1", "A", "<type>CONDITIONS</type>");
   XmlDocument document;
   ASSERT_TRUE(LoadDiscriminator(document, L"/cfg/", L"1.A.xdct", files));
-  EXPECT_EQ(document.Root()->Value(L"type", L""), L"CONDITIONS");
+  EXPECT_EQ(document.Root()->Value(L"type"), L"CONDITIONS");
   EXPECT_FALSE(LoadDiscriminator(document, L"/cfg/", L"2.B.xdct", files));
 }
 

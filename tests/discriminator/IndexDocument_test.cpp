@@ -97,7 +97,7 @@ TEST(IndexDocument, LivesOnWithoutItsSource) {
   const auto index = MakeIndexDocument(*source->Root());
   source.reset();
   EXPECT_EQ(index->Root()->Tag(), L"hourTypes");
-  EXPECT_EQ(index->Root()->Node(L"hour")->Value(L"name", L""), L"A");
+  EXPECT_EQ(index->Root()->Node(L"hour")->Value(L"name"), L"A");
 }
 
 }  // namespace

@@ -156,13 +156,13 @@ TEST_F(FormTest, EachOfTheFourComparedFieldsRenewsTheRevision) {
     auto form = OpenContent(wholeFile);
     ASSERT_TRUE(form.Save(change));
     EXPECT_TRUE(form.IsModified());
-    EXPECT_NE(form.Root().Value(L"revision", L""), L"r");
+    EXPECT_NE(form.Root().Value(L"revision"), L"r");
     files.contents.clear();
   }
   auto form = OpenContent(wholeFile);
   form.SelectType(1);
   ASSERT_TRUE(form.Save(unchanged));
-  EXPECT_NE(form.Root().Value(L"revision", L""), L"r");
+  EXPECT_NE(form.Root().Value(L"revision"), L"r");
 }
 
 TEST_F(FormTest, SwitchingAndSavingDropsTheOtherTypeForGood) {
@@ -187,7 +187,7 @@ TEST_F(FormTest, ALongNameThatWasLoadedIsNotCut) {
   const std::wstring name(100, L'n');
   auto form = OpenContent("<main><id>1</id><name>" + std::string(100, 'n') + "</name></main>");
   ASSERT_TRUE(form.Save({name.c_str(), L"", true}));
-  EXPECT_EQ(form.Root().Value(L"name", L"").Length(), 100U);
+  EXPECT_EQ(form.Root().Value(L"name").Length(), 100U);
 }
 
 // The entry in the host's tree.
@@ -197,8 +197,8 @@ TEST_F(FormTest, ANewDiscriminatorGetsAnEntryAtTheTop) {
   ASSERT_TRUE(form.Save(Named(L"n")));
   const XmlNode* device = deviceGroups.Root()->Node(L"devices")->Node(L"device");
   ASSERT_TRUE(device);
-  EXPECT_EQ(device->Value(L"id", L""), form.Root().Value(L"id", L"?"));
-  EXPECT_EQ(device->Value(L"type", L""), L"R$DISC");
+  EXPECT_EQ(device->Value(L"id"), form.Root().Value(L"id", L"?"));
+  EXPECT_EQ(device->Value(L"type"), L"R$DISC");
 }
 
 TEST_F(FormTest, AnExistingDiscriminatorGetsNoEntry) {
@@ -233,7 +233,7 @@ TEST_F(FormTest, AFullDiskAtAnyByteIsToldAndLeavesNoFile) {
     prompter.ExpectShow(Text::DiscriminatorNotSaved);
     EXPECT_FALSE(form.Save(Named(L"new", L"d"))) << space;
     EXPECT_TRUE(files.contents.empty()) << space;
-    EXPECT_EQ(form.Root().Value(L"name", L""), L"new");
+    EXPECT_EQ(form.Root().Value(L"name"), L"new");
   }
   EXPECT_EQ(host.createIndex.calls.size(), 1U) << "no index after a failed save";
 }
@@ -246,17 +246,16 @@ TEST_F(FormTest, AFailedSaveMayBeTriedAgainWithAnotherRevision) {
   EXPECT_FALSE(form.Save(unchanged));
   EXPECT_TRUE(files.contents.empty());
   EXPECT_FALSE(form.Root().Node(L"calendar")) << "the other type's containers are gone already";
-  const QVWideString firstTry = form.Root().Value(L"revision", L"");
+  const QVWideString firstTry = form.Root().Value(L"revision");
   files.failClose = false;
   EXPECT_TRUE(form.Save(unchanged));
-  EXPECT_NE(form.Root().Value(L"revision", L""), firstTry);
+  EXPECT_NE(form.Root().Value(L"revision"), firstTry);
 }
 
 TEST_F(FormTest, EachFailedTryOfANewDiscriminatorAddsAnEntry) {
   auto form = New();
   for (int i = 0; i < 2; ++i) {
-    files.unwritable = {L"/cfg/" + std::wstring(form.Root().Value(L"id", L"").ToView()) +
-                        L".n.xdct"};
+    files.unwritable = {L"/cfg/" + std::wstring(form.Root().Value(L"id").ToView()) + L".n.xdct"};
     prompter.ExpectShow(Text::DiscriminatorNotSaved);
     EXPECT_FALSE(form.Save(Named(L"n")));
   }

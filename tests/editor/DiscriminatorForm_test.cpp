@@ -14,9 +14,9 @@ TEST_F(FormTest, ANewDiscriminatorHasAllItNeedsInOrder) {
   EXPECT_EQ(form.Root().Tag(), L"main");
   EXPECT_EQ(Tags(form.Root()),
             L"id name description setZeroOutsideSlot type hourTypes dayTypes calendar");
-  EXPECT_EQ(form.Root().Value(L"type", L""), L"SLOTS");
-  EXPECT_EQ(form.Root().Value(L"setZeroOutsideSlot", L""), L"T");
-  EXPECT_EQ(form.Root().Value(L"id", L"").Length(), 36U);
+  EXPECT_EQ(form.Root().Value(L"type"), L"SLOTS");
+  EXPECT_EQ(form.Root().Value(L"setZeroOutsideSlot"), L"T");
+  EXPECT_EQ(form.Root().Value(L"id").Length(), 36U);
   EXPECT_TRUE(files.log.empty()) << "nothing is read or written before OK";
 }
 

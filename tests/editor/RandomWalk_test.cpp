@@ -103,7 +103,7 @@ class Walk {
   DiscriminatorList::RunEditor Editor(const std::wstring& name, bool switchType, bool diskFails) {
     return [=, this](XmlNode* copy, const QVWideString* path) {
       DiscriminatorForm form({m_services, files, m_prompter, copy}, path);
-      const std::wstring id(form.Root().Value(L"id", L"").ToView());
+      const std::wstring id(form.Root().Value(L"id").ToView());
       const Known before = path ? m_known.at(id) : Known{};
       if (switchType) {
         form.SelectType(form.HasSlots() ? 1 : 0);
@@ -126,7 +126,7 @@ class Walk {
         m_entries[id] += path ? 0 : 1;
       }
       EXPECT_TRUE(form.Save({name.c_str(), L"", true}));
-      const std::wstring revision(form.Root().Value(L"revision", L"").ToView());
+      const std::wstring revision(form.Root().Value(L"revision").ToView());
       const bool changed = name != before.name || slots != before.slots;
       EXPECT_EQ(form.IsModified(), changed);
       EXPECT_EQ(revision != before.revision, changed);
@@ -293,11 +293,10 @@ class Walk {
       if (path.starts_with(L"/cfg/" + id + L".") && path.ends_with(L".xdct") &&
           document.Load(path.c_str(), files)) {
         const XmlNode& root = *document.Root();
-        EXPECT_EQ(root.Node(L"hourTypes") != nullptr, root.Value(L"type", L"") == L"SLOTS");
-        EXPECT_EQ(root.Node(L"conditions") != nullptr, root.Value(L"type", L"") != L"SLOTS");
-        return {std::wstring(root.Value(L"name", L"").ToView()),
-                root.Value(L"type", L"") == L"SLOTS",
-                std::wstring(root.Value(L"revision", L"").ToView())};
+        EXPECT_EQ(root.Node(L"hourTypes") != nullptr, root.Value(L"type") == L"SLOTS");
+        EXPECT_EQ(root.Node(L"conditions") != nullptr, root.Value(L"type") != L"SLOTS");
+        return {std::wstring(root.Value(L"name").ToView()), root.Value(L"type") == L"SLOTS",
+                std::wstring(root.Value(L"revision").ToView())};
       }
     }
     ADD_FAILURE() << "no file";

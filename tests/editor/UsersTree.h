@@ -40,8 +40,8 @@ inline std::map<std::wstring, int> EntriesOf(const XmlNode& level) {
   std::map<std::wstring, int> entries;
   if (const XmlNode* devices = level.Node(L"devices")) {
     for (auto child = devices->ChildsBegin(); child != devices->ChildsEnd(); ++child) {
-      EXPECT_EQ((*child)->Value(L"type", L""), L"R$DISC");
-      ++entries[std::wstring((*child)->Value(L"id", L"").ToView())];
+      EXPECT_EQ((*child)->Value(L"type"), L"R$DISC");
+      ++entries[std::wstring((*child)->Value(L"id").ToView())];
     }
   }
   if (const XmlNode* groups = level.Node(L"groups")) {

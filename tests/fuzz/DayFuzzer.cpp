@@ -7,13 +7,13 @@
 #include <string>
 
 #include "discriminator/Fields.h"
-#include "discriminator/Nodes.h"
 #include "tests/fuzz/Demand.h"
 #include "tests/support/RecordingCanvas.h"
 #include "timestructure/DayDial.h"
 #include "timestructure/DayTypeForm.h"
 #include "timestructure/TimeSlotForm.h"
 #include "timestructure/TypeList.h"
+#include "tools/Nodes.h"
 #include "tools/XmlReader.h"
 
 namespace {
@@ -52,7 +52,7 @@ void DemandSlotIsATime(XmlNode& hourTypes, const XmlNode& slot) {
   form.Release();
   if (form.Save()) {
     for (const wchar_t* field : {qv::tag::From, qv::tag::To}) {
-      const QVWideString time = copy.Value(field, L"");
+      const QVWideString time = copy.Value(field);
       Demand(qv::NormalizeTime(time) == time, "what a slot's editor saves is a time");
     }
   }
@@ -63,11 +63,12 @@ void OpenDay(XmlNode& day, XmlNode& dayTypes, XmlNode& hourTypes) {
   qv::DayTypeForm form(day, dayTypes, hourTypes, prompter);
   form.Fill();
   form.ReportSlots();
-  const auto slots = qv::ChildrenWithTag(&day, qv::tag::Slot);
-  Demand(form.Rows().size() == slots.size(), "each slot has its row");
+  const auto slots = qv::ChildrenWithTag(day, qv::tag::Slot);
+  const auto count = static_cast<std::size_t>(std::distance(slots.begin(), slots.end()));
+  Demand(form.Rows().size() == count, "each slot has its row");
   DemandDialInside(day, hourTypes);
-  if (!slots.empty()) {
-    DemandSlotIsATime(hourTypes, *slots.front());
+  if (count > 0) {
+    DemandSlotIsATime(hourTypes, *slots.begin());
   }
   form.Save(L"name");
 }

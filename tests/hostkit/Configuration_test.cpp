@@ -154,7 +154,7 @@ TEST_F(ConfigurationTest, EmbeddedAddsOneDeviceWithAnIdOfItsOwn) {
   const auto* device =
       document.Root()->Node(L"commSystem")->NodeV(L"device?driver=%s?", L"KORVAXEMBEDDED");
   ASSERT_TRUE(device);
-  EXPECT_EQ(device->Value(L"id", L"").Length(), 36U);
+  EXPECT_EQ(device->Value(L"id").Length(), 36U);
   const std::string once = Code();
   configuration.SetEmbedded(true);
   EXPECT_EQ(Code(), once);

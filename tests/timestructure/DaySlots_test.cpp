@@ -83,7 +83,7 @@ TEST_F(DaySlotsTest, MalformedTimesAreShownAsMidnightAndKept) {
   slots.Fill();
   EXPECT_EQ(slots.Rows()[0].from, L"00:00");
   EXPECT_EQ(slots.Rows()[0].to, L"00:00");
-  EXPECT_EQ(slots.SlotOfRow(0)->Value(L"from", L""), L"7:30");
+  EXPECT_EQ(slots.SlotOfRow(0)->Value(L"from"), L"7:30");
 }
 
 TEST(NormalizeTime, TakesFiveCharactersOfDigitsAroundAColon) {
@@ -101,7 +101,7 @@ TEST_F(DaySlotsTest, TheSlotOfARowIsFoundAmongOtherChildren) {
   AddSlot(L"p", L"01:00", L"02:00");
   day.NewChild(L"x", nullptr);
   AddSlot(L"v", L"03:00", L"04:00");
-  EXPECT_EQ(slots.SlotOfRow(1)->Value(L"from", L""), L"03:00");
+  EXPECT_EQ(slots.SlotOfRow(1)->Value(L"from"), L"03:00");
   EXPECT_EQ(slots.SlotOfRow(2), nullptr);
   EXPECT_EQ(slots.SlotOfRow(-1), nullptr);
 }
@@ -156,7 +156,7 @@ TEST_F(DaySlotsTest, RemoveTakesTheRowAndItsSlot) {
   Slots({{L"00:00", L"01:00"}, {L"01:00", L"02:00"}});
   slots.Remove(0);
   EXPECT_EQ(slots.Rows().size(), 1U);
-  EXPECT_EQ(slots.SlotOfRow(0)->Value(L"from", L""), L"01:00");
+  EXPECT_EQ(slots.SlotOfRow(0)->Value(L"from"), L"01:00");
   slots.Remove(5);
   EXPECT_EQ(slots.Rows().size(), 1U);
 }

@@ -65,7 +65,7 @@ TEST_F(DayTypeFormTest, SaveWritesNameAndColourAlways) {
   EXPECT_FALSE(form.IsModified());
   EXPECT_TRUE(form.ChooseColour(0x00FF00));
   EXPECT_TRUE(form.Save(L"office"));
-  EXPECT_EQ(Day(L"office").Value(L"color", L""), L"00FF00");
+  EXPECT_EQ(Day(L"office").Value(L"color"), L"00FF00");
   EXPECT_TRUE(form.IsModified());
 }
 
@@ -94,7 +94,7 @@ TEST_F(DayTypeFormTest, AChangedNameCountsEvenIfTheSlotsAreRefused) {
   prompter.ExpectAsk(Text::DayNotCoveredQuestion, false);
   EXPECT_FALSE(other.Save(L"office"));
   EXPECT_TRUE(other.IsModified());
-  EXPECT_EQ(Day(L"work").Value(L"name", L""), L"work");
+  EXPECT_EQ(Day(L"work").Value(L"name"), L"work");
 }
 
 TEST_F(DayTypeFormTest, TheSlotsAreCheckedAfterNameAndColour) {
@@ -118,8 +118,8 @@ TEST_F(DayTypeFormTest, AddAppendsASlotAndTakesTheHourTypesOver) {
   const auto end = form.OnAdd([&](XmlNode& hourTypes, XmlNode& slot) {
     EXPECT_EQ(&slot, *std::prev(Day(L"work").ChildsEnd()));
     EXPECT_EQ(slot.Value(L"id", L"?"), L"");
-    EXPECT_EQ(slot.Value(L"from", L""), L"00:00");
-    EXPECT_EQ(slot.Value(L"to", L""), L"00:00");
+    EXPECT_EQ(slot.Value(L"from"), L"00:00");
+    EXPECT_EQ(slot.Value(L"to"), L"00:00");
     EXPECT_NE(&hourTypes, hours.get());
     return Writing(confirmed)(hourTypes, slot);
   });
@@ -153,7 +153,7 @@ TEST_F(DayTypeFormTest, AnEditorThatThrowsLeavesEverythingAsItWas) {
 TEST_F(DayTypeFormTest, ModifyWorksOnCopiesAndSelectsNothingAfterwards) {
   EXPECT_EQ(form.OnModify(1,
                           [&](XmlNode& hourTypes, XmlNode& slot) {
-                            EXPECT_EQ(slot.Value(L"from", L""), L"12:00");
+                            EXPECT_EQ(slot.Value(L"from"), L"12:00");
                             const auto end = Writing(confirmedWithChange)(hourTypes, slot);
                             EXPECT_EQ(*days, daysBefore);
                             return end;

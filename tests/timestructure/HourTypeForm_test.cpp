@@ -61,9 +61,9 @@ TEST_F(HourTypeFormTest, SavesNameValueAndColourInThisOrder) {
     tags += std::wstring((*field)->Tag().ToView()) + L" ";
   }
   EXPECT_EQ(tags, L"name value color ");
-  EXPECT_EQ(hour.Value(L"name", L""), L"New");
-  EXPECT_EQ(hour.Value(L"color", L""), L"123ABC");
-  EXPECT_EQ(hour.Value(L"value", L""), L"any text, 1.5e9");
+  EXPECT_EQ(hour.Value(L"name"), L"New");
+  EXPECT_EQ(hour.Value(L"color"), L"123ABC");
+  EXPECT_EQ(hour.Value(L"value"), L"any text, 1.5e9");
 }
 
 TEST_F(HourTypeFormTest, SavingWithoutAChangeWritesTheSameAndTheValue) {
@@ -71,7 +71,7 @@ TEST_F(HourTypeFormTest, SavingWithoutAChangeWritesTheSameAndTheValue) {
   EXPECT_TRUE(form.Save(L"valley", L""));
   EXPECT_FALSE(form.IsModified());
   ASSERT_TRUE(Hour(L"valley").Node(L"value"));
-  EXPECT_EQ(Hour(L"valley").Value(L"color", L""), L"00FF00") << "as numbers are written";
+  EXPECT_EQ(Hour(L"valley").Value(L"color"), L"00FF00") << "as numbers are written";
 }
 
 TEST_F(HourTypeFormTest, EachRefusalHasItsTextAndWritesNothing) {
@@ -138,10 +138,10 @@ TEST_F(HourTypeFormTest, AnotherOnesColourIsAskedAbout) {
   prompter.ExpectAsk(Text::TypeColourTaken, false);
   EXPECT_FALSE(form.Save(L"n", L""));
   EXPECT_EQ(form.Colour(), red);
-  EXPECT_EQ(hour.Value(L"color", L""), L"FFFFFF");
+  EXPECT_EQ(hour.Value(L"color"), L"FFFFFF");
   prompter.ExpectAsk(Text::TypeColourTaken, true);
   EXPECT_TRUE(form.Save(L"n", L""));
-  EXPECT_EQ(hour.Value(L"color", L""), L"0000FF");
+  EXPECT_EQ(hour.Value(L"color"), L"0000FF");
 }
 
 TEST_F(HourTypeFormTest, AColourInSmallLettersIsNotFound) {

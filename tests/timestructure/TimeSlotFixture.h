@@ -42,9 +42,9 @@ class TimeSlotFormTest : public testing::Test {
   }
 
   std::wstring Stored() const {
-    return std::wstring(slot->Value(L"id", L"").ToView()) + L" " +
-           std::wstring(slot->Value(L"from", L"").ToView()) + L"-" +
-           std::wstring(slot->Value(L"to", L"").ToView());
+    return std::wstring(slot->Value(L"id").ToView()) + L" " +
+           std::wstring(slot->Value(L"from").ToView()) + L"-" +
+           std::wstring(slot->Value(L"to").ToView());
   }
 
   void ExpectLocked(TimeField minutes, bool locked) const {

@@ -186,7 +186,7 @@ TEST_F(TimeSlotFormTest, ANewHourTypeEnablesTheInputsAndIsSelectedIfItIsTheFirst
   hours->Reset();
   Open("", "07:00", "24:00");
   form->OnAddHourType([&](XmlNode& hour) {
-    EXPECT_EQ(hour.Value(L"color", L""), L"FFFFFF");
+    EXPECT_EQ(hour.Value(L"color"), L"FFFFFF");
     hour.SetValue(L"name", L"New");
     return EditorEnd{true, true};
   });

@@ -62,7 +62,7 @@ TEST_F(TypeListTest, EqualNamesStandInTheOrderOfTheDocument) {
   const TypeList types(*equal, L"hour");
   std::wstring ids;
   for (const TypeRow& row : types.Rows()) {
-    ids += row.node->Value(L"id", L"").ToView();
+    ids += row.node->Value(L"id").ToView();
   }
   EXPECT_EQ(ids, L"123");
 }
@@ -91,9 +91,9 @@ TEST_F(TypeListTest, AddAppendsANewWhiteTypeBeforeTheEditorRuns) {
       fields.emplace_back((*field)->Tag().ToView());
     }
     EXPECT_THAT(fields, ElementsAre(L"id", L"name", L"color"));
-    EXPECT_EQ(type.Value(L"id", L"").Length(), 36U);
+    EXPECT_EQ(type.Value(L"id").Length(), 36U);
     EXPECT_EQ(type.Value(L"name", L"?"), L"");
-    EXPECT_EQ(type.Value(L"color", L""), L"FFFFFF");
+    EXPECT_EQ(type.Value(L"color"), L"FFFFFF");
     type.SetValue(L"name", L"aa");
     return confirmed;
   });
@@ -134,7 +134,7 @@ TEST_F(TypeListTest, AfterANewNameTheRowAtTheOldPlaceIsSelected) {
   EXPECT_EQ(list.OnModify(0, Naming(L"z", confirmedWithChange)), (ListEnd{true, 0}));
   EXPECT_THAT(Names(), ElementsAre(L"b", L"C", L"z"));
   EXPECT_TRUE(list.IsModified());
-  EXPECT_EQ(hours->NodeV(L"hour?name=%s?", L"z")->Value(L"id", L""), L"3");
+  EXPECT_EQ(hours->NodeV(L"hour?name=%s?", L"z")->Value(L"id"), L"3");
 }
 
 TEST_F(TypeListTest, AConfirmedModifyWithoutAChangeIsStillTakenOver) {
@@ -219,7 +219,7 @@ TEST_F(TypeListTest, RandomVerbsFollowASimpleModel) {
     std::sort(names.begin(), names.end());
     ASSERT_EQ(Names(), names) << step;
   }
-  EXPECT_EQ(hours->Value(L"other", L""), L"stays");
+  EXPECT_EQ(hours->Value(L"other"), L"stays");
 }
 
 }  // namespace

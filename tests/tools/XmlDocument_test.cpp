@@ -122,7 +122,7 @@ TEST(XmlDocument, TextsTakenOutOfItOutliveIt) {
     document.Root()->SetValue(L"name", L"Working day");
     document.Root()->SetValue(L"empty", L"");
     texts = {document.Root()->Tag(), document.Root()->Node(L"name")->Value(),
-             document.Root()->Value(L"name", L""), document.Root()->Value(L"empty", L"T")};
+             document.Root()->Value(L"name"), document.Root()->Value(L"empty", L"T")};
   }
   EXPECT_EQ(texts, (std::vector<QVWideString>{L"main", L"Working day", L"Working day", L""}));
 }

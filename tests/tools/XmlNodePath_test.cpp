@@ -213,7 +213,7 @@ TEST(XmlNodePath, NodeVNeverReadsTheArgumentAsAFormat) {
 TEST(XmlNodePath, TheDefaultIsForAMissingFieldOnly) {
   const auto root = Tree("<m><present/></m>");
   EXPECT_EQ(root->Value(L"missing", L"T"), L"T");
-  EXPECT_EQ(root->Value(L"missing", L""), L"");
+  EXPECT_EQ(root->Value(L"missing"), L"");
   EXPECT_EQ(root->Value(L"present", L"T"), L"");
   EXPECT_EQ(root->Value(L"missing", nullptr), L"");
 }
@@ -221,7 +221,7 @@ TEST(XmlNodePath, TheDefaultIsForAMissingFieldOnly) {
 TEST(XmlNodePath, TheValueOutlivesTheNode) {
   auto root = Tree("<m><a>text</a></m>");
   wchar_t otherwise[] = L"default";
-  const QVWideString found = root->Value(L"a", L"");
+  const QVWideString found = root->Value(L"a");
   const QVWideString missing = root->Value(L"b", otherwise);
   root.reset();
   otherwise[0] = L'D';

@@ -21,7 +21,7 @@ static_assert(
 static_assert(std::is_same_v<decltype(std::declval<const XmlNode&>().Tag()), const QVWideString&>);
 static_assert(
     std::is_same_v<decltype(std::declval<const XmlNode&>().Value()), const QVWideString&>);
-static_assert(std::is_same_v<decltype(std::declval<XmlNode&>().Value(L"", L"")), QVWideString>);
+static_assert(std::is_same_v<decltype(std::declval<XmlNode&>().Value(L"")), QVWideString>);
 static_assert(std::is_same_v<decltype(std::declval<XmlNode&>().ChildsBegin()),
                              std::list<XmlNode*>::iterator>);
 static_assert(std::is_same_v<decltype(std::declval<const XmlNode&>().ChildsEnd()),
@@ -84,9 +84,9 @@ TEST(XmlNode, SetValueTakesANullTextForAnEmptyOne) {
 TEST(XmlNode, SetValueMayBeGivenAPieceOfTheOldValue) {
   const auto root = Tree("<m><a>abcdef</a></m>");
   root->SetValue(L"a", root->Node(L"a")->Value());
-  EXPECT_EQ(root->Value(L"a", L""), L"abcdef");
+  EXPECT_EQ(root->Value(L"a"), L"abcdef");
   root->SetValue(L"a", root->Node(L"a")->Value() + 2);
-  EXPECT_EQ(root->Value(L"a", L""), L"cdef");
+  EXPECT_EQ(root->Value(L"a"), L"cdef");
 }
 
 TEST(XmlNode, SetValueOwnsACopyOfTheText) {

@@ -142,7 +142,7 @@ TEST_F(VerbsTest, AddMakesTheDeviceGroupsAndTheConfiguration) {
   ASSERT_TRUE(document.Load(File("configuration.xml").wstring().c_str()));
   const qv::XmlNode& entry =
       **document.Root()->Node(L"deviceGroups")->Node(L"devices")->ChildsBegin();
-  EXPECT_EQ(entry.Value(L"type", L""), L"R$DISC");
+  EXPECT_EQ(entry.Value(L"type"), L"R$DISC");
 }
 
 TEST_F(VerbsTest, ARefusedNameGivesTheTextOfTheDialog) {

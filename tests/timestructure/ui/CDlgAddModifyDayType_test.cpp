@@ -76,7 +76,7 @@ TEST_F(DayTypeEditor, SlotsAreAddedChangedAndRemoved) {
     Click(IDOK);
   });
   EXPECT_TRUE(modified);
-  EXPECT_EQ(Day(L"feast").Node(L"slot")->Value(L"to", L""), L"23:00");
+  EXPECT_EQ(Day(L"feast").Node(L"slot")->Value(L"to"), L"23:00");
 }
 
 TEST_F(DayTypeEditor, ACancelledSlotLeavesNothingBehind) {
@@ -133,7 +133,7 @@ TEST_F(DayTypeEditor, MalformedTimesAreShownAsMidnightWhileTheDialReadsThem) {
     EXPECT_EQ(DialAt(0.3, 0.45), QColor(0xFF, 0xCC, 0x80)) << "nothing before half past seven";
     Click(IDOK);
   });
-  EXPECT_EQ(Day(L"work").Node(L"slot")->Value(L"from", L""), L"7:30");
+  EXPECT_EQ(Day(L"work").Node(L"slot")->Value(L"from"), L"7:30");
 }
 
 TEST_F(DayTypeEditor, AColourIsChosenForSwatchAndDial) {
@@ -147,7 +147,7 @@ TEST_F(DayTypeEditor, AColourIsChosenForSwatchAndDial) {
     AnswerNextBox(471, QMessageBox::Yes);
     Click(IDOK);
   });
-  EXPECT_EQ(Day(L"feast").Value(L"color", L""), L"030201");
+  EXPECT_EQ(Day(L"feast").Value(L"color"), L"030201");
   EXPECT_TRUE(modified);
 }
 
@@ -307,7 +307,7 @@ TEST_F(DayTypeList, ANewDayTypeHasWhatWasEntered) {
     EXPECT_EQ(Rows(), QStringList({"feast", "new", "work"}));
     Click(IDOK);
   });
-  EXPECT_EQ(Day(L"new").Value(L"color", L""), L"FFFFFF");
+  EXPECT_EQ(Day(L"new").Value(L"color"), L"FFFFFF");
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ TEST_F(HourTypeEditor, OkWritesAndReturnPressesIt) {
                 }),
             IDOK);
   EXPECT_TRUE(modified);
-  EXPECT_EQ(Hour(L"noon").Value(L"value", L""), L"7");
+  EXPECT_EQ(Hour(L"noon").Value(L"value"), L"7");
 }
 
 TEST_F(HourTypeEditor, TheValueIsShownOnEmbeddedInstallationsOnly) {
@@ -60,7 +60,7 @@ TEST_F(HourTypeEditor, TheValueIsShownOnEmbeddedInstallationsOnly) {
     without = TopWindow()->height();
     Click(IDOK);
   });
-  EXPECT_EQ(Hour(L"day").Value(L"value", L""), L"7") << "a hidden value survives";
+  EXPECT_EQ(Hour(L"day").Value(L"value"), L"7") << "a hidden value survives";
   EXPECT_FALSE(modified);
   MakeEmbedded();
   Run(Hour(L"day"), [&] {
@@ -70,7 +70,7 @@ TEST_F(HourTypeEditor, TheValueIsShownOnEmbeddedInstallationsOnly) {
     Type(valueEdit, "x y");
     Click(IDOK);
   });
-  EXPECT_EQ(Hour(L"day").Value(L"value", L""), L"x y");
+  EXPECT_EQ(Hour(L"day").Value(L"value"), L"x y");
   EXPECT_TRUE(modified);
 }
 
@@ -80,7 +80,7 @@ TEST_F(HourTypeEditor, AHiddenValueOfAnyTextComesBackUnchanged) {
   for (const std::wstring& value : values) {
     Hour(L"day").SetValue(L"value", value.c_str());
     Run(Hour(L"day"), [] { Click(IDOK); });
-    EXPECT_EQ(Hour(L"day").Value(L"value", L""), value.c_str());
+    EXPECT_EQ(Hour(L"day").Value(L"value"), value.c_str());
     EXPECT_FALSE(modified);
   }
 }
@@ -127,7 +127,7 @@ TEST_F(HourTypeEditor, AClickAndSpaceChooseAColour) {
     EXPECT_EQ(Swatch()->Colour(), 0x030201U);
     Click(IDOK);
   });
-  EXPECT_EQ(Hour(L"day").Value(L"color", L""), L"030201");
+  EXPECT_EQ(Hour(L"day").Value(L"color"), L"030201");
   EXPECT_TRUE(modified);
 }
 
@@ -175,7 +175,7 @@ TEST_F(HourTypeEditor, AnotherOnesColourIsAskedAboutAndNoKeepsIt) {
     Click(IDOK);
   });
   EXPECT_EQ(result, IDOK);
-  EXPECT_EQ(Hour(L"day").Value(L"color", L""), L"FF0000");
+  EXPECT_EQ(Hour(L"day").Value(L"color"), L"FF0000");
 }
 
 TEST_F(HourTypeEditor, ANameHasAtMost128Characters) {

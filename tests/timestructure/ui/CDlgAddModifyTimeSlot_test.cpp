@@ -24,9 +24,9 @@ class SlotEditor : public DayTypesFixture {
   }
 
   std::wstring Stored() const {
-    return std::wstring(slot->Value(L"id", L"").ToView()) + L" " +
-           std::wstring(slot->Value(L"from", L"").ToView()) + L"-" +
-           std::wstring(slot->Value(L"to", L"").ToView());
+    return std::wstring(slot->Value(L"id").ToView()) + L" " +
+           std::wstring(slot->Value(L"from").ToView()) + L"-" +
+           std::wstring(slot->Value(L"to").ToView());
   }
 
   static QString Shown() {
@@ -207,7 +207,7 @@ TEST_F(SlotEditor, WithoutHourTypesOnlyTheirButtonWorks) {
     Click(IDOK);
   });
   ASSERT_TRUE(hours->Node(L"hour"));
-  EXPECT_EQ(slot->Value(L"id", L""), hours->Node(L"hour")->Value(L"id", L"?"));
+  EXPECT_EQ(slot->Value(L"id"), hours->Node(L"hour")->Value(L"id", L"?"));
 }
 
 TEST_F(SlotEditor, AClickOnTheGridSelectsAQuarter) {

@@ -16,7 +16,7 @@ int main(int count, char** arguments) {
   slot.SetValue(L"id", L"p");
   CDlgAddModifyTimeSlot editor(nullptr, hours.Root(), &slot, 0xFFFFFF);
   const int result = editor.DoModal();
-  std::printf("%d %s-%s\n", result, qPrintable(qv::ToQString(slot.Value(L"from", L""))),
-              qPrintable(qv::ToQString(slot.Value(L"to", L""))));
+  std::printf("%d %s-%s\n", result, qPrintable(qv::ToQString(slot.Value(L"from"))),
+              qPrintable(qv::ToQString(slot.Value(L"to"))));
   return 0;
 }
