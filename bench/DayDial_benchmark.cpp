@@ -102,18 +102,18 @@ class SectorKeeper : public qv::Canvas {
  public:
   std::vector<ColouredPolygon> sectors;
 
-  void Polygon(std::span<const qv::Point> points, Colour, Colour brush) override {
+  void Polygon(std::span<const qv::Point> points, qv::Colour, qv::Colour brush) override {
     QPolygon polygon;
     for (const qv::Point point : points) {
       polygon.append({point.x, point.y});
     }
-    sectors.push_back({polygon, qv::ColourOf(brush)});
+    sectors.push_back({polygon, qv::ToQColor(brush)});
   }
-  void Fill(const qv::Rect&, Colour) override {}
-  void Rectangle(const qv::Rect&, Colour, Colour) override {}
-  void Ellipse(const qv::Rect&, Colour, Colour) override {}
-  void Line(qv::Point, qv::Point, Colour) override {}
-  void Text(qv::Point, std::wstring_view, int, Colour) override {}
+  void Fill(const qv::Rect&, qv::Colour) override {}
+  void Rectangle(const qv::Rect&, qv::Colour, qv::Colour) override {}
+  void Ellipse(const qv::Rect&, qv::Colour, qv::Colour) override {}
+  void Line(qv::Point, qv::Point, qv::Colour) override {}
+  void Text(qv::Point, std::wstring_view, int, qv::Colour) override {}
   qv::Extent TextExtent(std::wstring_view, int) const override { return {}; }
 };
 

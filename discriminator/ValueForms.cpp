@@ -7,14 +7,12 @@
 
 namespace qv {
 
-QVWideString ColorText(std::uint32_t color) {
-  return QVWideString(Format(L"%06X", {color}).c_str());
-}
+QVWideString ColourText(Colour color) { return QVWideString(Format(L"%06X", {color}).c_str()); }
 
-std::uint32_t ColorOf(const QVWideString& text) {
+Colour ColourOfText(const QVWideString& text) {
   QVWideString upper(text);
   upper.MakeUpper();
-  return static_cast<std::uint32_t>(HtoL(upper, upper.Length()));
+  return static_cast<Colour>(HtoL(upper, upper.Length()));
 }
 
 QVWideString TimeText(TimeOfDay time) {

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
+#include "tools/Colour.h"
 #include "tools/QVBasicString.h"
 
 /// The forms in which values stand in a discriminator's document, in the one place that writes and
 /// reads them.
 namespace qv {
 
-/// A colour with red in the lowest byte as "%06X": blue, green, red.
-QVWideString ColorText(std::uint32_t color);
+/// A colour as "%06X": blue, green, red.
+QVWideString ColourText(Colour color);
 
 /// The colour that `text` writes, in letters of either case; an empty or wrong text gives what its
 /// first hexadecimal digits write, which may be 0.
-std::uint32_t ColorOf(const QVWideString& text);
+Colour ColourOfText(const QVWideString& text);
 
 /// A time of day, 00:00 to 24:00. What comes from a file may be any numbers.
 struct TimeOfDay {

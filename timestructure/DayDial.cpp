@@ -5,28 +5,23 @@
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
 #include "tools/Nodes.h"
-#include "tools/Numbers.h"
 
 namespace qv {
 namespace {
 
-constexpr Canvas::Colour red = 0x0000FF;
-constexpr Canvas::Colour black = 0x000000;
+constexpr Colour red = 0x0000FF;
+constexpr Colour black = 0x000000;
 constexpr std::uint8_t ringHasColour = 1;
 constexpr int labelHeight = 14;
 
-/// The colour of a slot's hour type. It is read as it stands: nothing folds its case.
-Canvas::Colour ColourOfSlot(const XmlNode& slot, const XmlNode* hourTypes) {
+/// The colour of a slot's hour type.
+Colour ColourOfSlot(const XmlNode& slot, const XmlNode* hourTypes) {
   const XmlNode* hour =
       hourTypes ? hourTypes->NodeV(L"/hour?id=%s?", slot.Value(tag::Id)) : nullptr;
-  if (!hour) {
-    return red;
-  }
-  const QVWideString text = hour->Value(tag::Color);
-  return static_cast<Canvas::Colour>(HtoL(text, text.Length()));
+  return hour ? ColourOfText(hour->Value(tag::Color)) : red;
 }
 
-void DrawLabel(Canvas& canvas, int i, Point rim, const std::wstring& label, Canvas::Colour ink) {
+void DrawLabel(Canvas& canvas, int i, Point rim, const std::wstring& label, Colour ink) {
   const Extent extent = canvas.TextExtent(label, labelHeight);
   canvas.Text(LabelPlace(i, rim, extent), label, labelHeight, ink);
 }
@@ -85,7 +80,7 @@ void DayDial::DrawFace(Canvas& canvas, const Rect& half, int firstHour, Sector s
   }
 }
 
-Canvas::Colour DayDial::MarkInk(const DialSurroundings& surroundings) const {
+Colour DayDial::MarkInk(const DialSurroundings& surroundings) const {
   // A ring may be light on a dark ground, and the ink of the ground would vanish on it.
   const bool isOnRing = m_options & ringHasColour;
   return isOnRing && surroundings.ink != black ? InkOn(m_color) : surroundings.ink;

@@ -12,8 +12,8 @@ namespace qv {
 
 /// The colours of the surroundings in which a dial is drawn.
 struct DialSurroundings {
-  Canvas::Colour ground = 0xF0F0F0;
-  Canvas::Colour ink = 0x000000;  ///< of labels and marks: black, or white on a dark ground
+  Colour ground = 0xF0F0F0;
+  Colour ink = 0x000000;  ///< of labels and marks: black, or white on a dark ground
 };
 
 /// One day as two clock faces, the left for 00:00 to 12:00 and the right for 12:00 to 24:00, in
@@ -21,10 +21,10 @@ struct DialSurroundings {
 class DayDial {
  public:
   /// Of the discs: what of the day no slot covers. Green (0x00FF00) at first.
-  void SetBkColor(Canvas::Colour color) { m_bkColor = color; }
+  void SetBkColor(Colour color) { m_bkColor = color; }
   /// Of the rings around the discs, which show it while bit 0 of the options is set. White at
   /// first.
-  void SetColor(Canvas::Colour color) { m_color = color; }
+  void SetColor(Colour color) { m_color = color; }
   /// Sets the options, 0 at first. Bit 0: the rings have their colour; else that of the ground. The
   /// other bits mean nothing.
   void Setup(std::uint8_t options) { m_options = options; }
@@ -52,14 +52,14 @@ class DayDial {
   using Sector = std::optional<FaceMinutes> (*)(const STagSlot&);
 
   void ResetSlots() { m_slots.clear(); }
-  Canvas::Colour MarkInk(const DialSurroundings& surroundings) const;
+  Colour MarkInk(const DialSurroundings& surroundings) const;
   void DrawFace(Canvas& canvas, const Rect& half, int firstHour, Sector sectorOf,
                 const DialSurroundings& surroundings) const;
   void DrawExternCircle(Canvas& canvas, const Rect& face, int firstHour,
                         const DialSurroundings& surroundings) const;
 
-  Canvas::Colour m_bkColor = 0x00FF00;
-  Canvas::Colour m_color = 0xFFFFFF;
+  Colour m_bkColor = 0x00FF00;
+  Colour m_color = 0xFFFFFF;
   std::uint8_t m_options = 0;
   std::vector<STagSlot> m_slots;
 };

@@ -48,7 +48,7 @@ void DaySlots::Fill() {
       m_day.RemoveChild(&slot);
       continue;
     }
-    m_rows.push_back({hour->Value(tag::Name), ColorOf(hour->Value(tag::Color)),
+    m_rows.push_back({hour->Value(tag::Name), ColourOfText(hour->Value(tag::Color)),
                       NormalizeTime(slot.Value(tag::From)), NormalizeTime(slot.Value(tag::To))});
   }
 }

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 
 #include "discriminator/ValueForms.h"
 #include "host/Prompter.h"
+#include "tools/Colour.h"
 #include "tools/XmlNode.h"
 
 namespace qv {
 
 /// A row of the slots of a day type.
 struct SlotRow {
-  QVWideString hourType;     ///< name of its hour type
-  std::uint32_t colour = 0;  ///< of its hour type, red in the lowest byte
-  QVWideString from;         ///< as shown: "00:00" where the document has another form
+  QVWideString hourType;  ///< name of its hour type
+  Colour colour = 0;      ///< of its hour type
+  QVWideString from;      ///< as shown: "00:00" where the document has another form
   QVWideString to;
 
   friend bool operator==(const SlotRow&, const SlotRow&) = default;

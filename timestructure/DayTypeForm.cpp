@@ -21,7 +21,7 @@ DayTypeForm::DayTypeForm(XmlNode& day, const XmlNode& dayTypes, XmlNode& hourTyp
       m_identity(dayTypes, day, kind, prompter),
       m_slots(day, hourTypes) {}
 
-bool DayTypeForm::ChooseColour(std::uint32_t colour) {
+bool DayTypeForm::ChooseColour(Colour colour) {
   const bool isOther = m_identity.SetColour(colour);
   m_modified = m_modified || isOther;
   return isOther;
@@ -76,7 +76,7 @@ bool DayTypeForm::Save(const QVWideString& name) {
     return false;
   }
   m_day.SetValue(tag::Name, name);
-  m_day.SetValue(tag::Color, ColorText(Colour()));
+  m_day.SetValue(tag::Color, ColourText(CurrentColour()));
   return true;
 }
 

@@ -6,6 +6,7 @@
 #include "timestructure/DaySlots.h"
 #include "timestructure/TypeIdentity.h"
 #include "timestructure/TypeList.h"
+#include "tools/Colour.h"
 
 namespace qv {
 
@@ -18,7 +19,7 @@ class DayTypeForm {
   DayTypeForm(XmlNode& day, const XmlNode& dayTypes, XmlNode& hourTypes, Prompter& prompter);
 
   const QVWideString& Name() const { return m_identity.OpenedName(); }
-  std::uint32_t Colour() const { return m_identity.Colour(); }
+  Colour CurrentColour() const { return m_identity.CurrentColour(); }
 
   /// Reads the rows of the slots anew. Slots whose hour type is no more go, in silence.
   void Fill() { m_slots.Fill(); }
@@ -28,7 +29,7 @@ class DayTypeForm {
   void ReportSlots() const { m_slots.CheckSlots(false, m_prompter); }
 
   /// Takes over the colour that the user chose; whether it is another one than before.
-  bool ChooseColour(std::uint32_t colour);
+  bool ChooseColour(Colour colour);
 
   /// Runs the editor of a slot on a slot and on a copy of the hour types, which is taken over when
   /// it is confirmed.

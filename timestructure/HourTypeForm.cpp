@@ -16,7 +16,7 @@ HourTypeForm::HourTypeForm(const XmlNode& hourTypes, XmlNode& hour, Prompter& pr
       m_identity(hourTypes, hour, kind, prompter),
       m_openedValue(hour.Value(tag::Value)) {}
 
-bool HourTypeForm::ChooseColour(std::uint32_t colour) {
+bool HourTypeForm::ChooseColour(Colour colour) {
   const bool isOther = m_identity.SetColour(colour);
   m_modified = m_modified || isOther;
   return isOther;
@@ -29,7 +29,7 @@ bool HourTypeForm::Save(const QVWideString& name, const QVWideString& value) {
   m_modified = m_modified || name != Name() || m_identity.IsOtherColour() || value != m_openedValue;
   m_hour.SetValue(tag::Name, name);
   m_hour.SetValue(tag::Value, value);
-  m_hour.SetValue(tag::Color, ColorText(Colour()));
+  m_hour.SetValue(tag::Color, ColourText(CurrentColour()));
   return true;
 }
 

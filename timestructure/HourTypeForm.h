@@ -1,6 +1,7 @@
 #pragma once
 
 #include "timestructure/TypeIdentity.h"
+#include "tools/Colour.h"
 
 namespace qv {
 
@@ -13,10 +14,10 @@ class HourTypeForm {
 
   const QVWideString& Name() const { return m_identity.OpenedName(); }
   const QVWideString& Value() const { return m_openedValue; }
-  std::uint32_t Colour() const { return m_identity.Colour(); }
+  Colour CurrentColour() const { return m_identity.CurrentColour(); }
 
   /// Takes over the colour that the user chose; whether it is another one than before.
-  bool ChooseColour(std::uint32_t colour);
+  bool ChooseColour(Colour colour);
 
   /// Writes name, value and colour if they are accepted. The value may be any text.
   bool Save(const QVWideString& name, const QVWideString& value);

@@ -1,18 +1,18 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 
 #include "timestructure/DayMinutes.h"
+#include "tools/Colour.h"
 
 namespace qv {
 
 /// A stretch of the day in one colour. Minutes count from 00:00 and should lie in 0 to 1440; what a
 /// file or a host gives is kept as it is.
 struct STagSlot {
-  int from = 0;             ///< first minute
-  int to = 0;               ///< end minute, exclusive
-  std::uint32_t color = 0;  ///< red in the lowest byte, then green, then blue
+  int from = 0;  ///< first minute
+  int to = 0;    ///< end minute, exclusive
+  Colour color = 0;
 
   friend bool operator==(const STagSlot&, const STagSlot&) = default;
 };

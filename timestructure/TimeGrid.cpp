@@ -17,7 +17,7 @@ constexpr int headerHeight = 19;
 constexpr int labelHeight = 12;
 
 constexpr int margin = 6;
-constexpr Canvas::Colour grey = 0x808080;
+constexpr Colour grey = 0x808080;
 
 }  // namespace
 

@@ -16,11 +16,11 @@ class TimeGrid {
 
   /// What is drawn, and in which colours.
   struct Picture {
-    Canvas::Colour dayColour = 0xFFFFFF;  ///< ground of the grid
+    Colour dayColour = 0xFFFFFF;  ///< ground of the grid
     std::optional<MinuteRange> selection;
-    Canvas::Colour selectionColour = 0;
-    Canvas::Colour ground = 0xF0F0F0;  ///< around the grid
-    Canvas::Colour ink = 0;            ///< of labels and lines
+    Colour selectionColour = 0;
+    Colour ground = 0xF0F0F0;  ///< around the grid
+    Colour ink = 0;            ///< of labels and lines
 
     friend bool operator==(const Picture&, const Picture&) = default;
   };

@@ -57,7 +57,7 @@ void TimeSlotForm::FillHourTypes(std::optional<int> select) {
   int match = 0;
   for (XmlNode& hour : ChildrenWithTag(m_hourTypes, tag::Hour)) {
     match = hour.Value(tag::Id) == slotId ? static_cast<int>(m_choices.size()) : match;
-    m_choices.push_back({&hour, hour.Value(tag::Name), ColorOf(hour.Value(tag::Color))});
+    m_choices.push_back({&hour, hour.Value(tag::Name), ColourOfText(hour.Value(tag::Color))});
   }
   m_selected = m_choices.empty() ? std::nullopt : std::optional(select.value_or(match));
   // Also a spin that was locked: only its range still says so.
@@ -200,7 +200,7 @@ std::optional<MinuteRange> TimeSlotForm::Selection() const {
   return isPainted ? std::optional(range) : std::nullopt;
 }
 
-std::optional<std::uint32_t> TimeSlotForm::SelectionColour() const {
+std::optional<Colour> TimeSlotForm::SelectionColour() const {
   return m_selected ? std::optional(m_choices[static_cast<std::size_t>(*m_selected)].colour)
                     : std::nullopt;
 }

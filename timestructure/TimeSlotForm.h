@@ -9,6 +9,7 @@
 #include "host/Prompter.h"
 #include "timestructure/DayMinutes.h"
 #include "timestructure/TypeList.h"
+#include "tools/Colour.h"
 #include "tools/XmlNode.h"
 
 namespace qv {
@@ -92,7 +93,7 @@ class TimeSlotForm {
   /// picture only.
   std::optional<MinuteRange> Selection() const;
   /// The colour of the hour type in force; nothing without one.
-  std::optional<std::uint32_t> SelectionColour() const;
+  std::optional<Colour> SelectionColour() const;
 
   /// Makes a new hour type and runs the editor on it; on any end but a confirmation it is removed
   /// again. The selected place in the list stays.

@@ -12,10 +12,10 @@ TypeIdentity::TypeIdentity(const XmlNode& list, const XmlNode& type, const Kind&
       m_kind(kind),
       m_prompter(prompter),
       m_openedName(type.Value(tag::Name)),
-      m_openedColour(ColorOf(type.Value(tag::Color))),
+      m_openedColour(ColourOfText(type.Value(tag::Color))),
       m_colour(m_openedColour) {}
 
-bool TypeIdentity::SetColour(std::uint32_t colour) {
+bool TypeIdentity::SetColour(Colour colour) {
   const bool isOther = colour != m_colour;
   m_colour = colour;
   return isOther;
@@ -31,7 +31,7 @@ bool TypeIdentity::IsAccepted(const QVWideString& name) const {
   } else if (name != m_openedName && HasOther(tag::Name, name)) {
     m_prompter.Show(Text::TypeNameTaken);
   } else {
-    return !IsOtherColour() || !HasOther(tag::Color, ColorText(m_colour)) ||
+    return !IsOtherColour() || !HasOther(tag::Color, ColourText(m_colour)) ||
            m_prompter.Ask(Text::TypeColourTaken);
   }
   return false;

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <cstdint>
-
 #include "host/Prompter.h"
+#include "tools/Colour.h"
 #include "tools/XmlNode.h"
 
 namespace qv {
@@ -26,10 +25,10 @@ class TypeIdentity {
   TypeIdentity(const XmlNode& list, const XmlNode& type, const Kind& kind, Prompter& prompter);
 
   const QVWideString& OpenedName() const { return m_openedName; }
-  /// The colour in force, red in the lowest byte.
-  std::uint32_t Colour() const { return m_colour; }
+  /// The colour in force.
+  Colour CurrentColour() const { return m_colour; }
   /// Takes over what the user chose; whether that is another colour.
-  bool SetColour(std::uint32_t colour);
+  bool SetColour(Colour colour);
 
   bool IsOtherColour() const { return m_colour != m_openedColour; }
 
@@ -48,8 +47,8 @@ class TypeIdentity {
   Kind m_kind;
   Prompter& m_prompter;
   QVWideString m_openedName;
-  std::uint32_t m_openedColour;
-  std::uint32_t m_colour;
+  Colour m_openedColour;
+  Colour m_colour;
 };
 
 }  // namespace qv

@@ -28,7 +28,7 @@ TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(contain
 void TypeList::Fill() {
   m_rows.clear();
   for (XmlNode& type : ChildrenWithTag(m_container, m_tag)) {
-    m_rows.push_back({&type, type.Value(tag::Name), ColorOf(type.Value(tag::Color))});
+    m_rows.push_back({&type, type.Value(tag::Name), ColourOfText(type.Value(tag::Color))});
   }
   std::stable_sort(m_rows.begin(), m_rows.end(), [](const TypeRow& a, const TypeRow& b) {
     return CompareLowered(a.name.ToView(), b.name.ToView()) < 0;

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <vector>
 
 #include "discriminator/EditorEnd.h"
+#include "tools/Colour.h"
 #include "tools/XmlNode.h"
 
 namespace qv {
@@ -14,7 +14,7 @@ namespace qv {
 struct TypeRow {
   XmlNode* node = nullptr;
   QVWideString name;
-  std::uint32_t colour = 0;  ///< red in the lowest byte
+  Colour colour = 0;
 };
 
 /// What a list shows after a verb: nothing new, or new rows with one of them or none selected.

@@ -6,9 +6,9 @@
 
 namespace qv {
 
-std::optional<COLORREF> AskColour(QWidget* parent, COLORREF colour, const QString& title) {
-  const QColor chosen = QColorDialog::getColor(ColourOf(colour), parent, title);
-  return chosen.isValid() ? std::optional(NumberOf(chosen)) : std::nullopt;
+std::optional<Colour> AskColour(QWidget* parent, Colour colour, const QString& title) {
+  const QColor chosen = QColorDialog::getColor(ToQColor(colour), parent, title);
+  return chosen.isValid() ? std::optional(FromQColor(chosen)) : std::nullopt;
 }
 
 }  // namespace qv

@@ -4,11 +4,11 @@
 #include <QWidget>
 #include <optional>
 
-#include "toolkit/Types.h"
+#include "tools/Colour.h"
 
 namespace qv {
 
 /// Lets the user choose a colour over `parent`, `colour` at first; nothing if they cancel.
-std::optional<COLORREF> AskColour(QWidget* parent, COLORREF colour, const QString& title);
+std::optional<Colour> AskColour(QWidget* parent, Colour colour, const QString& title);
 
 }  // namespace qv

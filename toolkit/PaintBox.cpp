@@ -14,13 +14,13 @@ int Channel(unsigned long colour, int shift) {
 
 }  // namespace
 
-QColor ColourOf(unsigned long colour) {
+QColor ToQColor(unsigned long colour) {
   return {Channel(colour, 0), Channel(colour, greenShift), Channel(colour, blueShift)};
 }
 
-COLORREF NumberOf(const QColor& colour) {
-  return static_cast<COLORREF>(colour.red() | colour.green() << greenShift |
-                               colour.blue() << blueShift);
+Colour FromQColor(const QColor& colour) {
+  return static_cast<Colour>(colour.red() | colour.green() << greenShift |
+                             colour.blue() << blueShift);
 }
 
 }  // namespace qv
@@ -30,6 +30,6 @@ bool PaintBox(QPixmap* bitmap, unsigned long colour, int width, int height) {
     return false;
   }
   *bitmap = QPixmap(width, height);
-  bitmap->fill(qv::ColourOf(colour));
+  bitmap->fill(qv::ToQColor(colour));
   return true;
 }

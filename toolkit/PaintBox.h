@@ -3,19 +3,18 @@
 #include <QColor>
 #include <QPixmap>
 
-#include "toolkit/Types.h"
+#include "tools/Colour.h"
 
 namespace qv {
 
-/// The colour of a 32-bit number that has red in its lowest byte, then green, then blue. The
-/// highest byte is ignored.
-QColor ColourOf(unsigned long colour);
+/// A colour of the rules as one of Qt; what stands above its three bytes is ignored.
+QColor ToQColor(unsigned long colour);
 
-/// The number of a colour, its highest byte 0.
-COLORREF NumberOf(const QColor& colour);
+/// A colour of Qt as one of the rules, its highest byte 0.
+Colour FromQColor(const QColor& colour);
 
 }  // namespace qv
 
-/// Makes in `bitmap` a picture of this size in one colour, read as by `qv::ColourOf`. False, with
+/// Makes in `bitmap` a picture of this size in one colour, read as by `qv::ToQColor`. False, with
 /// `bitmap` as it was, if that is null or the size is empty.
 bool PaintBox(QPixmap* bitmap, unsigned long colour, int width, int height);

@@ -69,7 +69,7 @@ PainterCanvas::~PainterCanvas() { m_painter.restore(); }
 void PainterCanvas::Fill(const Rect& area, Colour brush) {
   if (!area.IsEmpty()) {
     const QRectF pixels(area.left, area.top, area.Width(), area.Height());
-    m_painter.fillRect(pixels.translated(-m_middle, -m_middle), ColourOf(brush));
+    m_painter.fillRect(pixels.translated(-m_middle, -m_middle), ToQColor(brush));
   }
 }
 
@@ -83,8 +83,8 @@ void PainterCanvas::Ellipse(const Rect& area, Colour pen, Colour brush) {
     Fill(area, pen);
     return;
   }
-  m_painter.setPen(QPen(ColourOf(pen), 1));
-  m_painter.setBrush(ColourOf(brush));
+  m_painter.setPen(QPen(ToQColor(pen), 1));
+  m_painter.setBrush(ToQColor(brush));
   // The painter's ellipse reaches one pixel further than the size that it is given.
   m_painter.drawEllipse(area.left, area.top, area.Width() - 1, area.Height() - 1);
 }
@@ -95,8 +95,8 @@ void PainterCanvas::Polygon(std::span<const Point> points, Colour pen, Colour br
   for (const Point point : points) {
     polygon.append(QPoint(point.x, point.y));
   }
-  m_painter.setPen(QPen(ColourOf(pen), 1));
-  m_painter.setBrush(ColourOf(brush));
+  m_painter.setPen(QPen(ToQColor(pen), 1));
+  m_painter.setBrush(ToQColor(brush));
   m_painter.drawPolygon(polygon);
 }
 
@@ -106,7 +106,7 @@ void PainterCanvas::Line(Point from, Point to, Colour pen) {
     // Between two ends in one place a scaled pen would draw both their caps.
     Fill({from.x, from.y, from.x + 1, from.y + 1}, pen);
   } else if (pixels > 1) {
-    m_painter.setPen(QPen(ColourOf(pen), 1));
+    m_painter.setPen(QPen(ToQColor(pen), 1));
     m_painter.drawLine(QPointF(from.x, from.y), LastPixel(from, to));
   }
 }
@@ -116,7 +116,7 @@ void PainterCanvas::Text(Point at, std::wstring_view text, int height, Colour co
   const int baseline = (height - HeightOf(face.metrics)) / 2 + face.metrics.ascent();
   const QPointF start(at.x - m_middle, at.y + baseline - m_middle);
   m_painter.setFont(face.font);
-  m_painter.setPen(ColourOf(colour));
+  m_painter.setPen(ToQColor(colour));
   m_painter.drawText(start, ToQString(text));
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 #include <string_view>
+
+#include "tools/Colour.h"
 
 namespace qv {
 
@@ -38,13 +39,11 @@ struct Rect {
 /// Takes a picture as a short list of primitives, so that what is drawn can be computed and tested
 /// without a window.
 ///
-/// Units are pixels. Colours are numbers with red in the lowest byte, then green, then blue. Pens
+/// Units are pixels. Pens
 /// are solid and one pixel wide, brushes solid. An outline lies inside the rectangle that it is
 /// given for; what is empty draws nothing.
 class Canvas {
  public:
-  using Colour = std::uint32_t;
-
   Canvas() = default;
   Canvas(const Canvas&) = delete;
   Canvas& operator=(const Canvas&) = delete;
@@ -70,11 +69,10 @@ class Canvas {
   virtual Extent TextExtent(std::wstring_view text, int height) const = 0;
 };
 
-/// Black, or white if `ground` is dark: what text and marks are drawn with on it. The highest byte
-/// of a colour means nothing.
-constexpr Canvas::Colour InkOn(Canvas::Colour ground) {
+/// Black, or white if `ground` is dark: what text and marks are drawn with on it.
+constexpr Colour InkOn(Colour ground) {
   // How light a colour looks, by the weights of television.
-  const Canvas::Colour lightness =
+  const Colour lightness =
       299 * (ground & 0xFF) + 587 * (ground >> 8 & 0xFF) + 114 * (ground >> 16 & 0xFF);
   return lightness < 1000 * 0xFF / 2 ? 0xFFFFFF : 0x000000;
 }

@@ -6,16 +6,16 @@ namespace qv {
 namespace {
 
 TEST(ValueForms, AColourStandsAsBlueGreenRed) {
-  EXPECT_EQ(ColorText(0x0000FF), L"0000FF");  // red
-  EXPECT_EQ(ColorText(0xFF0000), L"FF0000");  // blue
-  EXPECT_EQ(ColorText(0), L"000000");
+  EXPECT_EQ(ColourText(0x0000FF), L"0000FF");  // red
+  EXPECT_EQ(ColourText(0xFF0000), L"FF0000");  // blue
+  EXPECT_EQ(ColourText(0), L"000000");
 }
 
 TEST(ValueForms, AColourIsReadInEitherCase) {
-  EXPECT_EQ(ColorOf(L"ff00aB"), 0xFF00ABU);
-  EXPECT_EQ(ColorOf(L""), 0U);
-  EXPECT_EQ(ColorOf(L"no"), 0U);
-  EXPECT_EQ(ColorOf(L"FFG"), 0xFFU);
+  EXPECT_EQ(ColourOfText(L"ff00aB"), 0xFF00ABU);
+  EXPECT_EQ(ColourOfText(L""), 0U);
+  EXPECT_EQ(ColourOfText(L"no"), 0U);
+  EXPECT_EQ(ColourOfText(L"FFG"), 0xFFU);
 }
 
 TEST(ValueForms, EveryMinuteOfADayComesBack) {

@@ -100,7 +100,7 @@ TEST(DayDialPaint, MarksAndLabelsAreInTheInkOfTheGround) {
 }
 
 /// The first mark of a dial with a ring of this colour.
-std::string MarkOnRing(Canvas::Colour ring, Canvas::Colour ground) {
+std::string MarkOnRing(Colour ring, Colour ground) {
   DayDial dial;
   dial.SetColor(ring);
   dial.Setup(1);

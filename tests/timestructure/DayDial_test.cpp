@@ -12,7 +12,7 @@ namespace qv {
 namespace {
 
 using Slots = std::vector<STagSlot>;
-constexpr std::uint32_t red = 0x0000FF;
+constexpr qv::Colour red = 0x0000FF;
 
 Slots SlotsOfMap(const std::vector<std::uint8_t>& map) {
   DayDial dial;
@@ -108,7 +108,7 @@ TEST(DayDialOfADay, IsRedWithoutHourTypesOrWithoutItsOwn) {
 
 struct ColourCase {
   const char* text;
-  std::uint32_t colour;
+  qv::Colour colour;
 };
 
 TEST(DayDialOfADay, ReadsColoursAsTheyStand) {

@@ -54,7 +54,7 @@ class DayTypeFormTest : public testing::Test {
 
 TEST_F(DayTypeFormTest, ReadsNameColourAndSlots) {
   EXPECT_EQ(form.Name(), L"work");
-  EXPECT_EQ(form.Colour(), 0x0000FFU);
+  EXPECT_EQ(form.CurrentColour(), 0x0000FFU);
   EXPECT_EQ(form.Rows().size(), 2U);
   EXPECT_FALSE(form.IsModified());
 }

@@ -8,8 +8,8 @@
 namespace qv {
 namespace {
 
-constexpr std::uint32_t red = 0x0000FF;
-constexpr std::uint32_t green = 0x00FF00;
+constexpr qv::Colour red = 0x0000FF;
+constexpr qv::Colour green = 0x00FF00;
 
 /// Two hour types: "Peak", red with a value, and "valley", whose colour is written in small
 /// letters.
@@ -45,8 +45,8 @@ TEST_F(HourTypeFormTest, ReadsNameValueAndColour) {
   const auto form = Form(Hour(L"Peak"));
   EXPECT_EQ(form.Name(), L"Peak");
   EXPECT_EQ(form.Value(), L"7");
-  EXPECT_EQ(form.Colour(), red);
-  EXPECT_EQ(Form(Hour(L"valley")).Colour(), green);
+  EXPECT_EQ(form.CurrentColour(), red);
+  EXPECT_EQ(Form(Hour(L"valley")).CurrentColour(), green);
   EXPECT_EQ(Form(Hour(L"valley")).Value(), L"");
 }
 
@@ -137,7 +137,7 @@ TEST_F(HourTypeFormTest, AnotherOnesColourIsAskedAbout) {
   EXPECT_TRUE(form.ChooseColour(red));
   prompter.ExpectAsk(Text::TypeColourTaken, false);
   EXPECT_FALSE(form.Save(L"n", L""));
-  EXPECT_EQ(form.Colour(), red);
+  EXPECT_EQ(form.CurrentColour(), red);
   EXPECT_EQ(hour.Value(L"color"), L"FFFFFF");
   prompter.ExpectAsk(Text::TypeColourTaken, true);
   EXPECT_TRUE(form.Save(L"n", L""));

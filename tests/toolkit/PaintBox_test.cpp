@@ -44,11 +44,11 @@ TEST(PaintBox, RefusesNullAndEmptySizes) {
   }
 }
 
-TEST(ColourOf, AndNumberOfAreInverse) {
-  for (const COLORREF number : {0x0000FFU, 0x00FF00U, 0xFF0000U, 0U, 0xFFFFFFU, 0x123456U}) {
-    EXPECT_EQ(qv::NumberOf(qv::ColourOf(number)), number);
+TEST(ToQColor, AndFromQColorAreInverse) {
+  for (const qv::Colour number : {0x0000FFU, 0x00FF00U, 0xFF0000U, 0U, 0xFFFFFFU, 0x123456U}) {
+    EXPECT_EQ(qv::FromQColor(qv::ToQColor(number)), number);
   }
-  EXPECT_EQ(qv::NumberOf(QColor(1, 2, 3)), 0x030201U);
+  EXPECT_EQ(qv::FromQColor(QColor(1, 2, 3)), 0x030201U);
 }
 
 }  // namespace

@@ -12,8 +12,8 @@
 namespace qv {
 namespace {
 
-constexpr Canvas::Colour black = 0x000000;
-constexpr Canvas::Colour red = 0x0000FF;
+constexpr Colour black = 0x000000;
+constexpr Colour red = 0x0000FF;
 constexpr int side = 40;
 
 /// What `draw` paints on a white square, at this many dots to the pixel.

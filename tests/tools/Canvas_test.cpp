@@ -14,12 +14,10 @@ TEST(Rect, IsEmptyWithoutPixels) {
 }
 
 TEST(InkOn, IsBlackOnLightGroundsAndWhiteOnDarkOnes) {
-  for (const Canvas::Colour light :
-       {0xFFFFFFU, 0xF0F0F0U, 0x808080U, 0x00FFFFU, 0x00FF00U, 0xFFFFFFFFU}) {
+  for (const Colour light : {0xFFFFFFU, 0xF0F0F0U, 0x808080U, 0x00FFFFU, 0x00FF00U, 0xFFFFFFFFU}) {
     EXPECT_EQ(InkOn(light), 0x000000U) << light;
   }
-  for (const Canvas::Colour dark :
-       {0x000000U, 0x302D2BU, 0x7F7F7FU, 0x0000FFU, 0xFF0000U, 0xFF000000U}) {
+  for (const Colour dark : {0x000000U, 0x302D2BU, 0x7F7F7FU, 0x0000FFU, 0xFF0000U, 0xFF000000U}) {
     EXPECT_EQ(InkOn(dark), 0xFFFFFFU) << dark;
   }
 }

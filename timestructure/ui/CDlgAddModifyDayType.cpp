@@ -7,7 +7,7 @@
 #include "timestructure/ui/QVDayCtrl.h"
 #include "timestructure/ui/SwatchRow.h"
 #include "toolkit/AskColour.h"
-#include "toolkit/ColorSwatch.h"
+#include "toolkit/ColourSwatch.h"
 #include "toolkit/Controls.h"
 #include "toolkit/LimitTyping.h"
 #include "toolkit/OkCancel.h"
@@ -41,7 +41,7 @@ CDlgAddModifyDayType::CDlgAddModifyDayType(CWnd* parent, qv::XmlNode* day, qv::X
       m_hourTypes(hourTypes),
       m_dial(new QVDayCtrl(this)) {
   m_dial->setProperty(qv::controlIdProperty, dial);
-  connect(Find<qv::ColorSwatch>(swatch), &qv::ColorSwatch::clicked, this,
+  connect(Find<qv::ColourSwatch>(swatch), &qv::ColourSwatch::clicked, this,
           &CDlgAddModifyDayType::OnColor);
 }
 
@@ -105,15 +105,15 @@ void CDlgAddModifyDayType::UpdateDial() {
 }
 
 void CDlgAddModifyDayType::ShowColour() {
-  Find<qv::ColorSwatch>(swatch)->SetColour(m_form->Colour());
-  m_dial->SetBkColor(m_form->Colour());
-  m_dial->SetColor(m_form->Colour());
+  Find<qv::ColourSwatch>(swatch)->SetColour(m_form->CurrentColour());
+  m_dial->SetBkColor(m_form->CurrentColour());
+  m_dial->SetColor(m_form->CurrentColour());
   UpdateDial();
 }
 
 void CDlgAddModifyDayType::OnColor() {
-  const auto chosen =
-      qv::AskColour(this, m_form->Colour(), qv::HostText(Services().loadString, Text::Colour));
+  const auto chosen = qv::AskColour(this, m_form->CurrentColour(),
+                                    qv::HostText(Services().loadString, Text::Colour));
   if (chosen && m_form->ChooseColour(*chosen)) {
     ShowColour();
   }
@@ -121,7 +121,7 @@ void CDlgAddModifyDayType::OnColor() {
 
 qv::DayTypeForm::RunEditor CDlgAddModifyDayType::Editor() {
   return [this](qv::XmlNode& hourTypes, qv::XmlNode& slot) {
-    CDlgAddModifyTimeSlot editor(this, &hourTypes, &slot, m_form->Colour());
+    CDlgAddModifyTimeSlot editor(this, &hourTypes, &slot, m_form->CurrentColour());
     return qv::RunDialog<qv::EditorEnd>(editor);
   };
 }

@@ -5,7 +5,7 @@
 #include "host/Installation.h"
 #include "timestructure/ui/SwatchRow.h"
 #include "toolkit/AskColour.h"
-#include "toolkit/ColorSwatch.h"
+#include "toolkit/ColourSwatch.h"
 #include "toolkit/LimitTyping.h"
 #include "toolkit/OkCancel.h"
 #include "toolkit/QVLayout.h"
@@ -30,7 +30,7 @@ void BuildTemplate(QDialog* dialog) { Ui::Template1305().setupUi(dialog); }
 CDlgAddModifyHourType::CDlgAddModifyHourType(CWnd* parent, qv::XmlNode* hourTypes,
                                              qv::XmlNode* hour)
     : CDialog(BuildTemplate, parent), m_hourTypes(hourTypes), m_hour(hour) {
-  connect(Find<qv::ColorSwatch>(swatch), &qv::ColorSwatch::clicked, this,
+  connect(Find<qv::ColourSwatch>(swatch), &qv::ColourSwatch::clicked, this,
           &CDlgAddModifyHourType::OnColor);
 }
 
@@ -64,7 +64,7 @@ void CDlgAddModifyHourType::InitializeTexts() {
 }
 
 void CDlgAddModifyHourType::InitializeData() {
-  Find<qv::ColorSwatch>(swatch)->SetColour(m_form->Colour());
+  Find<qv::ColourSwatch>(swatch)->SetColour(m_form->CurrentColour());
   qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Name()));
   // Also into a hidden field, so that the value of another installation comes out as it went in.
   qv::SetLoadedText(Find<QLineEdit>(valueEdit), qv::ToQString(m_form->Value()));
@@ -105,10 +105,10 @@ void CDlgAddModifyHourType::PositioningControls() {
 }
 
 void CDlgAddModifyHourType::OnColor() {
-  const auto chosen =
-      qv::AskColour(this, m_form->Colour(), qv::HostText(Services().loadString, Text::Colour));
+  const auto chosen = qv::AskColour(this, m_form->CurrentColour(),
+                                    qv::HostText(Services().loadString, Text::Colour));
   if (chosen && m_form->ChooseColour(*chosen)) {
-    Find<qv::ColorSwatch>(swatch)->SetColour(*chosen);
+    Find<qv::ColourSwatch>(swatch)->SetColour(*chosen);
   }
 }
 

@@ -10,7 +10,7 @@
 #include "timestructure/ui/CDlgAddModifyHourType.h"
 #include "timestructure/ui/TimeGridView.h"
 #include "toolkit/ChoiceBox.h"
-#include "toolkit/ColorIcons.h"
+#include "toolkit/ColourIcons.h"
 #include "toolkit/OkCancel.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/RunDialog.h"
@@ -143,7 +143,7 @@ void CDlgAddModifyTimeSlot::ShowHourTypes() {
   combo->clear();
   combo->setIconSize(boxSize);
   for (const qv::TypeRow& type : m_form->HourTypes()) {
-    combo->addItem(qv::ColorIcon(type.colour, boxSize), qv::ToQString(type.name));
+    combo->addItem(qv::ColourIcon(type.colour, boxSize), qv::ToQString(type.name));
   }
   combo->setCurrentIndex(m_form->Selected().value_or(-1));
 }

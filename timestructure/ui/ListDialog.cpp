@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-#include "toolkit/ColorIcons.h"
+#include "toolkit/ColourIcons.h"
 #include "toolkit/ReportList.h"
 
 namespace qv {
@@ -36,7 +36,7 @@ void ListDialog::ShowRows(const std::vector<Row>& rows, std::optional<int> selec
   QList<QTreeWidgetItem*> items;
   for (const Row& row : rows) {
     auto* item = new QTreeWidgetItem(row.texts);
-    item->setIcon(0, ColorIcon(row.colour, m_view->iconSize()));
+    item->setIcon(0, ColourIcon(row.colour, m_view->iconSize()));
     items.append(item);
   }
   m_view->clear();

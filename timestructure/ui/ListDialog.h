@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "toolkit/CDialog.h"
+#include "tools/Colour.h"
 
 namespace qv {
 
@@ -20,7 +21,7 @@ class ListDialog : public CDialog {
   /// A row of the list: its texts, and the colour of its icon.
   struct Row {
     QStringList texts;
-    COLORREF colour = 0;
+    Colour colour = 0;
   };
 
   ListDialog(Template build, CWnd* parent);

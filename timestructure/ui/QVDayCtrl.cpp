@@ -61,7 +61,7 @@ void QVDayCtrl::paintEvent(QPaintEvent*) {
   {
     // The faces stand on the ground of the dialog itself. Sizes stay those of the layout on a dense
     // screen, where the same picture has more dots: labels of 14 dots could not be read there.
-    const COLORREF ground = qv::NumberOf(palette().color(backgroundRole()));
+    const COLORREF ground = qv::FromQColor(palette().color(backgroundRole()));
     QPainter painter(&surface);
     qv::PainterCanvas canvas(painter);
     m_dial->Paint(canvas, width(), height(), {ground, qv::InkOn(ground)});

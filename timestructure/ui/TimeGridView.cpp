@@ -40,7 +40,7 @@ void TimeGridView::paintEvent(QPaintEvent*) {
     return;
   }
   {
-    m_picture.ground = NumberOf(palette().color(backgroundRole()));
+    m_picture.ground = FromQColor(palette().color(backgroundRole()));
     m_picture.ink = InkOn(m_picture.ground);
     QPainter painter(&surface);
     PainterCanvas canvas(painter);

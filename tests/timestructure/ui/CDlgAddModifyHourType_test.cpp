@@ -22,7 +22,7 @@ TEST_F(HourTypeEditor, ShowsNameColourAndTexts) {
   const int result = Run(Hour(L"day"), [&] {
     EXPECT_EQ(Edit(nameEdit)->text(), "day");
     EXPECT_EQ(Edit(valueEdit)->text(), "7");
-    EXPECT_EQ(Swatch()->Colour(), 0x0000FFU);
+    EXPECT_EQ(Swatch()->ShownColour(), 0x0000FFU);
     EXPECT_EQ(TopWindow()->windowTitle(), TextOf(475));
     EXPECT_EQ(Swatch()->accessibleName(), TextOf(411));
     EXPECT_EQ(Edit(nameEdit)->accessibleName(), TextOf(355));
@@ -120,11 +120,11 @@ TEST_F(HourTypeEditor, AClickAndSpaceChooseAColour) {
   Run(Hour(L"day"), [&] {
     ChooseNextColour(QColor(0, 128, 0));
     Click(swatch);
-    EXPECT_EQ(Swatch()->Colour(), 0x008000U);
+    EXPECT_EQ(Swatch()->ShownColour(), 0x008000U);
     ChooseNextColour(QColor(1, 2, 3));
     Swatch()->setFocus();
     QTest::keyClick(Swatch(), Qt::Key_Space);
-    EXPECT_EQ(Swatch()->Colour(), 0x030201U);
+    EXPECT_EQ(Swatch()->ShownColour(), 0x030201U);
     Click(IDOK);
   });
   EXPECT_EQ(Hour(L"day").Value(L"color"), L"030201");
@@ -135,7 +135,7 @@ TEST_F(HourTypeEditor, ACancelledChoiceOfColourChangesNothing) {
   Run(Hour(L"day"), [&] {
     ChooseNextColour(QColor(0, 128, 0), false);
     Click(swatch);
-    EXPECT_EQ(Swatch()->Colour(), 0x0000FFU);
+    EXPECT_EQ(Swatch()->ShownColour(), 0x0000FFU);
     Click(IDOK);
   });
   EXPECT_FALSE(modified);
@@ -170,7 +170,7 @@ TEST_F(HourTypeEditor, AnotherOnesColourIsAskedAboutAndNoKeepsIt) {
     Click(swatch);
     AnswerNextBox(465, QMessageBox::No);
     Click(IDOK);
-    EXPECT_EQ(Swatch()->Colour(), 0xFF0000U);
+    EXPECT_EQ(Swatch()->ShownColour(), 0xFF0000U);
     AnswerNextBox(465, QMessageBox::Yes);
     Click(IDOK);
   });

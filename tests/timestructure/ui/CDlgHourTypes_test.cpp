@@ -210,7 +210,7 @@ TEST_F(HourTypeList, AddingWithAnothersColourCanBeGivenUp) {
       Click(swatch);
       AnswerNextBox(465, QMessageBox::No);
       Click(IDOK);
-      EXPECT_EQ(Swatch()->Colour(), 0x0000FFU);
+      EXPECT_EQ(Swatch()->ShownColour(), 0x0000FFU);
       Click(IDCANCEL);
     });
     Click(addButton);

@@ -13,7 +13,7 @@
 
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FakeHost.h"
-#include "toolkit/ColorSwatch.h"
+#include "toolkit/ColourSwatch.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Types.h"
 #include "tools/XmlDocument.h"
@@ -48,7 +48,7 @@ class HourTypesFixture : public testing::Test {
   }
 
   static QLineEdit* Edit(int id) { return qobject_cast<QLineEdit*>(TopControl(id)); }
-  static ColorSwatch* Swatch() { return qobject_cast<ColorSwatch*>(TopControl(swatch)); }
+  static ColourSwatch* Swatch() { return qobject_cast<ColourSwatch*>(TopControl(swatch)); }
 
   static void Type(int id, const QString& text) {
     Edit(id)->setFocus();

@@ -1,4 +1,4 @@
-#include "toolkit/ColorSwatch.h"
+#include "toolkit/ColourSwatch.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +12,9 @@
 namespace qv {
 namespace {
 
-class ColorSwatchTest : public ::testing::Test {
+class ColourSwatchTest : public ::testing::Test {
  protected:
-  ColorSwatchTest() {
+  ColourSwatchTest() {
     m_swatch.resize(30, 20);
     m_swatch.show();
     m_swatch.activateWindow();
@@ -24,20 +24,20 @@ class ColorSwatchTest : public ::testing::Test {
 
   QImage Picture() { return m_swatch.grab().toImage(); }
 
-  ColorSwatch m_swatch;
+  ColourSwatch m_swatch;
 };
 
-TEST_F(ColorSwatchTest, IsWhiteAtFirst) { EXPECT_EQ(m_swatch.Colour(), 0xFFFFFFU); }
+TEST_F(ColourSwatchTest, IsWhiteAtFirst) { EXPECT_EQ(m_swatch.ShownColour(), 0xFFFFFFU); }
 
-TEST_F(ColorSwatchTest, ShowsItsColourInAThinFrame) {
+TEST_F(ColourSwatchTest, ShowsItsColourInAThinFrame) {
   m_swatch.clearFocus();
   m_swatch.SetColour(0x0000FF);
-  EXPECT_EQ(m_swatch.Colour(), 0x0000FFU);
+  EXPECT_EQ(m_swatch.ShownColour(), 0x0000FFU);
   EXPECT_EQ(CountPixels(Picture(), Qt::red), 28 * 18);
   EXPECT_NE(Picture().pixelColor(0, 0), QColor(Qt::red));
 }
 
-TEST_F(ColorSwatchTest, FrameSetsOffTheColourOfTheGround) {
+TEST_F(ColourSwatchTest, FrameSetsOffTheColourOfTheGround) {
   m_swatch.clearFocus();
   const QColor ground = m_swatch.palette().color(QPalette::Window);
   m_swatch.SetColour(0xFFFFFF);
@@ -45,14 +45,14 @@ TEST_F(ColorSwatchTest, FrameSetsOffTheColourOfTheGround) {
   EXPECT_NE(Picture().pixelColor(0, 10), QColor(Qt::white));
 }
 
-TEST_F(ColorSwatchTest, FocusIsVisible) {
+TEST_F(ColourSwatchTest, FocusIsVisible) {
   ASSERT_TRUE(m_swatch.hasFocus());
   const QImage focused = Picture();
   m_swatch.clearFocus();
   EXPECT_NE(Picture(), focused);
 }
 
-TEST_F(ColorSwatchTest, ClickAndSpaceTell) {
+TEST_F(ColourSwatchTest, ClickAndSpaceTell) {
   const QSignalSpy clicks(&m_swatch, &QAbstractButton::clicked);
   QTest::mouseClick(&m_swatch, Qt::LeftButton);
   EXPECT_EQ(clicks.count(), 1);
@@ -60,7 +60,7 @@ TEST_F(ColorSwatchTest, ClickAndSpaceTell) {
   EXPECT_EQ(clicks.count(), 2);
 }
 
-TEST_F(ColorSwatchTest, ReturnIsLeftToTheDialog) {
+TEST_F(ColourSwatchTest, ReturnIsLeftToTheDialog) {
   const QSignalSpy clicks(&m_swatch, &QAbstractButton::clicked);
   QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
   press.accept();
@@ -69,9 +69,9 @@ TEST_F(ColorSwatchTest, ReturnIsLeftToTheDialog) {
   EXPECT_EQ(clicks.count(), 0);
 }
 
-TEST_F(ColorSwatchTest, TabReachesIt) { EXPECT_TRUE(m_swatch.focusPolicy() & Qt::TabFocus); }
+TEST_F(ColourSwatchTest, TabReachesIt) { EXPECT_TRUE(m_swatch.focusPolicy() & Qt::TabFocus); }
 
-TEST_F(ColorSwatchTest, HasTheNameItIsGiven) {
+TEST_F(ColourSwatchTest, HasTheNameItIsGiven) {
   m_swatch.setAccessibleName(QStringLiteral("Colour"));
   const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&m_swatch);
   ASSERT_NE(accessible, nullptr);
@@ -79,7 +79,7 @@ TEST_F(ColorSwatchTest, HasTheNameItIsGiven) {
   EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Colour"));
 }
 
-TEST_F(ColorSwatchTest, TooSmallForAColourItIsAllFrame) {
+TEST_F(ColourSwatchTest, TooSmallForAColourItIsAllFrame) {
   m_swatch.clearFocus();
   m_swatch.SetColour(0x0000FF);
   m_swatch.resize(2, 2);

@@ -2,21 +2,21 @@
 
 #include <QAbstractButton>
 
-#include "toolkit/Types.h"
+#include "tools/Colour.h"
 
 namespace qv {
 
 /// A field that shows a colour. A click and the Space key emit `clicked`. Its accessible name is
 /// up to the dialog, since a colour has none.
-class ColorSwatch : public QAbstractButton {
+class ColourSwatch : public QAbstractButton {
   Q_OBJECT
 
  public:
-  explicit ColorSwatch(QWidget* parent = nullptr);
+  explicit ColourSwatch(QWidget* parent = nullptr);
 
   /// The colour on show, white at first.
-  COLORREF Colour() const { return m_colour; }
-  void SetColour(COLORREF colour);
+  Colour ShownColour() const { return m_colour; }
+  void SetColour(Colour colour);
 
   QSize sizeHint() const override;
 
@@ -24,7 +24,7 @@ class ColorSwatch : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  COLORREF m_colour = 0xFFFFFF;
+  Colour m_colour = 0xFFFFFF;
 };
 
 }  // namespace qv

@@ -1,4 +1,4 @@
-#include "toolkit/ColorSwatch.h"
+#include "toolkit/ColourSwatch.h"
 
 #include <QPainter>
 
@@ -15,18 +15,18 @@ constexpr int frameAlpha = 110;
 
 }  // namespace
 
-ColorSwatch::ColorSwatch(QWidget* parent) : QAbstractButton(parent) {
+ColourSwatch::ColourSwatch(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::StrongFocus);
 }
 
-void ColorSwatch::SetColour(COLORREF colour) {
+void ColourSwatch::SetColour(Colour colour) {
   m_colour = colour;
   update();
 }
 
-QSize ColorSwatch::sizeHint() const { return naturalSize; }
+QSize ColourSwatch::sizeHint() const { return naturalSize; }
 
-void ColorSwatch::paintEvent(QPaintEvent*) {
+void ColourSwatch::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   QColor frame = palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText);
   frame.setAlpha(hasFocus() ? opaque : frameAlpha);

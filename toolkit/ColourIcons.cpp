@@ -1,4 +1,4 @@
-#include "toolkit/ColorIcons.h"
+#include "toolkit/ColourIcons.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -9,10 +9,10 @@ namespace qv {
 
 namespace {
 
-constexpr COLORREF white = 0xFFFFFF;
-constexpr COLORREF black = 0;
+constexpr Colour white = 0xFFFFFF;
+constexpr Colour black = 0;
 
-COLORREF MaskColour(COLORREF colour) { return colour == white ? black : white; }
+Colour MaskColour(Colour colour) { return colour == white ? black : white; }
 
 }  // namespace
 
@@ -22,12 +22,12 @@ QSize SmallIconSize(const QWidget* widget) {
   return {side, side};
 }
 
-QIcon ColorIcon(COLORREF colour, QSize size) {
+QIcon ColourIcon(Colour colour, QSize size) {
   QPixmap box;
   if (!PaintBox(&box, colour, size.width(), size.height())) {
     return {};
   }
-  if (ColourOf(colour) == ColourOf(MaskColour(colour))) {
+  if (ToQColor(colour) == ToQColor(MaskColour(colour))) {
     box.fill(Qt::transparent);
   }
   QIcon icon(box);

@@ -4,7 +4,7 @@
 #include <QSize>
 #include <QWidget>
 
-#include "toolkit/Types.h"
+#include "tools/Colour.h"
 
 namespace qv {
 
@@ -14,6 +14,6 @@ QSize SmallIconSize(const QWidget* widget);
 /// The colour box of a list row or combo entry. It is made with a mask colour, white, whose pixels
 /// are transparent; a box that is itself white (0xFFFFFF) has black for its mask colour and so
 /// stays visible. A selected row doesn't tint it. An empty size gives a null icon.
-QIcon ColorIcon(COLORREF colour, QSize size);
+QIcon ColourIcon(Colour colour, QSize size);
 
 }  // namespace qv
