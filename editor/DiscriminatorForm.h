@@ -4,7 +4,7 @@
 #include <initializer_list>
 
 #include "discriminator/DiscriminatorDocument.h"
-#include "discriminator/EditorEnd.h"
+#include "host/EditorEnd.h"
 #include "host/Host.h"
 #include "host/Prompter.h"
 #include "tools/Files.h"

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <optional>
 
+#include "discriminator/DayMinutes.h"
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
-#include "timestructure/DayMinutes.h"
 #include "tools/Nodes.h"
 
 namespace qv {

@@ -1,8 +1,8 @@
 #include "timestructure/DayTypeForm.h"
 
 #include "discriminator/Fields.h"
+#include "discriminator/NewChildNode.h"
 #include "discriminator/ValueForms.h"
-#include "timestructure/NewChildNode.h"
 #include "tools/XmlDocument.h"
 
 namespace qv {

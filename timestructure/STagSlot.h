@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "timestructure/DayMinutes.h"
+#include "discriminator/DayMinutes.h"
 #include "tools/Colour.h"
 
 namespace qv {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "timestructure/DayMinutes.h"
+#include "discriminator/DayMinutes.h"
 #include "tools/Canvas.h"
 
 namespace qv {

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "discriminator/Fields.h"
+#include "discriminator/NewChildNode.h"
 #include "discriminator/ValueForms.h"
-#include "timestructure/NewChildNode.h"
 #include "timestructure/TimeGrid.h"
 #include "tools/Guid.h"
 #include "tools/Nodes.h"

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "discriminator/DayMinutes.h"
 #include "host/Prompter.h"
-#include "timestructure/DayMinutes.h"
 #include "timestructure/TypeList.h"
 #include "tools/Colour.h"
 #include "tools/XmlNode.h"

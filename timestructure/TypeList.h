@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "discriminator/EditorEnd.h"
+#include "host/EditorEnd.h"
 #include "tools/Colour.h"
 #include "tools/XmlNode.h"
 

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "apps/qvdisc/Check.h"
+#include "discriminator/DayMinutes.h"
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
-#include "timestructure/DayMinutes.h"
 #include "timestructure/DaySlots.h"
 #include "tools/Format.h"
 #include "tools/Nodes.h"

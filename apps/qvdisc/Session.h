@@ -11,12 +11,12 @@
 #include "apps/qvdisc/StreamClipboard.h"
 #include "apps/qvdisc/Surroundings.h"
 #include "apps/qvdisc/UserPrompter.h"
-#include "discriminator/DiscriminatorList.h"
 #include "hostkit/Configuration.h"
 #include "hostkit/DirectorySetup.h"
 #include "hostkit/GuidNotices.h"
 #include "hostkit/IndexFiles.h"
 #include "hostkit/LanguageFile.h"
+#include "manager/DiscriminatorList.h"
 
 namespace qvdisc {
 

@@ -9,11 +9,11 @@
 
 #include "apps/qvdisc/Check.h"
 #include "apps/qvdisc/Words.h"
-#include "discriminator/ClipboardPayload.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
 #include "discriminator/IndexDocument.h"
 #include "editor/DiscriminatorForm.h"
+#include "manager/ClipboardPayload.h"
 #include "tools/Names.h"
 
 namespace qvdisc {

@@ -33,7 +33,10 @@ const std::map<std::string, Folders>& AllowedFolders() {
     for (const char* subsystem : {"timestructure", "calendar", "conditions", "variables"}) {
       add(subsystem, {"discriminator"});
     }
-    add("editor", {"timestructure", "calendar", "conditions", "variables"});
+    for (const char* whole : {"editor", "checks"}) {
+      add(whole, {"timestructure", "calendar", "conditions", "variables"});
+    }
+    add("manager", {"editor", "checks"});
     add("hostkit", {"discriminator"});
     add("toolkit", {"host"});
     add("timestructure/ui", {"timestructure", "toolkit"});
@@ -41,11 +44,11 @@ const std::map<std::string, Folders>& AllowedFolders() {
     add("conditions/ui", {"conditions", "toolkit"});
     add("variables/ui", {"variables", "toolkit"});
     add("editor/ui", {"editor", "timestructure/ui", "calendar/ui", "conditions/ui", "toolkit"});
-    add("discriminator/ui", {"discriminator", "editor/ui", "toolkit"});
+    add("manager/ui", {"manager", "editor/ui", "toolkit"});
     add("hostkit/ui", {"hostkit"});
-    add("library", {"discriminator/ui", "calendar/ui", "variables/ui", "timestructure/ui"});
+    add("library", {"manager/ui", "calendar/ui", "variables/ui", "timestructure/ui"});
     add("apps/configurator", {"library", "hostkit/ui"});
-    add("apps/qvdisc", {"editor", "hostkit"});
+    add("apps/qvdisc", {"manager", "hostkit"});
     return table;
   }();
   return allowed;

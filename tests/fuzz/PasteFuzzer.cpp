@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "discriminator/DiscriminatorList.h"
+#include "manager/DiscriminatorList.h"
 #include "tests/fuzz/Demand.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"

@@ -5,7 +5,6 @@
 
 #include "timestructure/ui/CDlgAddModifyTimeSlot.h"
 #include "timestructure/ui/QVDayCtrl.h"
-#include "timestructure/ui/SwatchRow.h"
 #include "toolkit/AskColour.h"
 #include "toolkit/ColourSwatch.h"
 #include "toolkit/Controls.h"
@@ -16,6 +15,7 @@
 #include "toolkit/ReportList.h"
 #include "toolkit/RunDialog.h"
 #include "toolkit/Strings.h"
+#include "toolkit/SwatchRow.h"
 #include "toolkit/Texts.h"
 #include "ui_1303.h"
 

@@ -3,13 +3,13 @@
 #include <QLineEdit>
 
 #include "host/Installation.h"
-#include "timestructure/ui/SwatchRow.h"
 #include "toolkit/AskColour.h"
 #include "toolkit/ColourSwatch.h"
 #include "toolkit/LimitTyping.h"
 #include "toolkit/OkCancel.h"
 #include "toolkit/QVLayout.h"
 #include "toolkit/Strings.h"
+#include "toolkit/SwatchRow.h"
 #include "toolkit/Texts.h"
 #include "ui_1305.h"
 

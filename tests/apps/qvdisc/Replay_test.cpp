@@ -6,12 +6,12 @@
 #include <nlohmann/json.hpp>
 #include <random>
 
-#include "discriminator/DiscriminatorList.h"
 #include "discriminator/FileNames.h"
 #include "editor/DiscriminatorForm.h"
 #include "hostkit/Configuration.h"
 #include "hostkit/DirectorySetup.h"
 #include "hostkit/IndexFiles.h"
+#include "manager/DiscriminatorList.h"
 #include "tests/apps/qvdisc/CommandLine.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"

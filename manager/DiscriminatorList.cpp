@@ -1,13 +1,13 @@
-#include "discriminator/DiscriminatorList.h"
+#include "manager/DiscriminatorList.h"
 
 #include <algorithm>
 
-#include "discriminator/ClipboardPayload.h"
 #include "discriminator/DeviceLinks.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
 #include "discriminator/IndexDocument.h"
 #include "host/Installation.h"
+#include "manager/ClipboardPayload.h"
 #include "tools/Format.h"
 #include "tools/Guid.h"
 #include "tools/Names.h"

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <set>
 
-#include "discriminator/ClipboardPayload.h"
-#include "discriminator/DiscriminatorList.h"
+#include "manager/ClipboardPayload.h"
+#include "manager/DiscriminatorList.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "discriminator/DiscriminatorFile.h"
-#include "discriminator/EditorEnd.h"
+#include "host/EditorEnd.h"
 #include "host/Host.h"
 #include "host/Progress.h"
 #include "host/Prompter.h"

@@ -9,7 +9,7 @@
 #include <QTimer>
 #include <map>
 
-#include "tests/discriminator/ui/ManagerFixture.h"
+#include "tests/manager/ui/ManagerFixture.h"
 
 namespace qv {
 namespace {

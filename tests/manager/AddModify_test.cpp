@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "discriminator/DiscriminatorList.h"
+#include "manager/DiscriminatorList.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"

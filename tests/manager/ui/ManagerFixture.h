@@ -9,7 +9,7 @@
 #include <QTreeWidget>
 #include <functional>
 
-#include "discriminator/ui/CDlgSetupDiscriminators.h"
+#include "manager/ui/CDlgSetupDiscriminators.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FakeHost.h"
 #include "toolkit/Strings.h"

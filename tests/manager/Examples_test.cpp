@@ -7,8 +7,8 @@
 #include <sstream>
 #include <string>
 
-#include "discriminator/DiscriminatorList.h"
 #include "discriminator/FileNames.h"
+#include "manager/DiscriminatorList.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"

@@ -1,4 +1,4 @@
-#include "discriminator/ClipboardPayload.h"
+#include "manager/ClipboardPayload.h"
 
 #include <numeric>
 #include <string>

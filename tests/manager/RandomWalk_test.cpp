@@ -7,11 +7,11 @@
 #include <random>
 #include <set>
 
-#include "discriminator/DiscriminatorList.h"
 #include "discriminator/FileNames.h"
 #include "editor/DiscriminatorForm.h"
 #include "hostkit/IndexFiles.h"
-#include "tests/editor/UsersTree.h"
+#include "manager/DiscriminatorList.h"
+#include "tests/manager/UsersTree.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"

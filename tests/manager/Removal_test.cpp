@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "discriminator/DeviceLinks.h"
-#include "discriminator/DiscriminatorList.h"
+#include "manager/DiscriminatorList.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"

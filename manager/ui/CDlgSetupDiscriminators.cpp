@@ -1,10 +1,10 @@
-#include "discriminator/ui/CDlgSetupDiscriminators.h"
+#include "manager/ui/CDlgSetupDiscriminators.h"
 
 #include <QHeaderView>
 #include <QMenu>
 
-#include "discriminator/DiscriminatorList.h"
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
+#include "manager/DiscriminatorList.h"
 #include "toolkit/Caption.h"
 #include "toolkit/MaskedIcon.h"
 #include "toolkit/MessageBoxes.h"

@@ -1,4 +1,4 @@
-#include "discriminator/DiscriminatorList.h"
+#include "manager/DiscriminatorList.h"
 
 #include <gtest/gtest.h>
 

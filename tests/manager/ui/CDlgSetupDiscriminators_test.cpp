@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "tests/discriminator/ui/ManagerFixture.h"
+#include "tests/manager/ui/ManagerFixture.h"
 #include "toolkit/ProgressDialog.h"
 
 namespace qv {
