@@ -1,7 +1,7 @@
 #pragma once
 
-#include <initializer_list>
 #include <string_view>
+#include <vector>
 
 #include "host/Export.h"
 #include "host/Text.h"
@@ -13,14 +13,14 @@ namespace qv {
 /// The dialogs show modal boxes, the command line writes, tests follow a script.
 class QVHOST_EXPORT Prompter {
  public:
-  using Arguments = std::initializer_list<FormatArgument>;
+  using Arguments = std::vector<FormatArgument>;
 
   virtual ~Prompter() = default;
 
   /// Shows the text, with its placeholders filled in.
-  virtual void Show(Text text, Arguments arguments = {}) = 0;
+  virtual void Show(Text text, const Arguments& arguments = {}) = 0;
   /// Asks the text as a question; true for Yes.
-  virtual bool Ask(Text text, Arguments arguments = {}) = 0;
+  virtual bool Ask(Text text, const Arguments& arguments = {}) = 0;
   /// Shows a text that has no number, as it stands.
   virtual void ShowText(std::wstring_view text) = 0;
 };

@@ -16,14 +16,14 @@ constexpr char textNumberProperty[] = "textNumber";
 MessageBoxes::MessageBoxes(QWidget* window, const QVLoadString& loadString)
     : m_window(window), m_loadString(loadString) {}
 
-void MessageBoxes::Show(Text text, Arguments arguments) {
+void MessageBoxes::Show(Text text, const Arguments& arguments) {
   QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, m_window);
   box.setProperty(textNumberProperty, Number(text));
   Prepare(box, Worded(text, arguments));
   box.exec();
 }
 
-bool MessageBoxes::Ask(Text text, Arguments arguments) {
+bool MessageBoxes::Ask(Text text, const Arguments& arguments) {
   QMessageBox box(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, m_window);
   box.setProperty(textNumberProperty, Number(text));
   box.setDefaultButton(QMessageBox::Yes);
@@ -38,11 +38,10 @@ void MessageBoxes::ShowText(std::wstring_view text) {
   box.exec();
 }
 
-QString MessageBoxes::Worded(Text text, Arguments arguments) const {
+QString MessageBoxes::Worded(Text text, const Arguments& arguments) const {
   const QVWideString wording = m_loadString.Load(text);
   // A text without arguments is no format: its per cent signs stand for themselves.
-  return arguments.size() == 0 ? ToQString(wording)
-                               : ToQString(Format(wording.ToView(), arguments));
+  return arguments.empty() ? ToQString(wording) : ToQString(Format(wording.ToView(), arguments));
 }
 
 void MessageBoxes::Prepare(QMessageBox& box, const QString& text) const {

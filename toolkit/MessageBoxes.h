@@ -16,13 +16,13 @@ class MessageBoxes : public Prompter {
  public:
   MessageBoxes(QWidget* window, const QVLoadString& loadString);
 
-  void Show(Text text, Arguments arguments = {}) override;
+  void Show(Text text, const Arguments& arguments = {}) override;
   /// Anything but Yes counts as No, closing the box included.
-  bool Ask(Text text, Arguments arguments = {}) override;
+  bool Ask(Text text, const Arguments& arguments = {}) override;
   void ShowText(std::wstring_view text) override;
 
  private:
-  QString Worded(Text text, Arguments arguments) const;
+  QString Worded(Text text, const Arguments& arguments) const;
   void Prepare(QMessageBox& box, const QString& text) const;
   void Rename(QMessageBox& box, int button, Text caption) const;
 

@@ -70,6 +70,10 @@ std::wstring FormatArgument::Converted(wchar_t conversion, std::size_t width, wc
 }
 
 std::wstring Format(std::wstring_view format, std::initializer_list<FormatArgument> arguments) {
+  return Format(format, std::span<const FormatArgument>(arguments.begin(), arguments.size()));
+}
+
+std::wstring Format(std::wstring_view format, std::span<const FormatArgument> arguments) {
   std::wstring out;
   auto next = arguments.begin();
   while (!format.empty()) {

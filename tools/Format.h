@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -38,5 +39,8 @@ class QVTOOLS_EXPORT FormatArgument {
 /// from a file is ever used as a format by the C library.
 QVTOOLS_EXPORT std::wstring Format(std::wstring_view format,
                                    std::initializer_list<FormatArgument> arguments);
+/// The same with arguments that were gathered before.
+QVTOOLS_EXPORT std::wstring Format(std::wstring_view format,
+                                   std::span<const FormatArgument> arguments);
 
 }  // namespace qv

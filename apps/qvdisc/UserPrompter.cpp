@@ -18,7 +18,7 @@ UserPrompter::UserPrompter(const Surroundings& surroundings, const QVLoadString&
       m_language(language),
       m_outcome(outcome) {}
 
-void UserPrompter::Show(Text text, Arguments arguments) {
+void UserPrompter::Show(Text text, const Arguments& arguments) {
   Tell(Number(text), Worded(text, arguments));
 }
 
@@ -29,7 +29,7 @@ void UserPrompter::Tell(unsigned number, const std::wstring& text) {
   m_surroundings.err << Utf8(text) << '\n';
 }
 
-bool UserPrompter::Ask(Text text, Arguments arguments) {
+bool UserPrompter::Ask(Text text, const Arguments& arguments) {
   const std::wstring question = Worded(text, arguments);
   m_surroundings.err << Utf8(question) << ' ';
   const auto answer = AnswerTo(question);
@@ -63,7 +63,7 @@ std::optional<bool> UserPrompter::AnswerTo(const std::wstring& question) const {
   return false;
 }
 
-std::wstring UserPrompter::Worded(Text text, Arguments arguments) const {
+std::wstring UserPrompter::Worded(Text text, const Arguments& arguments) const {
   return qv::Format(m_texts.Load(text).ToView(), arguments);
 }
 

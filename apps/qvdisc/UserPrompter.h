@@ -19,12 +19,12 @@ class UserPrompter : public qv::Prompter {
   UserPrompter(const Surroundings& surroundings, const QVLoadString& texts,
                std::optional<bool> answer, qv::Language language, Outcome& outcome);
 
-  void Show(Text text, Arguments arguments = {}) override;
-  bool Ask(Text text, Arguments arguments = {}) override;
+  void Show(Text text, const Arguments& arguments = {}) override;
+  bool Ask(Text text, const Arguments& arguments = {}) override;
   void ShowText(std::wstring_view text) override;
 
  private:
-  std::wstring Worded(Text text, Arguments arguments) const;
+  std::wstring Worded(Text text, const Arguments& arguments) const;
   void Tell(unsigned number, const std::wstring& text);
   std::optional<bool> AnswerTo(const std::wstring& question) const;
 

@@ -14,8 +14,8 @@ namespace {
 /// A user who confirms whatever is said.
 class Silent : public qv::Prompter {
  public:
-  void Show(Text, Arguments) override {}
-  bool Ask(Text, Arguments) override { return true; }
+  void Show(Text, const Arguments&) override {}
+  bool Ask(Text, const Arguments&) override { return true; }
   void ShowText(std::wstring_view) override {}
 };
 

@@ -16,7 +16,7 @@ std::string Description(const ScriptedPrompter::Said& said) {
   return (said.isQuestion ? "the question " : "the message ") + std::to_string(Number(*said.text));
 }
 
-std::vector<std::wstring> Shown(Prompter::Arguments arguments) {
+std::vector<std::wstring> Shown(const Prompter::Arguments& arguments) {
   std::vector<std::wstring> shown;
   for (const FormatArgument& argument : arguments) {
     shown.push_back(argument.Converted(L'd', 0, L' '));
@@ -52,11 +52,11 @@ void ScriptedPrompter::ExpectText(std::wstring words) {
   m_script.push_back({{std::nullopt, false, {}, std::move(words)}, false});
 }
 
-void ScriptedPrompter::Show(Text text, Arguments arguments) {
+void ScriptedPrompter::Show(Text text, const Arguments& arguments) {
   Hear({text, false, Shown(arguments), {}});
 }
 
-bool ScriptedPrompter::Ask(Text text, Arguments arguments) {
+bool ScriptedPrompter::Ask(Text text, const Arguments& arguments) {
   return Hear({text, true, Shown(arguments), {}});
 }
 

@@ -40,9 +40,9 @@ class ScriptedPrompter : public Prompter {
   void ExpectAsk(Text text, bool answer);
   void ExpectText(std::wstring words);
 
-  void Show(Text text, Arguments arguments = {}) override;
+  void Show(Text text, const Arguments& arguments = {}) override;
   /// Answers as the script says, and No to what it doesn't expect.
-  bool Ask(Text text, Arguments arguments = {}) override;
+  bool Ask(Text text, const Arguments& arguments = {}) override;
   void ShowText(std::wstring_view words) override;
 
   /// All that was said, expected or not, in order.

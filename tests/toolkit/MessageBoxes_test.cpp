@@ -30,7 +30,8 @@ class MessageBoxesTest : public testing::Test {
     return Drive([this] { return boxes.Ask(Text::RemoveDiscriminatorsQuestion); }, script) != 0;
   }
 
-  void ShowAnd(Text text, Prompter::Arguments arguments, const std::function<void()>& script) {
+  void ShowAnd(Text text, const Prompter::Arguments& arguments,
+               const std::function<void()>& script) {
     Drive([&] { return boxes.Show(text, arguments), 0; }, script);
   }
 

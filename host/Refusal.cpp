@@ -1,0 +1,14 @@
+#include "host/Refusal.h"
+
+namespace qv {
+
+void Tell(Prompter& prompter, const Refusal& refusal) {
+  if (refusal.text) {
+    const std::vector<FormatArgument> arguments(refusal.arguments.begin(), refusal.arguments.end());
+    prompter.Show(*refusal.text, arguments);
+  } else {
+    prompter.ShowText(refusal.words);
+  }
+}
+
+}  // namespace qv
