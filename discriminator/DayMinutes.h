@@ -5,6 +5,8 @@ namespace qv {
 inline constexpr int hoursOfDay = 24;
 inline constexpr int minutesOfHour = 60;
 inline constexpr int minutesOfDay = hoursOfDay * minutesOfHour;
+/// The step in which a mouse selects times.
+inline constexpr int minutesOfQuarter = 15;
 
 /// Minutes of a day, counted from 00:00, the end exclusive.
 struct MinuteRange {

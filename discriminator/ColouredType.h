@@ -1,0 +1,26 @@
+#pragma once
+
+#include "discriminator/NewChildNode.h"
+#include "tools/Colour.h"
+#include "tools/XmlNode.h"
+
+namespace qv {
+
+/// An hour type or a day type as lists show it.
+struct ColouredType {
+  XmlNode* node = nullptr;
+  QVWideString name;
+  Colour colour = 0;
+};
+
+/// What `type` is called and which colour it has; a colour that is missing or wrong is black.
+ColouredType ReadColouredType(XmlNode& type);
+
+/// A new type without a name, white, under an id of its own, at the end of its container, which
+/// outlives it. It goes again unless it is kept.
+NewChildNode NewWhiteType(XmlNode& container, const wchar_t* tag);
+
+/// The hour type of a slot, by its id, or null if there is none or `hourTypes` is null.
+const XmlNode* HourTypeOfSlot(const XmlNode& slot, const XmlNode* hourTypes);
+
+}  // namespace qv
