@@ -4,6 +4,7 @@
 
 #include "discriminator/DeviceLinks.h"
 #include "discriminator/DiscriminatorFile.h"
+#include "discriminator/EditedCopies.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
 #include "discriminator/ValueForms.h"
@@ -13,22 +14,28 @@
 
 namespace qv {
 
-DiscriminatorForm::DiscriminatorForm(const Surroundings& surroundings, const QVWideString* filePath)
-    : m_surroundings(surroundings) {
-  m_document.Create(tag::Main);
-  if (filePath) {
-    m_filePath = *filePath;
-    if (!m_document.Load(m_filePath, m_surroundings.files)) {
-      return;
-    }
+std::unique_ptr<DiscriminatorForm> DiscriminatorForm::Open(const EditorServices& services,
+                                                           const QVWideString* filePath) {
+  auto document = std::make_unique<XmlDocument>();
+  document->Create(tag::Main);
+  if (filePath && !document->Load(*filePath, services.files)) {
+    return nullptr;
   }
-  XmlNode& root = *m_document.Root();
-  const NormalisedDocument found = Normalise(root);
+  return std::unique_ptr<DiscriminatorForm>(
+      new DiscriminatorForm(services, filePath, std::move(document)));
+}
+
+DiscriminatorForm::DiscriminatorForm(const EditorServices& services, const QVWideString* filePath,
+                                     std::unique_ptr<XmlDocument> document)
+    : m_services(services),
+      m_document(std::move(document)),
+      m_filePath(filePath ? *filePath : QVWideString()),
+      m_typeSelectable(!IsEmbedded(services.host.mainCfg)) {
+  const NormalisedDocument found = Normalise(Content());
   m_newId = found.newId;
   m_type = found.type;
-  m_typeSelectable = !IsEmbedded(m_surroundings.host.mainCfg);
   if (!IsNew()) {
-    m_initialName = root.Value(tag::Name);
+    m_initialName = Root().Value(tag::Name);
   }
 }
 
@@ -42,113 +49,107 @@ DiscriminatorFields DiscriminatorForm::InitialFields() const {
   return fields;
 }
 
-bool DiscriminatorForm::HasSlots() const { return m_type == word::Slots; }
+DiscriminatorType DiscriminatorForm::Type() const {
+  return m_type == word::Slots ? DiscriminatorType::Slots : DiscriminatorType::Conditions;
+}
 
-void DiscriminatorForm::SelectType(int index) {
-  m_type = index != 0 ? word::Conditions : word::Slots;
-  EnsureContainers(*m_document.Root(), m_type);
+void DiscriminatorForm::SelectType(DiscriminatorType type) {
+  m_type = type == DiscriminatorType::Slots ? word::Slots : word::Conditions;
+  EnsureContainers(Content(), m_type);
 }
 
 void DiscriminatorForm::OnHourTypes(
-    const std::function<EditorEnd(XmlNode*, XmlNode*)>& runHourTypes) {
-  XmlDocument hourTypes(Part(tag::HourTypes));
-  XmlDocument dayTypes(Part(tag::DayTypes));
-  TakeBack(runHourTypes(hourTypes.Root(), dayTypes.Root()), {&dayTypes, &hourTypes});
+    const std::function<EditorEnd(HourTypes, DayTypes)>& runHourTypes) {
+  XmlNode& dayTypes = *Content().Node(tag::DayTypes);
+  XmlNode& hourTypes = *Content().Node(tag::HourTypes);
+  EditedCopies copies({&dayTypes, &hourTypes});
+  copies.TakeBack(runHourTypes(HourTypes(copies.Of(hourTypes)), DayTypes(copies.Of(dayTypes))),
+                  m_modified);
 }
 
 void DiscriminatorForm::OnDayTypes(
-    const std::function<EditorEnd(XmlNode*, XmlNode*, XmlNode*)>& runDayTypes) {
-  XmlDocument calendar(Part(tag::Calendar));
-  XmlDocument dayTypes(Part(tag::DayTypes));
-  XmlDocument hourTypes(Part(tag::HourTypes));
-  TakeBack(runDayTypes(dayTypes.Root(), calendar.Root(), hourTypes.Root()),
-           {&calendar, &dayTypes, &hourTypes});
+    const std::function<EditorEnd(DayTypes, Calendar, HourTypes)>& runDayTypes) {
+  XmlNode& calendar = *Content().Node(tag::Calendar);
+  XmlNode& dayTypes = *Content().Node(tag::DayTypes);
+  XmlNode& hourTypes = *Content().Node(tag::HourTypes);
+  EditedCopies copies({&calendar, &dayTypes, &hourTypes});
+  copies.TakeBack(runDayTypes(DayTypes(copies.Of(dayTypes)), Calendar(copies.Of(calendar)),
+                              HourTypes(copies.Of(hourTypes))),
+                  m_modified);
 }
 
-void DiscriminatorForm::TakeBack(const EditorEnd& end,
-                                 std::initializer_list<const XmlDocument*> copies) {
-  if (end.confirmed) {
-    m_modified = m_modified || end.modified;
-    for (const XmlDocument* copy : copies) {
-      Part(copy->Root()->Tag()) = *copy->Root();
-    }
+SaveEnd DiscriminatorForm::Save(const DiscriminatorFields& typed) {
+  if (auto fault = Fault(typed)) {
+    return {SaveOutcome::Refused, std::move(fault)};
   }
-}
-
-bool DiscriminatorForm::Save(const DiscriminatorFields& typed) {
-  if (!IsAccepted(typed)) {
-    return false;
-  }
-  const Host& host = m_surroundings.host;
-  CreateDirectoryW(host.setup.CfgPath(), m_surroundings.files);
-  XmlNode& root = *m_document.Root();
-  TakeOver(tag::Name, typed.name);
-  TakeOver(tag::Description, typed.description);
-  TakeOver(tag::SetZeroOutsideSlot, FlagText(typed.setZeroOutsideSlot));
-  TakeOver(tag::Type, m_type);
-  DropOtherContainers(root, m_type);
-  if (m_modified) {
-    root.SetValue(tag::Revision, NewGuidText());
-  }
+  const Host& host = m_services.host;
+  CreateDirectoryW(host.setup.CfgPath(), m_services.files);
+  TakeOver(typed);
   RemoveOldFiles();
   const bool written = WriteFile();
   if (m_newId) {
-    AddDiscriminatorToDeviceGroupsNode(m_surroundings.deviceGroups, root);
+    AddDiscriminatorToDeviceGroupsNode(m_services.deviceGroups, Root());
   }
-  if (written) {
-    // The index service is asked by the name alone, without the id.
-    host.createIndex(host.setup.CfgPath(), root.Value(tag::Name) + discriminatorExtension);
-  } else {
-    m_surroundings.prompter.Show(Text::DiscriminatorNotSaved);
+  if (!written) {
+    return {SaveOutcome::NotWritten, Refused(Text::DiscriminatorNotSaved)};
   }
-  return written;
+  // The index service is asked by the name alone, without the id.
+  host.createIndex(host.setup.CfgPath(), Root().Value(tag::Name) + discriminatorExtension);
+  return SavedOrUnchanged(m_modified);
 }
 
-bool DiscriminatorForm::IsAccepted(const DiscriminatorFields& typed) {
-  Prompter& prompter = m_surroundings.prompter;
+std::optional<Refusal> DiscriminatorForm::Fault(const DiscriminatorFields& typed) const {
   if (typed.name.Empty()) {
-    prompter.Show(Text::DiscriminatorNameMissing);
-  } else if (!IsValidId(typed.name, true) ||
-             !FitsFileName(FileStem(Root().Value(tag::Id), typed.name))) {
-    prompter.Show(Text::NameNotAllowed);
-  } else if (NameExists(typed.name)) {
-    prompter.Show(Text::DiscriminatorNameTaken);
-  } else if (typed.description.Find(L'"') != QVWideString::NotFound) {
-    prompter.Show(Text::DescriptionWithQuote);
-  } else {
-    return true;
+    return Refused(Text::DiscriminatorNameMissing);
   }
-  return false;
+  if (!IsValidId(typed.name, true) || !FitsFileName(FileStem(Root().Value(tag::Id), typed.name))) {
+    return Refused(Text::NameNotAllowed);
+  }
+  if (NameExists(typed.name)) {
+    return Refused(Text::DiscriminatorNameTaken);
+  }
+  const bool isQuoted = typed.description.Find(L'"') != QVWideString::NotFound;
+  return isQuoted ? std::optional(Refused(Text::DescriptionWithQuote)) : std::nullopt;
 }
 
 bool DiscriminatorForm::NameExists(const QVWideString& name) const {
   if (EqualUppered(name.ToView(), m_initialName.ToView())) {
     return false;
   }
-  const auto pattern = m_surroundings.host.setup.CfgPath() + discriminatorPattern;
-  const auto files = m_surroundings.files.Walk(pattern.ToView());
+  const auto pattern = m_services.host.setup.CfgPath() + discriminatorPattern;
+  const auto files = m_services.files.Walk(pattern.ToView());
   return std::any_of(files.begin(), files.end(), [&](const std::wstring& file) {
     const auto taken = NameBetweenDots(file);
     return taken && EqualUppered(*taken, name.ToView());
   });
 }
 
+void DiscriminatorForm::TakeOver(const DiscriminatorFields& typed) {
+  TakeOver(tag::Name, typed.name);
+  TakeOver(tag::Description, typed.description);
+  TakeOver(tag::SetZeroOutsideSlot, FlagText(typed.setZeroOutsideSlot));
+  TakeOver(tag::Type, m_type);
+  DropOtherContainers(Content(), m_type);
+  if (m_modified) {
+    Content().SetValue(tag::Revision, NewGuidText());
+  }
+}
+
 void DiscriminatorForm::TakeOver(const wchar_t* tag, const QVWideString& value) {
-  XmlNode& root = *m_document.Root();
-  m_modified = m_modified || root.Value(tag) != value;
-  root.SetValue(tag, value);
+  m_modified = m_modified || Root().Value(tag) != value;
+  Content().SetValue(tag, value);
 }
 
 void DiscriminatorForm::RemoveOldFiles() {
   // For a new discriminator the path is empty, and these ask for "" and for "I" in the working
   // directory.
-  m_surroundings.files.Remove(m_filePath.ToView());
-  m_surroundings.files.Remove(IndexPath(m_filePath).ToView());
+  m_services.files.Remove(m_filePath.ToView());
+  m_services.files.Remove(IndexPath(m_filePath).ToView());
 }
 
 bool DiscriminatorForm::WriteFile() {
-  const auto path = PathOfDocument(Root(), m_surroundings.host.setup.CfgPath());
-  return path && m_document.SaveAs(*path, m_surroundings.files);
+  const auto path = PathOfDocument(Root(), m_services.host.setup.CfgPath());
+  return path && m_document->SaveAs(*path, m_services.files);
 }
 
 }  // namespace qv

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "discriminator/ColouredType.h"
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
 #include "tools/Nodes.h"
@@ -16,8 +17,7 @@ constexpr int labelHeight = 14;
 
 /// The colour of a slot's hour type.
 Colour ColourOfSlot(const XmlNode& slot, const XmlNode* hourTypes) {
-  const XmlNode* hour =
-      hourTypes ? hourTypes->NodeV(L"/hour?id=%s?", slot.Value(tag::Id)) : nullptr;
+  const XmlNode* hour = HourTypeOfSlot(slot, hourTypes);
   return hour ? ColourOfText(hour->Value(tag::Color)) : red;
 }
 

@@ -1,8 +1,6 @@
 #include "timestructure/DaySlots.h"
 
-#include <algorithm>
-#include <optional>
-
+#include "discriminator/ColouredType.h"
 #include "discriminator/DayMinutes.h"
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
@@ -23,27 +21,14 @@ QVWideString NormalizeTime(const QVWideString& text) {
   return isTime ? text : QVWideString(L"00:00");
 }
 
-std::optional<Text> FaultOfTimes(TimeOfDay from, TimeOfDay to) {
-  const auto isBeyondDay = [](TimeOfDay time) {
-    return time.hours > hoursOfDay || (time.hours == hoursOfDay && time.minutes > 0);
-  };
-  if (isBeyondDay(from) || isBeyondDay(to)) {
-    return Text::SlotHourOutOfRange;
-  }
-  if (from.minutes >= minutesOfHour || to.minutes >= minutesOfHour) {
-    return Text::SlotMinuteOutOfRange;
-  }
-  return from.Minutes() > to.Minutes() ? std::optional(Text::SlotStartAfterEnd) : std::nullopt;
-}
-
-DaySlots::DaySlots(XmlNode& day, const XmlNode& hourTypes) : m_day(day), m_hourTypes(hourTypes) {}
+DaySlots::DaySlots(XmlNode& day, HourTypes hourTypes) : m_day(day), m_hourTypes(hourTypes) {}
 
 void DaySlots::Fill() {
   m_rows.clear();
   const auto slots = ChildrenWithTag(m_day, tag::Slot);
   for (auto at = slots.begin(); at != slots.end();) {
     XmlNode& slot = *at++;
-    const XmlNode* hour = m_hourTypes.NodeV(L"hour?id=%s?", slot.Value(tag::Id));
+    const XmlNode* hour = HourTypeOfSlot(slot, &m_hourTypes.Node());
     if (!hour) {
       m_day.RemoveChild(&slot);
       continue;
@@ -69,26 +54,19 @@ void DaySlots::Remove(int row) {
   }
 }
 
-bool DaySlots::CheckSlots(bool warn, Prompter& prompter) const {
-  std::vector<MinuteRange> earlier;
-  int total = 0;
+std::vector<SlotRange> DaySlots::Ranges() const {
+  std::vector<SlotRange> ranges;
   for (const SlotRow& row : m_rows) {
-    const TimeOfDay from = TimeOf(row.from);
-    const TimeOfDay to = TimeOf(row.to);
-    if (const auto fault = FaultOfTimes(from, to)) {
-      prompter.Show(*fault);
-      return false;
-    }
-    const MinuteRange slot{from.Minutes(), to.Minutes()};
-    if (std::any_of(earlier.begin(), earlier.end(),
-                    [&](const MinuteRange& other) { return slot.Overlaps(other); })) {
-      prompter.Show(Text::SlotsOverlap);
-      return false;
-    }
-    total += slot.Length();
-    earlier.push_back(slot);
+    ranges.push_back({TimeOf(row.from), TimeOf(row.to)});
   }
-  return total >= minutesOfDay || !warn || prompter.Ask(Text::DayNotCoveredQuestion);
+  return ranges;
 }
+
+std::optional<SlotFault> DaySlots::FirstFault() const {
+  const auto faults = FaultsOfSlots(Ranges());
+  return faults.empty() ? std::nullopt : std::optional(faults.front());
+}
+
+bool DaySlots::IsCovered() const { return MinutesOfSlots(Ranges()) >= minutesOfDay; }
 
 }  // namespace qv

@@ -3,8 +3,8 @@
 #include <optional>
 #include <vector>
 
-#include "discriminator/ValueForms.h"
-#include "host/Prompter.h"
+#include "discriminator/Containers.h"
+#include "timestructure/SlotFaults.h"
 #include "tools/Colour.h"
 #include "tools/XmlNode.h"
 
@@ -23,16 +23,12 @@ struct SlotRow {
 /// `text` if it has the form of a time ("07:30", any digits), and "00:00" for any other text.
 QVWideString NormalizeTime(const QVWideString& text);
 
-/// What is wrong with the times of a slot, in the order in which it is told: an hour above 24 or 24
-/// with minutes, minutes above 59, a start after its end. Nothing if they are good.
-std::optional<Text> FaultOfTimes(TimeOfDay from, TimeOfDay to);
-
 /// The slots of one day type: in its document, in the order in which they were made, and as rows.
 /// The k-th row is that of the k-th slot.
 class DaySlots {
  public:
   /// Both nodes outlive the slots.
-  DaySlots(XmlNode& day, const XmlNode& hourTypes);
+  DaySlots(XmlNode& day, HourTypes hourTypes);
 
   /// Reads the rows anew, and removes from the document, in silence, the slots whose hour type is
   /// no more. Nothing else drops a slot.
@@ -45,14 +41,16 @@ class DaySlots {
   /// Removes the row and its slot.
   void Remove(int row);
 
-  /// Whether the rows, as shown, make a day. Told is the first fault: an hour above 24 or 24 with
-  /// minutes, minutes above 59, a start after its end, two slots that overlap (slots that touch
-  /// don't). With `warn` a day with gaps is asked about; without, gaps pass.
-  bool CheckSlots(bool warn, Prompter& prompter) const;
+  /// What is wrong with the first row that is wrong, as shown; gaps are no fault.
+  std::optional<SlotFault> FirstFault() const;
+  /// Whether rows without a fault leave no minute of the day free.
+  bool IsCovered() const;
 
  private:
+  std::vector<SlotRange> Ranges() const;
+
   XmlNode& m_day;
-  const XmlNode& m_hourTypes;
+  HourTypes m_hourTypes;
   std::vector<SlotRow> m_rows;
 };
 

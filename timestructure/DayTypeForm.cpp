@@ -1,59 +1,54 @@
 #include "timestructure/DayTypeForm.h"
 
+#include "discriminator/EditedCopies.h"
 #include "discriminator/Fields.h"
 #include "discriminator/NewChildNode.h"
 #include "discriminator/ValueForms.h"
-#include "tools/XmlDocument.h"
 
 namespace qv {
 namespace {
 
-constexpr TypeIdentity::Kind kind{tag::Day, Text::DayTypeNameMissing, Text::DayTypeNameForbidden};
+constexpr TypeIdentity::Wording wording{tag::Day, Text::DayTypeNameMissing,
+                                        Text::DayTypeNameForbidden};
 constexpr wchar_t midnight[] = L"00:00";
 
 }  // namespace
 
-DayTypeForm::DayTypeForm(XmlNode& day, const XmlNode& dayTypes, XmlNode& hourTypes,
-                         Prompter& prompter)
+DayTypeForm::DayTypeForm(XmlNode& day, DayTypes dayTypes, HourTypes hourTypes, Prompter& prompter)
     : m_day(day),
       m_hourTypes(hourTypes),
       m_prompter(prompter),
-      m_identity(dayTypes, day, kind, prompter),
+      m_identity(day, dayTypes.Node(), wording, prompter),
       m_slots(day, hourTypes) {}
 
-bool DayTypeForm::ChooseColour(Colour colour) {
-  const bool isOther = m_identity.SetColour(colour);
-  m_modified = m_modified || isOther;
-  return isOther;
+std::optional<Refusal> DayTypeForm::FaultOfSlots() const {
+  const auto fault = m_slots.FirstFault();
+  return fault ? std::optional(Refused(fault->text)) : std::nullopt;
 }
 
-ListEnd DayTypeForm::OnAdd(const RunEditor& runEditor) {
+ListEnd DayTypeForm::OnAdd(const RunSlotEditor& runEditor) {
   NewChildNode slot(m_day, tag::Slot, {{tag::Id, L""}, {tag::From, midnight}, {tag::To, midnight}});
-  XmlDocument hourTypes(m_hourTypes);
-  if (!runEditor(*hourTypes.Root(), slot.Node()).confirmed) {
+  EditedCopies copies({&m_hourTypes.Node()});
+  const EditorEnd end = runEditor(slot.Node(), HourTypes(copies.Of(m_hourTypes.Node())));
+  if (!copies.TakeBack(end, m_modified)) {
     return {};
   }
   slot.Keep();
   m_modified = true;
-  m_hourTypes = *hourTypes.Root();
   Fill();
   return {true, std::nullopt};
 }
 
-ListEnd DayTypeForm::OnModify(std::optional<int> row, const RunEditor& runEditor) {
+ListEnd DayTypeForm::OnModify(std::optional<int> row, const RunSlotEditor& runEditor) {
   XmlNode* slot = row ? m_slots.SlotOfRow(*row) : nullptr;
   if (!slot) {
     return {};
   }
-  XmlDocument copy(*slot);
-  XmlDocument hourTypes(m_hourTypes);
-  const EditorEnd end = runEditor(*hourTypes.Root(), *copy.Root());
-  if (!end.confirmed) {
+  EditedCopies copies({slot, &m_hourTypes.Node()});
+  const EditorEnd end = runEditor(copies.Of(*slot), HourTypes(copies.Of(m_hourTypes.Node())));
+  if (!copies.TakeBack(end, m_modified)) {
     return {};
   }
-  m_modified = m_modified || end.modified;
-  *slot = *copy.Root();
-  m_hourTypes = *hourTypes.Root();
   Fill();
   return {true, std::nullopt};
 }
@@ -67,17 +62,20 @@ ListEnd DayTypeForm::OnRemove(std::optional<int> row) {
   return {true, RowAfterRemoval(*row, Rows().size())};
 }
 
-bool DayTypeForm::Save(const QVWideString& name) {
-  if (!m_identity.IsAccepted(name)) {
-    return false;
+SaveEnd DayTypeForm::Save(const QVWideString& name) {
+  if (auto objection = m_identity.Objection(name)) {
+    return *std::move(objection);
   }
-  m_modified = m_modified || name != Name();
-  if (!m_slots.CheckSlots(true, m_prompter)) {
-    return false;
+  m_modified = m_modified || name != m_identity.OpenedName();
+  if (auto fault = FaultOfSlots()) {
+    return {SaveOutcome::Refused, std::move(fault)};
+  }
+  if (!m_slots.IsCovered() && !m_prompter.Ask(Text::DayNotCoveredQuestion)) {
+    return {SaveOutcome::Refused};
   }
   m_day.SetValue(tag::Name, name);
-  m_day.SetValue(tag::Color, ColourText(CurrentColour()));
-  return true;
+  m_day.SetValue(tag::Color, ColourText(m_identity.CurrentColour()));
+  return SavedOrUnchanged(IsModified());
 }
 
 }  // namespace qv

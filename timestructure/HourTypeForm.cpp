@@ -6,31 +6,25 @@
 namespace qv {
 namespace {
 
-constexpr TypeIdentity::Kind kind{tag::Hour, Text::HourTypeNameMissing,
-                                  Text::HourTypeNameForbidden};
+constexpr TypeIdentity::Wording wording{tag::Hour, Text::HourTypeNameMissing,
+                                        Text::HourTypeNameForbidden};
 
 }  // namespace
 
-HourTypeForm::HourTypeForm(const XmlNode& hourTypes, XmlNode& hour, Prompter& prompter)
+HourTypeForm::HourTypeForm(XmlNode& hour, HourTypes hourTypes, Prompter& prompter)
     : m_hour(hour),
-      m_identity(hourTypes, hour, kind, prompter),
+      m_identity(hour, hourTypes.Node(), wording, prompter),
       m_openedValue(hour.Value(tag::Value)) {}
 
-bool HourTypeForm::ChooseColour(Colour colour) {
-  const bool isOther = m_identity.SetColour(colour);
-  m_modified = m_modified || isOther;
-  return isOther;
-}
-
-bool HourTypeForm::Save(const QVWideString& name, const QVWideString& value) {
-  if (!m_identity.IsAccepted(name)) {
-    return false;
+SaveEnd HourTypeForm::Save(const QVWideString& name, const QVWideString& value) {
+  if (auto objection = m_identity.Objection(name)) {
+    return *std::move(objection);
   }
-  m_modified = m_modified || name != Name() || m_identity.IsOtherColour() || value != m_openedValue;
+  m_modified = m_modified || name != m_identity.OpenedName() || value != m_openedValue;
   m_hour.SetValue(tag::Name, name);
   m_hour.SetValue(tag::Value, value);
-  m_hour.SetValue(tag::Color, ColourText(CurrentColour()));
-  return true;
+  m_hour.SetValue(tag::Color, ColourText(m_identity.CurrentColour()));
+  return SavedOrUnchanged(IsModified());
 }
 
 }  // namespace qv

@@ -100,7 +100,7 @@ std::optional<int> TimeGrid::MinuteAt(Point place) const {
   const int y = std::min(place.y - hit.top, hit.Height() - 1);
   const int column = static_cast<int>(x / (hit.Width() / static_cast<double>(hoursOfDay)));
   const int row = static_cast<int>(y / (hit.Height() * 0.25));
-  return (row + quartersOfHour * column) * quarter;
+  return (row + quartersOfHour * column) * minutesOfQuarter;
 }
 
 }  // namespace qv

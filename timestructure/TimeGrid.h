@@ -11,9 +11,6 @@ namespace qv {
 /// quarters. All of it is arithmetic on the size of the box.
 class TimeGrid {
  public:
-  /// The minutes of a cell that the mouse selects.
-  static constexpr int quarter = 15;
-
   /// What is drawn, and in which colours.
   struct Picture {
     Colour dayColour = 0xFFFFFF;  ///< ground of the grid

@@ -6,39 +6,49 @@
 
 namespace qv {
 
-TypeIdentity::TypeIdentity(const XmlNode& list, const XmlNode& type, const Kind& kind,
+TypeIdentity::TypeIdentity(const XmlNode& type, const XmlNode& list, const Wording& wording,
                            Prompter& prompter)
     : m_list(list),
-      m_kind(kind),
+      m_wording(wording),
       m_prompter(prompter),
       m_openedName(type.Value(tag::Name)),
       m_openedColour(ColourOfText(type.Value(tag::Color))),
       m_colour(m_openedColour) {}
 
-bool TypeIdentity::SetColour(Colour colour) {
+bool TypeIdentity::ChooseColour(Colour colour) {
   const bool isOther = colour != m_colour;
   m_colour = colour;
+  m_recoloured = m_recoloured || isOther;
   return isOther;
 }
 
-bool TypeIdentity::IsAccepted(const QVWideString& name) const {
-  if (name.Empty()) {
-    m_prompter.Show(m_kind.nameMissing);
-  } else if (!IsValidId(name, true)) {
-    m_prompter.Show(Text::NameNotAllowed);
-  } else if (name.ToView().find_first_of(L"\"\\,") != std::wstring_view::npos) {
-    m_prompter.Show(m_kind.nameForbidden);
-  } else if (name != m_openedName && HasOther(tag::Name, name)) {
-    m_prompter.Show(Text::TypeNameTaken);
-  } else {
-    return !IsOtherColour() || !HasOther(tag::Color, ColourText(m_colour)) ||
-           m_prompter.Ask(Text::TypeColourTaken);
+std::optional<SaveEnd> TypeIdentity::Objection(const QVWideString& name) const {
+  if (const auto fault = FaultOfName(name)) {
+    return SaveEnd{SaveOutcome::Refused, Refused(*fault)};
   }
-  return false;
+  const bool isTaken = m_colour != m_openedColour && HasOther(tag::Color, ColourText(m_colour));
+  if (isTaken && !m_prompter.Ask(Text::TypeColourTaken)) {
+    return SaveEnd{SaveOutcome::Refused};
+  }
+  return std::nullopt;
+}
+
+std::optional<Text> TypeIdentity::FaultOfName(const QVWideString& name) const {
+  if (name.Empty()) {
+    return m_wording.nameMissing;
+  }
+  if (!IsValidId(name, true)) {
+    return Text::NameNotAllowed;
+  }
+  if (name.ToView().find_first_of(L"\"\\,") != std::wstring_view::npos) {
+    return m_wording.nameForbidden;
+  }
+  const bool isTaken = name != m_openedName && HasOther(tag::Name, name);
+  return isTaken ? std::optional(Text::TypeNameTaken) : std::nullopt;
 }
 
 bool TypeIdentity::HasOther(const wchar_t* field, const QVWideString& value) const {
-  return m_list.NodeV(L"%s?%s=%s?", m_kind.tag, field, value) != nullptr;
+  return m_list.NodeV(L"%s?%s=%s?", m_wording.tag, field, value) != nullptr;
 }
 
 }  // namespace qv

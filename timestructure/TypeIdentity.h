@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "host/Prompter.h"
+#include "host/SaveEnd.h"
 #include "tools/Colour.h"
 #include "tools/XmlNode.h"
 
@@ -13,42 +16,44 @@ class TypeIdentity {
   /// The number of characters that may be typed into the name.
   static constexpr int longestTypedName = 128;
 
-  /// What differs between the two kinds of type.
-  struct Kind {
+  /// What differs between hour types and day types.
+  struct Wording {
     const wchar_t* tag;
     Text nameMissing;
     Text nameForbidden;
   };
 
-  /// `type` is the node that is edited, which need not lie in `list`. All but `kind` is to outlive
-  /// the identity.
-  TypeIdentity(const XmlNode& list, const XmlNode& type, const Kind& kind, Prompter& prompter);
+  /// `type` is the node that is edited, which need not lie in `list`. All but `wording` is to
+  /// outlive the identity.
+  TypeIdentity(const XmlNode& type, const XmlNode& list, const Wording& wording,
+               Prompter& prompter);
 
   const QVWideString& OpenedName() const { return m_openedName; }
   /// The colour in force.
   Colour CurrentColour() const { return m_colour; }
-  /// Takes over what the user chose; whether that is another colour.
-  bool SetColour(Colour colour);
+  /// Takes over the colour that the user chose; whether it is another one than before.
+  bool ChooseColour(Colour colour);
+  /// Whether another colour was chosen at any time, even if it came back.
+  bool IsRecoloured() const { return m_recoloured; }
 
-  bool IsOtherColour() const { return m_colour != m_openedColour; }
-
-  /// Whether the type may be called `name` and have its colour; otherwise the user has been told
-  /// why, or has said No.
+  /// Nothing if the type may be called `name` and have its colour; otherwise how its save ends.
   ///
   /// The name must not be empty, has to be good for a name, and holds no double quote, backslash or
   /// comma. Another type with exactly that name is refused, another one with that colour, as
   /// it is written, is asked about; what the type had when it was opened passes both.
-  bool IsAccepted(const QVWideString& name) const;
+  std::optional<SaveEnd> Objection(const QVWideString& name) const;
 
  private:
+  std::optional<Text> FaultOfName(const QVWideString& name) const;
   bool HasOther(const wchar_t* field, const QVWideString& value) const;
 
   const XmlNode& m_list;
-  Kind m_kind;
+  Wording m_wording;
   Prompter& m_prompter;
   QVWideString m_openedName;
   Colour m_openedColour;
   Colour m_colour;
+  bool m_recoloured = false;
 };
 
 }  // namespace qv

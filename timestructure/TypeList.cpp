@@ -2,24 +2,11 @@
 
 #include <algorithm>
 
-#include "discriminator/Fields.h"
-#include "discriminator/NewChildNode.h"
-#include "discriminator/ValueForms.h"
-#include "tools/Guid.h"
+#include "discriminator/EditedCopies.h"
 #include "tools/Names.h"
 #include "tools/Nodes.h"
-#include "tools/XmlDocument.h"
 
 namespace qv {
-namespace {
-
-constexpr wchar_t white[] = L"FFFFFF";
-
-}  // namespace
-
-std::optional<int> RowAfterRemoval(int row, std::size_t count) {
-  return count == 0 ? std::nullopt : std::optional(std::min(row, static_cast<int>(count) - 1));
-}
 
 TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(container), m_tag(tag) {
   Fill();
@@ -28,16 +15,15 @@ TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(contain
 void TypeList::Fill() {
   m_rows.clear();
   for (XmlNode& type : ChildrenWithTag(m_container, m_tag)) {
-    m_rows.push_back({&type, type.Value(tag::Name), ColourOfText(type.Value(tag::Color))});
+    m_rows.push_back(ReadColouredType(type));
   }
-  std::stable_sort(m_rows.begin(), m_rows.end(), [](const TypeRow& a, const TypeRow& b) {
+  std::stable_sort(m_rows.begin(), m_rows.end(), [](const ColouredType& a, const ColouredType& b) {
     return CompareLowered(a.name.ToView(), b.name.ToView()) < 0;
   });
 }
 
 ListEnd TypeList::OnAdd(const RunEditor& runEditor) {
-  NewChildNode added(m_container, m_tag,
-                     {{tag::Id, NewGuidText()}, {tag::Name, L""}, {tag::Color, white}});
+  NewChildNode added = NewWhiteType(m_container, m_tag);
   if (!runEditor(added.Node()).confirmed) {
     return {};
   }
@@ -52,13 +38,10 @@ ListEnd TypeList::OnModify(std::optional<int> row, const RunEditor& runEditor) {
   if (!node) {
     return {};
   }
-  XmlDocument copy(*node);
-  const EditorEnd end = runEditor(*copy.Root());
-  if (!end.confirmed) {
+  EditedCopies copies({node});
+  if (!copies.TakeBack(runEditor(copies.Of(*node)), m_modified)) {
     return {};
   }
-  m_modified = m_modified || end.modified;
-  *node = *copy.Root();
   Fill();
   return {true, row};
 }

@@ -1,46 +1,23 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <vector>
 
+#include "discriminator/ColouredType.h"
+#include "discriminator/ListEnd.h"
 #include "host/EditorEnd.h"
-#include "tools/Colour.h"
-#include "tools/XmlNode.h"
 
 namespace qv {
-
-/// A row of a list of hour types or day types.
-struct TypeRow {
-  XmlNode* node = nullptr;
-  QVWideString name;
-  Colour colour = 0;
-};
-
-/// What a list shows after a verb: nothing new, or new rows with one of them or none selected.
-struct ListEnd {
-  bool refilled = false;
-  std::optional<int> rowToSelect;
-
-  friend bool operator==(const ListEnd&, const ListEnd&) = default;
-};
-
-/// The row to select after the row `row` was removed, so that `count` are left: the one that moved
-/// to its place, or the new last one; nothing if none is left.
-std::optional<int> RowAfterRemoval(int row, std::size_t count);
 
 /// The hour types or the day types of a discriminator, as their dialog lists them: the children of
 /// a container with one tag, sorted by name. Children with other tags are left alone.
 class TypeList {
  public:
-  /// Runs the editor on a type's node.
-  using RunEditor = std::function<EditorEnd(XmlNode& type)>;
-
   /// `container` outlives the list.
   TypeList(XmlNode& container, const wchar_t* tag);
 
   /// Sorted by name without regard to case; types of equal name stand in the order of the document.
-  const std::vector<TypeRow>& Rows() const { return m_rows; }
+  const std::vector<ColouredType>& Rows() const { return m_rows; }
 
   /// Appends a new type without a name, white, and runs the editor on it. On any end but a
   /// confirmation it is removed again. Afterwards no row is selected.
@@ -64,7 +41,7 @@ class TypeList {
 
   XmlNode& m_container;
   const wchar_t* m_tag;
-  std::vector<TypeRow> m_rows;
+  std::vector<ColouredType> m_rows;
   bool m_modified = false;
 };
 

@@ -117,7 +117,7 @@ class DocumentCheck {
       Tell({.kind = FindingKind::MalformedTime, .place = place, .value = text});
       return std::nullopt;
     }
-    if (qv::FaultOfTimes(time, time)) {
+    if (qv::FaultOfTimes({time, time})) {
       Tell({.kind = FindingKind::TimeOutOfRange, .place = place, .value = text});
       return std::nullopt;
     }

@@ -105,10 +105,13 @@ void Paste(Session& session) {
   }
 }
 
-/// What could not be written stays with the user: as a payload that can be pasted again.
-void KeepUnsaved(Session& session, const DiscriminatorForm& form) {
-  const auto& texts = session.Result().texts;
-  if (!texts.empty() && texts.back().number == Number(Text::DiscriminatorNotSaved)) {
+/// Tells why it wasn't saved. What could not be written stays with the user: as a payload that can
+/// be pasted again.
+void TellUnsaved(Session& session, const DiscriminatorForm& form, const qv::SaveEnd& end) {
+  if (end.refusal) {
+    Tell(session.Prompter(), *end.refusal);
+  }
+  if (end.outcome == qv::SaveOutcome::NotWritten) {
     session.Result().unsaved = qv::ComposePayload(form.Root()).ToView();
     Fail(session, Word::ContentFollows);
   }
@@ -126,20 +129,20 @@ bool ChooseType(Session& session, DiscriminatorForm& form) {
     Fail(session, Word::TypeNotSelectable);
     return false;
   }
-  form.SelectType(*slots ? 0 : 1);
+  form.SelectType(*slots ? qv::DiscriminatorType::Slots : qv::DiscriminatorType::Conditions);
   return true;
 }
 
 /// Does what a user does in the editor: opens it, types, and presses OK.
 EditorEnd RunEditor(Session& session, qv::XmlNode* deviceGroups, const QVWideString* path) {
-  DiscriminatorForm form({session.Services(), session.Files(), session.Prompter(), deviceGroups},
-                         path);
-  if (!form.IsLoaded()) {
+  const auto form =
+      DiscriminatorForm::Open({session.Services(), session.Files(), deviceGroups}, path);
+  if (!form) {
     Fail(session, Word::DiscriminatorUnreadable, {session.Call().stems.front().c_str()});
     return {};
   }
   const FieldChanges& changes = session.Call().changes;
-  qv::DiscriminatorFields fields = form.InitialFields();
+  qv::DiscriminatorFields fields = form->InitialFields();
   if (changes.name) {
     fields.name = QVWideString(*changes.name);
   }
@@ -147,14 +150,14 @@ EditorEnd RunEditor(Session& session, qv::XmlNode* deviceGroups, const QVWideStr
     fields.description = QVWideString(*changes.description);
   }
   fields.setZeroOutsideSlot = changes.setZeroOutsideSlot.value_or(fields.setZeroOutsideSlot);
-  if (!ChooseType(session, form)) {
+  if (!ChooseType(session, *form)) {
     return {};
   }
-  const bool saved = form.Save(fields);
-  if (!saved) {
-    KeepUnsaved(session, form);
+  const qv::SaveEnd end = form->Save(fields);
+  if (!end.IsDone()) {
+    TellUnsaved(session, *form, end);
   }
-  return {saved, form.IsModified()};
+  return {end.IsDone(), form->IsModified()};
 }
 
 qv::DiscriminatorList::RunEditor EditorOf(Session& session) {

@@ -54,11 +54,10 @@ std::optional<int> CDlgAddModifyDiscriminator::OnCreate() {
     return refused;
   }
   m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
-  m_form = std::make_unique<qv::DiscriminatorForm>(
-      qv::DiscriminatorForm::Surroundings{Services(), qv::Files::Disk(), *m_boxes, m_deviceGroups},
-      m_filePath ? &*m_filePath : nullptr);
-  if (!m_form->IsLoaded()) {
-    OnDestroy();
+  m_form = qv::DiscriminatorForm::Open({Services(), qv::Files::Disk(), m_deviceGroups},
+                                       m_filePath ? &*m_filePath : nullptr);
+  if (!m_form) {
+    m_boxes.reset();
     return IDCANCEL;
   }
   return std::nullopt;
@@ -103,41 +102,45 @@ void CDlgAddModifyDiscriminator::InitializeType() {
   auto* combo = Find<qv::ChoiceBox>(typeCombo);
   combo->addItems(
       {qv::HostText(loadString, Text::TimeSlots), qv::HostText(loadString, Text::Conditions)});
-  combo->setCurrentIndex(m_form->HasSlots() ? 0 : 1);
+  combo->setCurrentIndex(HasSlots() ? 0 : 1);
   combo->setVisible(m_form->IsTypeSelectable());
   Control(typeLabel)->setVisible(m_form->IsTypeSelectable());
   ShowLinksOfType();
 }
 
+bool CDlgAddModifyDiscriminator::HasSlots() const {
+  return m_form->Type() == qv::DiscriminatorType::Slots;
+}
+
 void CDlgAddModifyDiscriminator::ShowLinksOfType() {
   for (const int link : {calendarLink, hourTypesLink, dayTypesLink}) {
-    Control(link)->setVisible(m_form->HasSlots());
+    Control(link)->setVisible(HasSlots());
   }
-  Control(conditionsLink)->setVisible(!m_form->HasSlots());
+  Control(conditionsLink)->setVisible(!HasSlots());
 }
 
 void CDlgAddModifyDiscriminator::OnSelchangeType(int index) {
-  m_form->SelectType(index);
+  m_form->SelectType(index == 0 ? qv::DiscriminatorType::Slots : qv::DiscriminatorType::Conditions);
   ShowLinksOfType();
   PositioningControls();
 }
 
 void CDlgAddModifyDiscriminator::OnHourTypes() {
-  m_form->OnHourTypes([this](qv::XmlNode* hourTypes, qv::XmlNode* dayTypes) {
-    CDlgHourTypes dialog(this, hourTypes, dayTypes);
+  m_form->OnHourTypes([this](qv::HourTypes hourTypes, qv::DayTypes dayTypes) {
+    CDlgHourTypes dialog(this, &hourTypes.Node(), &dayTypes.Node());
     return qv::RunDialog<qv::EditorEnd>(dialog);
   });
 }
 
 void CDlgAddModifyDiscriminator::OnDayTypes() {
-  m_form->OnDayTypes([this](qv::XmlNode* dayTypes, qv::XmlNode* calendar, qv::XmlNode* hourTypes) {
-    CDlgDayTypes dialog(this, dayTypes, calendar, hourTypes);
+  m_form->OnDayTypes([this](qv::DayTypes dayTypes, qv::Calendar calendar, qv::HourTypes hourTypes) {
+    CDlgDayTypes dialog(this, &dayTypes.Node(), &calendar.Node(), &hourTypes.Node());
     return qv::RunDialog<qv::EditorEnd>(dialog);
   });
 }
 
 void CDlgAddModifyDiscriminator::AddLinks(QVHoritzontalLayout& row) const {
-  if (m_form->HasSlots()) {
+  if (HasSlots()) {
     row.AddControl(hourTypesLink, 33);
     row.AddControl(dayTypesLink, 34);
     row.AddControl(calendarLink, 33);
@@ -188,7 +191,11 @@ qv::DiscriminatorFields CDlgAddModifyDiscriminator::Typed() const {
 }
 
 void CDlgAddModifyDiscriminator::OnOK() {
-  if (m_form->Save(Typed())) {
+  const qv::SaveEnd end = m_form->Save(Typed());
+  if (end.refusal) {
+    Tell(*m_boxes, *end.refusal);
+  }
+  if (end.IsDone()) {
     CDialog::OnOK();
   }
 }

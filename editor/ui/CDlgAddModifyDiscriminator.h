@@ -34,6 +34,7 @@ class CDlgAddModifyDiscriminator : public CDialog {
   void InitializeTexts();
   void InitializeFields();
   void InitializeType();
+  bool HasSlots() const;
   void ShowLinksOfType();
   void AddLinks(QVHoritzontalLayout& row) const;
   void AddDetails(QVHoritzontalLayout& row) const;

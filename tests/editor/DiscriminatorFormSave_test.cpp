@@ -23,7 +23,7 @@ using Log = std::vector<std::wstring>;
 TEST_F(FormTest, AnEmptyNameIsRefusedFirst) {
   prompter.ExpectShow(Text::DiscriminatorNameMissing);
   auto form = New();
-  EXPECT_FALSE(form.Save(Named(L"", L"with \" quote")));
+  EXPECT_FALSE(Told(prompter, form->Save(Named(L"", L"with \" quote"))));
   EXPECT_TRUE(files.log.empty());
 }
 
@@ -31,7 +31,7 @@ TEST_F(FormTest, ANameThatIsNoIdIsRefusedBeforeItIsLookedFor) {
   for (const wchar_t* name : {L"a.b", L"a?b", L"a=b", L"a/b", L"a<b", L"a|b", L"a*b", L"a\tb"}) {
     prompter.ExpectShow(Text::NameNotAllowed);
     auto form = New();
-    EXPECT_FALSE(form.Save(Named(name, L"\"")));
+    EXPECT_FALSE(Told(prompter, form->Save(Named(name, L"\""))));
     EXPECT_TRUE(files.log.empty());
   }
 }
@@ -42,9 +42,9 @@ TEST_F(FormTest, ANameTooLongForAFileWithALongIdIsRefusedBeforeAnythingIsRemoved
   auto form =
       OpenContent("<main><id>" + std::string(200, 'i') + "</id><name>old</name></main>", path);
   prompter.ExpectShow(Text::NameNotAllowed);
-  EXPECT_FALSE(form.Save(Named(std::wstring(60, L'n').c_str())));
+  EXPECT_FALSE(Told(prompter, form->Save(Named(std::wstring(60, L'n').c_str()))));
   EXPECT_TRUE(files.contents.contains(path));
-  EXPECT_TRUE(form.Save(Named(std::wstring(40, L'n').c_str())));
+  EXPECT_TRUE(Told(prompter, form->Save(Named(std::wstring(40, L'n').c_str()))));
 }
 
 TEST_F(FormTest, ATakenNameIsRefusedWhateverItsCase) {
@@ -52,7 +52,7 @@ TEST_F(FormTest, ATakenNameIsRefusedWhateverItsCase) {
   for (const wchar_t* name : {L"Peak", L"PEAK", L"peak"}) {
     prompter.ExpectShow(Text::DiscriminatorNameTaken);
     auto form = New();
-    EXPECT_FALSE(form.Save(Named(name, L"\"")));
+    EXPECT_FALSE(Told(prompter, form->Save(Named(name, L"\""))));
   }
   EXPECT_EQ(files.log, Log(3, L"walk /cfg/*.xdct"));
 }
@@ -60,17 +60,17 @@ TEST_F(FormTest, ATakenNameIsRefusedWhateverItsCase) {
 TEST_F(FormTest, ADescriptionWithAQuoteIsRefusedLast) {
   prompter.ExpectShow(Text::DescriptionWithQuote);
   auto form = New();
-  EXPECT_FALSE(form.Save(Named(L"n", L"say \"hello\"")));
+  EXPECT_FALSE(Told(prompter, form->Save(Named(L"n", L"say \"hello\""))));
   EXPECT_EQ(files.log, Log{L"walk /cfg/*.xdct"});
 }
 
 TEST_F(FormTest, ARefusalLeavesTheDocumentAsItWas) {
   auto form = OpenContent(wholeFile);
-  const XmlNode before(form.Root());
+  const XmlNode before(form->Root());
   prompter.ExpectShow(Text::DescriptionWithQuote);
-  EXPECT_FALSE(form.Save(Named(L"new", L"\"")));
-  EXPECT_EQ(form.Root(), before);
-  EXPECT_FALSE(form.IsModified());
+  EXPECT_FALSE(Told(prompter, form->Save(Named(L"new", L"\""))));
+  EXPECT_EQ(form->Root(), before);
+  EXPECT_FALSE(form->IsModified());
 }
 
 TEST_F(FormTest, AQuoteInTheNameIsLeftToTheNameCheck) {
@@ -79,16 +79,16 @@ TEST_F(FormTest, AQuoteInTheNameIsLeftToTheNameCheck) {
   if (!allowed) {
     prompter.ExpectShow(Text::NameNotAllowed);
   }
-  EXPECT_EQ(form.Save(Named(L"a\"b")), allowed);
+  EXPECT_EQ(Told(prompter, form->Save(Named(L"a\"b"))), allowed);
 }
 
 TEST_F(FormTest, OnlyTheTextBetweenTheFirstTwoDotsOfAFileNameIsTaken) {
   files.contents[L"/cfg/abc.xdct"] = "";        // one dot: takes no part
   files.contents[L"/cfg/1.taken.x.xdct"] = "";  // the name ends at the second dot
-  EXPECT_TRUE(New().Save(Named(L"abc")));
-  EXPECT_TRUE(New().Save(Named(L"x")));
+  EXPECT_TRUE(Told(prompter, New()->Save(Named(L"abc"))));
+  EXPECT_TRUE(Told(prompter, New()->Save(Named(L"x"))));
   prompter.ExpectShow(Text::DiscriminatorNameTaken);
-  EXPECT_FALSE(New().Save(Named(L"TAKEN")));
+  EXPECT_FALSE(Told(prompter, New()->Save(Named(L"TAKEN"))));
 }
 
 TEST_F(FormTest, ANameIsTakenByADirectoryAndByAFileThatTheListLeavesOut) {
@@ -97,25 +97,25 @@ TEST_F(FormTest, ANameIsTakenByADirectoryAndByAFileThatTheListLeavesOut) {
   files.contents[L"/cfg/3.Renamed.xdct"] = "<main><id>3</id><name>renamed</name></main>";
   for (const wchar_t* name : {L"folder", L"broken", L"renamed"}) {
     prompter.ExpectShow(Text::DiscriminatorNameTaken);
-    EXPECT_FALSE(New().Save(Named(name)));
+    EXPECT_FALSE(Told(prompter, New()->Save(Named(name))));
   }
 }
 
 TEST_F(FormTest, ADiscriminatorMayKeepItsNameOrChangeItsCase) {
-  EXPECT_TRUE(OpenContent(wholeFile).Save(unchanged));
-  EXPECT_TRUE(OpenContent(wholeFile).Save(Named(L"OLD")));
+  EXPECT_TRUE(Told(prompter, OpenContent(wholeFile)->Save(unchanged)));
+  EXPECT_TRUE(Told(prompter, OpenContent(wholeFile)->Save(Named(L"OLD"))));
 }
 
 TEST_F(FormTest, ASecondFileOfItsOwnNameIsNotReported) {
   files.contents[L"/cfg/2.old.xdct"] = "";
-  EXPECT_TRUE(OpenContent(wholeFile).Save(unchanged));
+  EXPECT_TRUE(Told(prompter, OpenContent(wholeFile)->Save(unchanged)));
 }
 
 // What is written.
 
 TEST_F(FormTest, TheStepsOnTheDiskComeInTheirOrder) {
   auto form = OpenContent(wholeFile);
-  ASSERT_TRUE(form.Save(Named(L"new")));
+  ASSERT_TRUE(Told(prompter, form->Save(Named(L"new"))));
   EXPECT_EQ(files.log, (Log{L"walk /cfg/*.xdct", L"mkdir /cfg/", L"remove /cfg/1.old.xdct",
                             L"remove /cfg/1.old.xdctI", L"write /cfg/1.new.xdct"}));
   ASSERT_EQ(host.createIndex.calls.size(), 1U);
@@ -126,7 +126,7 @@ TEST_F(FormTest, TheStepsOnTheDiskComeInTheirOrder) {
 TEST_F(FormTest, ANewDiscriminatorAsksToRemoveEmptyAndIInTheWorkingDirectory) {
   files.contents[L"I"] = "somebody's";
   auto form = New();
-  ASSERT_TRUE(form.Save(Named(L"n")));
+  ASSERT_TRUE(Told(prompter, form->Save(Named(L"n"))));
   EXPECT_EQ(files.log[2], L"remove ");
   EXPECT_EQ(files.log[3], L"remove I");
   EXPECT_FALSE(files.contents.contains(L"I"));
@@ -135,7 +135,7 @@ TEST_F(FormTest, ANewDiscriminatorAsksToRemoveEmptyAndIInTheWorkingDirectory) {
 TEST_F(FormTest, ARenameLeavesOneFileAndChangesTheRevision) {
   files.contents[L"/cfg/1.old.xdctI"] = "index";
   auto form = OpenContent(wholeFile);
-  ASSERT_TRUE(form.Save(Named(L"new", L"d")));
+  ASSERT_TRUE(Told(prompter, form->Save(Named(L"new", L"d"))));
   ASSERT_EQ(files.contents.size(), 1U);
   EXPECT_EQ(Stored(L"/cfg/1.new.xdct", L"name"), L"new");
   EXPECT_NE(Stored(L"/cfg/1.new.xdct", L"revision"), L"r");
@@ -143,8 +143,8 @@ TEST_F(FormTest, ARenameLeavesOneFileAndChangesTheRevision) {
 
 TEST_F(FormTest, OkWithoutAChangeRewritesTheFileWithTheSameRevision) {
   auto form = OpenContent(wholeFile);
-  ASSERT_TRUE(form.Save(unchanged));
-  EXPECT_FALSE(form.IsModified());
+  ASSERT_TRUE(Told(prompter, form->Save(unchanged)));
+  EXPECT_FALSE(form->IsModified());
   EXPECT_EQ(files.log.back(), L"write /cfg/1.old.xdct");
   EXPECT_EQ(Stored(L"/cfg/1.old.xdct", L"revision"), L"r");
 }
@@ -154,31 +154,31 @@ TEST_F(FormTest, EachOfTheFourComparedFieldsRenewsTheRevision) {
       {L"Old", L"d", true}, {L"old", L"D", true}, {L"old", L"d", false}};
   for (const auto& change : changes) {
     auto form = OpenContent(wholeFile);
-    ASSERT_TRUE(form.Save(change));
-    EXPECT_TRUE(form.IsModified());
-    EXPECT_NE(form.Root().Value(L"revision"), L"r");
+    ASSERT_TRUE(Told(prompter, form->Save(change)));
+    EXPECT_TRUE(form->IsModified());
+    EXPECT_NE(form->Root().Value(L"revision"), L"r");
     files.contents.clear();
   }
   auto form = OpenContent(wholeFile);
-  form.SelectType(1);
-  ASSERT_TRUE(form.Save(unchanged));
-  EXPECT_NE(form.Root().Value(L"revision"), L"r");
+  form->SelectType(DiscriminatorType::Conditions);
+  ASSERT_TRUE(Told(prompter, form->Save(unchanged)));
+  EXPECT_NE(form->Root().Value(L"revision"), L"r");
 }
 
 TEST_F(FormTest, SwitchingAndSavingDropsTheOtherTypeForGood) {
   auto form = OpenContent(wholeFile);
-  form.SelectType(1);
-  ASSERT_TRUE(form.Save(unchanged));
-  EXPECT_EQ(Tags(form.Root()), L"id name description setZeroOutsideSlot type revision conditions");
-  form.SelectType(0);
-  ASSERT_TRUE(form.Save(unchanged));
-  EXPECT_FALSE(form.Root().Node(L"conditions"));
-  EXPECT_TRUE(form.Root().Node(L"calendar"));
+  form->SelectType(DiscriminatorType::Conditions);
+  ASSERT_TRUE(Told(prompter, form->Save(unchanged)));
+  EXPECT_EQ(Tags(form->Root()), L"id name description setZeroOutsideSlot type revision conditions");
+  form->SelectType(DiscriminatorType::Slots);
+  ASSERT_TRUE(Told(prompter, form->Save(unchanged)));
+  EXPECT_FALSE(form->Root().Node(L"conditions"));
+  EXPECT_TRUE(form->Root().Node(L"calendar"));
 }
 
 TEST_F(FormTest, TheRootTagSurvivesASave) {
   auto form = OpenContent("<root><id>1</id><name>old</name></root>");
-  ASSERT_TRUE(form.Save(unchanged));
+  ASSERT_TRUE(Told(prompter, form->Save(unchanged)));
   EXPECT_EQ(files.contents[L"/cfg/1.old.xdct"].find("<root>"),
             std::string("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n").size());
 }
@@ -186,44 +186,44 @@ TEST_F(FormTest, TheRootTagSurvivesASave) {
 TEST_F(FormTest, ALongNameThatWasLoadedIsNotCut) {
   const std::wstring name(100, L'n');
   auto form = OpenContent("<main><id>1</id><name>" + std::string(100, 'n') + "</name></main>");
-  ASSERT_TRUE(form.Save({name.c_str(), L"", true}));
-  EXPECT_EQ(form.Root().Value(L"name").Length(), 100U);
+  ASSERT_TRUE(Told(prompter, form->Save({name.c_str(), L"", true})));
+  EXPECT_EQ(form->Root().Value(L"name").Length(), 100U);
 }
 
 // The entry in the host's tree.
 
 TEST_F(FormTest, ANewDiscriminatorGetsAnEntryAtTheTop) {
   auto form = New();
-  ASSERT_TRUE(form.Save(Named(L"n")));
+  ASSERT_TRUE(Told(prompter, form->Save(Named(L"n"))));
   const XmlNode* device = deviceGroups.Root()->Node(L"devices")->Node(L"device");
   ASSERT_TRUE(device);
-  EXPECT_EQ(device->Value(L"id"), form.Root().Value(L"id", L"?"));
+  EXPECT_EQ(device->Value(L"id"), form->Root().Value(L"id", L"?"));
   EXPECT_EQ(device->Value(L"type"), L"R$DISC");
 }
 
 TEST_F(FormTest, AnExistingDiscriminatorGetsNoEntry) {
   auto form = OpenContent(wholeFile);
-  ASSERT_TRUE(form.Save(Named(L"new")));
+  ASSERT_TRUE(Told(prompter, form->Save(Named(L"new"))));
   EXPECT_EQ(Entries(), 0U);
 }
 
 TEST_F(FormTest, AFileWithoutIdGetsOneAndAnEntry) {
   auto form = OpenContent("<main><name>old</name></main>", L"/cfg/.old.xdct");
-  ASSERT_TRUE(form.Save(Named(L"old")));
+  ASSERT_TRUE(Told(prompter, form->Save(Named(L"old"))));
   EXPECT_FALSE(files.contents.contains(L"/cfg/.old.xdct"));
   EXPECT_EQ(files.contents.size(), 1U);
   EXPECT_EQ(Entries(), 1U);
 }
 
 TEST_F(FormTest, WithoutATreeThereIsNoEntry) {
-  DiscriminatorForm form({host.Services(), files, prompter, nullptr}, nullptr);
-  EXPECT_TRUE(form.Save(Named(L"n")));
+  const auto form = DiscriminatorForm::Open({host.Services(), files, nullptr}, nullptr);
+  EXPECT_TRUE(Told(prompter, form->Save(Named(L"n"))));
 }
 
 // Failures.
 
 TEST_F(FormTest, AFullDiskAtAnyByteIsToldAndLeavesNoFile) {
-  ASSERT_TRUE(OpenContent(wholeFile).Save(Named(L"new", L"d")));
+  ASSERT_TRUE(Told(prompter, OpenContent(wholeFile)->Save(Named(L"new", L"d"))));
   const std::size_t size = files.contents[L"/cfg/1.new.xdct"].size();
   for (std::size_t space = 0; space < size; ++space) {
     files.contents = {{L"/cfg/1.old.xdctI", "index"}};
@@ -231,36 +231,36 @@ TEST_F(FormTest, AFullDiskAtAnyByteIsToldAndLeavesNoFile) {
     auto form = OpenContent(wholeFile);
     files.diskSpace = space;
     prompter.ExpectShow(Text::DiscriminatorNotSaved);
-    EXPECT_FALSE(form.Save(Named(L"new", L"d"))) << space;
+    EXPECT_FALSE(Told(prompter, form->Save(Named(L"new", L"d")))) << space;
     EXPECT_TRUE(files.contents.empty()) << space;
-    EXPECT_EQ(form.Root().Value(L"name"), L"new");
+    EXPECT_EQ(form->Root().Value(L"name"), L"new");
   }
   EXPECT_EQ(host.createIndex.calls.size(), 1U) << "no index after a failed save";
 }
 
 TEST_F(FormTest, AFailedSaveMayBeTriedAgainWithAnotherRevision) {
   auto form = OpenContent(wholeFile);
-  form.SelectType(1);
+  form->SelectType(DiscriminatorType::Conditions);
   files.failClose = true;
   prompter.ExpectShow(Text::DiscriminatorNotSaved);
-  EXPECT_FALSE(form.Save(unchanged));
+  EXPECT_FALSE(Told(prompter, form->Save(unchanged)));
   EXPECT_TRUE(files.contents.empty());
-  EXPECT_FALSE(form.Root().Node(L"calendar")) << "the other type's containers are gone already";
-  const QVWideString firstTry = form.Root().Value(L"revision");
+  EXPECT_FALSE(form->Root().Node(L"calendar")) << "the other type's containers are gone already";
+  const QVWideString firstTry = form->Root().Value(L"revision");
   files.failClose = false;
-  EXPECT_TRUE(form.Save(unchanged));
-  EXPECT_NE(form.Root().Value(L"revision"), firstTry);
+  EXPECT_TRUE(Told(prompter, form->Save(unchanged)));
+  EXPECT_NE(form->Root().Value(L"revision"), firstTry);
 }
 
 TEST_F(FormTest, EachFailedTryOfANewDiscriminatorAddsAnEntry) {
   auto form = New();
   for (int i = 0; i < 2; ++i) {
-    files.unwritable = {L"/cfg/" + std::wstring(form.Root().Value(L"id").ToView()) + L".n.xdct"};
+    files.unwritable = {L"/cfg/" + std::wstring(form->Root().Value(L"id").ToView()) + L".n.xdct"};
     prompter.ExpectShow(Text::DiscriminatorNotSaved);
-    EXPECT_FALSE(form.Save(Named(L"n")));
+    EXPECT_FALSE(Told(prompter, form->Save(Named(L"n"))));
   }
   files.unwritable.clear();
-  EXPECT_TRUE(form.Save(Named(L"n")));
+  EXPECT_TRUE(Told(prompter, form->Save(Named(L"n"))));
   EXPECT_EQ(Entries(), 3U);
 }
 
@@ -268,10 +268,10 @@ TEST_F(FormTest, ADirectoryOfTheFilesNameMakesTheSaveFail) {
   files.directories.insert(L"/cfg/1.new.xdct");
   auto form = OpenContent(wholeFile);
   prompter.ExpectShow(Text::DiscriminatorNameTaken);
-  EXPECT_FALSE(form.Save(Named(L"new")));
+  EXPECT_FALSE(Told(prompter, form->Save(Named(L"new"))));
   files.directories = {L"/cfg/1.OLD.xdct"};
   prompter.ExpectShow(Text::DiscriminatorNotSaved);
-  EXPECT_FALSE(form.Save(Named(L"OLD")));
+  EXPECT_FALSE(Told(prompter, form->Save(Named(L"OLD"))));
   EXPECT_TRUE(files.directories.contains(L"/cfg/1.OLD.xdct"));
 }
 
@@ -279,10 +279,10 @@ TEST_F(FormTest, AFullDiskForANewDiscriminatorCanBeOvercome) {
   auto form = New();
   files.diskSpace = 7;
   prompter.ExpectShow(Text::DiscriminatorNotSaved);
-  EXPECT_FALSE(form.Save(Named(L"n")));
+  EXPECT_FALSE(Told(prompter, form->Save(Named(L"n"))));
   EXPECT_TRUE(files.contents.empty());
   files.diskSpace.reset();
-  EXPECT_TRUE(form.Save(Named(L"n")));
+  EXPECT_TRUE(Told(prompter, form->Save(Named(L"n"))));
   EXPECT_EQ(files.contents.size(), 1U);
   EXPECT_EQ(Entries(), 2U) << "one for each try";
 }
@@ -301,7 +301,7 @@ TEST_F(FormTest, EachOfTheOtherStepsMayFailAlone) {
     host.createIndex.result = true;
     auto form = OpenContent(wholeFile);
     failures[i]();
-    EXPECT_TRUE(form.Save(Named(L"new", L"d")));
+    EXPECT_TRUE(Told(prompter, form->Save(Named(L"new", L"d"))));
     EXPECT_EQ(Stored(L"/cfg/1.new.xdct", L"name"), L"new");
     EXPECT_EQ(files.contents.contains(L"/cfg/1.old.xdct"), i == 1);
     EXPECT_EQ(files.contents.contains(L"/cfg/1.old.xdctI"), i == 2);
@@ -315,7 +315,7 @@ TEST_F(FormTest, WhatTheOtherStepsAnswerIsNotLookedAt) {
   files.refuseDirectories = true;
   files.writeProtected = {L"/cfg/1.old.xdct", L"/cfg/1.old.xdctI"};
   host.createIndex.result = false;
-  EXPECT_TRUE(form.Save(Named(L"new")));
+  EXPECT_TRUE(Told(prompter, form->Save(Named(L"new"))));
   EXPECT_TRUE(files.contents.contains(L"/cfg/1.old.xdct"));
   EXPECT_TRUE(files.contents.contains(L"/cfg/1.new.xdct"));
 }
@@ -323,7 +323,7 @@ TEST_F(FormTest, WhatTheOtherStepsAnswerIsNotLookedAt) {
 TEST_F(FormTest, AnIdThatLeadsElsewhereIsNeverWrittenTo) {
   auto form = OpenContent("<main><id>../../etc/x</id><name>old</name></main>");
   prompter.ExpectShow(Text::DiscriminatorNotSaved);
-  EXPECT_FALSE(form.Save(unchanged));
+  EXPECT_FALSE(Told(prompter, form->Save(unchanged)));
   for (const auto& step : files.log) {
     EXPECT_FALSE(step.starts_with(L"write")) << std::string(step.begin(), step.end());
   }

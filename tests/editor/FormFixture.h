@@ -2,47 +2,39 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "editor/DiscriminatorForm.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/Saving.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/ScriptedPrompter.h"
 
 namespace qv {
 
-/// A form whose opening leaves no trace in the log of the disk.
-class OpenedForm : public DiscriminatorForm {
- public:
-  OpenedForm(const Surroundings& surroundings, const QVWideString* filePath, ScriptedFiles& files)
-      : DiscriminatorForm(surroundings, filePath) {
-    files.log.clear();
-  }
-};
-
 /// Forms over a disk in memory, on which "/cfg/" is the configuration directory.
 class FormTest : public testing::Test {
  protected:
   /// A form of a new discriminator.
-  DiscriminatorForm New() { return DiscriminatorForm(Around(), nullptr); }
+  std::unique_ptr<DiscriminatorForm> New() { return DiscriminatorForm::Open(Around(), nullptr); }
 
-  /// A form of the file at `path`.
-  OpenedForm Open(const std::wstring& path) {
+  /// A form of the file at `path`, whose opening leaves no trace in the log of the disk.
+  std::unique_ptr<DiscriminatorForm> Open(const std::wstring& path) {
     const QVWideString text(path.c_str());
-    return OpenedForm(Around(), &text, files);
+    auto form = DiscriminatorForm::Open(Around(), &text);
+    files.log.clear();
+    return form;
   }
 
   /// Puts a file on the disk and opens it.
-  OpenedForm OpenContent(const std::string& content,
-                         const std::wstring& path = L"/cfg/1.old.xdct") {
+  std::unique_ptr<DiscriminatorForm> OpenContent(const std::string& content,
+                                                 const std::wstring& path = L"/cfg/1.old.xdct") {
     files.contents[path] = content;
     return Open(path);
   }
 
-  DiscriminatorForm::Surroundings Around() {
-    return {host.Services(), files, prompter, deviceGroups.Root()};
-  }
+  EditorServices Around() { return {host.Services(), files, deviceGroups.Root()}; }
 
   /// The fields with this name and nothing else.
   static DiscriminatorFields Named(const wchar_t* name, const wchar_t* description = L"") {

@@ -44,13 +44,12 @@ void DemandDialInside(const XmlNode& day, const XmlNode& hourTypes) {
 }
 
 void DemandSlotIsATime(XmlNode& hourTypes, const XmlNode& slot) {
-  Silent prompter;
   XmlNode copy(slot);
-  qv::TimeSlotForm form(hourTypes, copy, prompter);
-  form.Press(600);
-  form.Move(0);
-  form.Release();
-  if (form.Save()) {
+  qv::TimeSlotForm form(copy, qv::HourTypes(hourTypes));
+  form.Times().Press(600);
+  form.Times().Move(0);
+  form.Times().Release();
+  if (form.Save().IsDone()) {
     for (const wchar_t* field : {qv::tag::From, qv::tag::To}) {
       const QVWideString time = copy.Value(field);
       Demand(qv::NormalizeTime(time) == time, "what a slot's editor saves is a time");
@@ -60,9 +59,9 @@ void DemandSlotIsATime(XmlNode& hourTypes, const XmlNode& slot) {
 
 void OpenDay(XmlNode& day, XmlNode& dayTypes, XmlNode& hourTypes) {
   Silent prompter;
-  qv::DayTypeForm form(day, dayTypes, hourTypes, prompter);
+  qv::DayTypeForm form(day, qv::DayTypes(dayTypes), qv::HourTypes(hourTypes), prompter);
   form.Fill();
-  form.ReportSlots();
+  const auto fault = form.FaultOfSlots();
   const auto slots = qv::ChildrenWithTag(day, qv::tag::Slot);
   const auto count = static_cast<std::size_t>(std::distance(slots.begin(), slots.end()));
   Demand(form.Rows().size() == count, "each slot has its row");
@@ -70,7 +69,7 @@ void OpenDay(XmlNode& day, XmlNode& dayTypes, XmlNode& hourTypes) {
   if (count > 0) {
     DemandSlotIsATime(hourTypes, *slots.begin());
   }
-  form.Save(L"name");
+  Demand(!fault || !form.Save(L"name").IsDone(), "what is faulty isn't saved");
 }
 
 }  // namespace
@@ -86,11 +85,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   qv::TypeList hours(*hourTypes, qv::tag::Hour);
   qv::TypeList days(*dayTypes, qv::tag::Day);
-  for (const qv::TypeRow& row : days.Rows()) {
+  for (const qv::ColouredType& row : days.Rows()) {
     OpenDay(*row.node, *dayTypes, *hourTypes);
   }
-  hours.OnRemove(0);
-  days.OnModify(0, [&](XmlNode& day) {
+  std::ignore = hours.OnRemove(0);
+  std::ignore = days.OnModify(0, [&](XmlNode& day) {
     OpenDay(day, *dayTypes, *hourTypes);
     return qv::EditorEnd{true, true};
   });

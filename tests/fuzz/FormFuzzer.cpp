@@ -11,14 +11,6 @@
 
 namespace {
 
-/// A user who confirms whatever is said.
-class Silent : public qv::Prompter {
- public:
-  void Show(Text, const Arguments&) override {}
-  bool Ask(Text, const Arguments&) override { return true; }
-  void ShowText(std::wstring_view) override {}
-};
-
 void DemandFilesInDirectory(const qv::ScriptedFiles& files) {
   for (const auto& [path, content] : files.contents) {
     Demand(path.starts_with(L"/cfg/") && path.find(L'/', 5) == std::wstring::npos,
@@ -31,19 +23,19 @@ void DemandFilesInDirectory(const qv::ScriptedFiles& files) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   qv::FakeHost host;
   qv::ScriptedFiles files;
-  Silent prompter;
   XmlDocument deviceGroups;
   deviceGroups.Create(L"deviceGroups");
   const QVWideString path = L"/cfg/any.xdct";
   files.contents[path.ToView().data()] = std::string(reinterpret_cast<const char*>(data), size);
-  qv::DiscriminatorForm form({host.Services(), files, prompter, deviceGroups.Root()}, &path);
-  if (!form.IsLoaded()) {
+  const auto form =
+      qv::DiscriminatorForm::Open({host.Services(), files, deviceGroups.Root()}, &path);
+  if (!form) {
     return 0;
   }
-  form.SelectType(1);
-  form.SelectType(0);
-  const bool saved = form.Save(form.InitialFields());
-  const bool renamed = form.Save({L"fresh", L"", false});
+  form->SelectType(qv::DiscriminatorType::Conditions);
+  form->SelectType(qv::DiscriminatorType::Slots);
+  const bool saved = form->Save(form->InitialFields()).IsDone();
+  const bool renamed = form->Save({L"fresh", L"", false}).IsDone();
   DemandFilesInDirectory(files);
   Demand(!saved || !files.contents.empty(), "what was saved is there");
   if (renamed) {

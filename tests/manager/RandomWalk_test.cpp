@@ -14,6 +14,7 @@
 #include "tests/manager/UsersTree.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/Saving.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/ScriptedPrompter.h"
 #include "tools/Names.h"
@@ -102,22 +103,24 @@ class Walk {
   /// Runs the editor's rules as its dialog would, with what the user types, and tells the model.
   DiscriminatorList::RunEditor Editor(const std::wstring& name, bool switchType, bool diskFails) {
     return [=, this](XmlNode* copy, const QVWideString* path) {
-      DiscriminatorForm form({m_services, files, m_prompter, copy}, path);
-      const std::wstring id(form.Root().Value(L"id").ToView());
+      const auto form = DiscriminatorForm::Open({m_services, files, copy}, path);
+      const auto save = [&] { return Told(m_prompter, form->Save({name.c_str(), L"", true})); };
+      const std::wstring id(form->Root().Value(L"id").ToView());
       const Known before = path ? m_known.at(id) : Known{};
       if (switchType) {
-        form.SelectType(form.HasSlots() ? 1 : 0);
+        form->SelectType(form->Type() == DiscriminatorType::Slots ? DiscriminatorType::Conditions
+                                                                  : DiscriminatorType::Slots);
       }
-      const bool slots = form.HasSlots();
+      const bool slots = form->Type() == DiscriminatorType::Slots;
       if (IsTaken(name, before.name)) {
         m_prompter.ExpectShow(Text::DiscriminatorNameTaken);
-        EXPECT_FALSE(form.Save({name.c_str(), L"", true}));
+        EXPECT_FALSE(save());
         return EditorEnd{};
       }
       if (diskFails) {
         files.diskSpace = static_cast<std::size_t>(Below(50));
         m_prompter.ExpectShow(Text::DiscriminatorNotSaved);
-        EXPECT_FALSE(form.Save({name.c_str(), L"", true}));
+        EXPECT_FALSE(save());
         files.diskSpace.reset();
         m_known.erase(id);
         if (Below(2) == 0) {
@@ -125,14 +128,14 @@ class Walk {
         }
         m_entries[id] += path ? 0 : 1;
       }
-      EXPECT_TRUE(form.Save({name.c_str(), L"", true}));
-      const std::wstring revision(form.Root().Value(L"revision").ToView());
+      EXPECT_TRUE(save());
+      const std::wstring revision(form->Root().Value(L"revision").ToView());
       const bool changed = name != before.name || slots != before.slots;
-      EXPECT_EQ(form.IsModified(), changed);
+      EXPECT_EQ(form->IsModified(), changed);
       EXPECT_EQ(revision != before.revision, changed);
       m_known[id] = {name, slots, revision};
       m_entries[id] += path ? 0 : 1;
-      return EditorEnd{true, form.IsModified()};
+      return EditorEnd{true, form->IsModified()};
     };
   }
 

@@ -6,7 +6,7 @@
 #include <cwchar>
 #include <random>
 
-#include "tests/support/ScriptedPrompter.h"
+#include "tools/Format.h"
 #include "tools/XmlDocument.h"
 
 namespace qv {
@@ -40,7 +40,7 @@ class DaySlotsTest : public testing::Test {
     return slots;
   }
 
-  const XmlNode hours = [] {
+  XmlNode hours = [] {
     XmlDocument document;
     EXPECT_TRUE(
         document.Parse("<hourTypes><hour><id>p</id><name>Peak</name><color>0000FF</color></hour>"
@@ -49,8 +49,7 @@ class DaySlotsTest : public testing::Test {
     return XmlNode(*document.Root());
   }();
   XmlNode day{L"day"};
-  DaySlots slots{day, hours};
-  ScriptedPrompter prompter;
+  DaySlots slots{day, HourTypes(hours)};
 };
 
 TEST_F(DaySlotsTest, RowsHaveNameAndColourOfTheirHourTypeInDocumentOrder) {
@@ -106,20 +105,21 @@ TEST_F(DaySlotsTest, TheSlotOfARowIsFoundAmongOtherChildren) {
   EXPECT_EQ(slots.SlotOfRow(-1), nullptr);
 }
 
-TEST_F(DaySlotsTest, ACoveredDayPassesWithoutAQuestion) {
-  EXPECT_TRUE(Slots({{L"00:00", L"24:00"}}).CheckSlots(true, prompter));
-  EXPECT_TRUE(Slots({{L"00:00", L"12:00"}, {L"12:00", L"24:00"}}).CheckSlots(true, prompter));
-  EXPECT_TRUE(Slots({{L"12:00", L"24:00"}, {L"00:00", L"12:00"}}).CheckSlots(true, prompter));
+TEST_F(DaySlotsTest, ACoveredDayHasNoFaultAndNoGap) {
+  for (const auto& times :
+       std::vector<std::vector<Times>>{{{L"00:00", L"24:00"}},
+                                       {{L"00:00", L"12:00"}, {L"12:00", L"24:00"}},
+                                       {{L"12:00", L"24:00"}, {L"00:00", L"12:00"}}}) {
+    EXPECT_EQ(Slots(times).FirstFault(), std::nullopt);
+    EXPECT_TRUE(slots.IsCovered());
+  }
 }
 
-TEST_F(DaySlotsTest, GapsAreAskedAboutAndOnlyWhenTheUserLeaves) {
+TEST_F(DaySlotsTest, GapsAreNoFault) {
   for (const auto& times : std::vector<std::vector<Times>>{
            {}, {{L"00:00", L"12:00"}, {L"12:01", L"24:00"}}, {{L"24:00", L"24:00"}}}) {
-    EXPECT_TRUE(Slots(times).CheckSlots(false, prompter));
-    for (const bool answer : {true, false}) {
-      prompter.ExpectAsk(Text::DayNotCoveredQuestion, answer);
-      EXPECT_EQ(Slots(times).CheckSlots(true, prompter), answer);
-    }
+    EXPECT_EQ(Slots(times).FirstFault(), std::nullopt);
+    EXPECT_FALSE(slots.IsCovered());
   }
 }
 
@@ -140,16 +140,15 @@ TEST_F(DaySlotsTest, EachFaultHasItsText) {
       {{{L"02:00", L"01:00"}, {L"25:00", L"25:00"}}, Text::SlotStartAfterEnd},
   };
   for (const auto& [times, text] : faults) {
-    for (const bool warn : {false, true}) {
-      prompter.ExpectShow(text);
-      EXPECT_FALSE(Slots(times).CheckSlots(warn, prompter)) << times.front().from;
-    }
+    const auto fault = Slots(times).FirstFault();
+    ASSERT_TRUE(fault) << times.front().from;
+    EXPECT_EQ(fault->text, text) << times.front().from;
   }
 }
 
 TEST_F(DaySlotsTest, SlotsOfNoLengthMayTouchOthers) {
-  EXPECT_TRUE(Slots({{L"10:00", L"11:00"}, {L"10:00", L"10:00"}, {L"11:00", L"11:00"}})
-                  .CheckSlots(false, prompter));
+  EXPECT_EQ(Slots({{L"10:00", L"11:00"}, {L"10:00", L"10:00"}, {L"11:00", L"11:00"}}).FirstFault(),
+            std::nullopt);
 }
 
 TEST_F(DaySlotsTest, RemoveTakesTheRowAndItsSlot) {
@@ -226,12 +225,9 @@ TEST_F(DaySlotsTest, RandomDaysAreJudgedAsMinuteByMinute) {
     }
     slots.Fill();
     const Judgement expected = Judge(days);
-    if (expected.fault) {
-      prompter.ExpectShow(*expected.fault);
-    } else if (!expected.covered) {
-      prompter.ExpectAsk(Text::DayNotCoveredQuestion, true);
-    }
-    ASSERT_EQ(slots.CheckSlots(true, prompter), !expected.fault) << round;
+    const auto fault = slots.FirstFault();
+    ASSERT_EQ(fault ? std::optional(fault->text) : std::nullopt, expected.fault) << round;
+    ASSERT_TRUE(fault || slots.IsCovered() == expected.covered) << round;
     ++seen[expected.fault ? (*expected.fault == Text::SlotsOverlap ? 0 : 1)
                           : (expected.covered ? 2 : 3)];
   }
@@ -246,7 +242,7 @@ TEST_F(DaySlotsTest, ThousandsOfSlotsAreReadAndChecked) {
   }
   slots.Fill();
   EXPECT_EQ(slots.Rows().size(), 1500U);
-  EXPECT_TRUE(slots.CheckSlots(false, prompter));
+  EXPECT_EQ(slots.FirstFault(), std::nullopt);
 }
 
 }  // namespace

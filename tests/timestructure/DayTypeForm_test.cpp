@@ -4,7 +4,9 @@
 
 #include <memory>
 #include <stdexcept>
+#include <tuple>
 
+#include "tests/support/Saving.h"
 #include "tests/support/ScriptedPrompter.h"
 #include "tools/XmlDocument.h"
 
@@ -30,9 +32,9 @@ class DayTypeFormTest : public testing::Test {
   XmlNode& Day(const wchar_t* name) { return *days->NodeV(L"day?name=%s?", name); }
 
   /// An editor that gives the slot an hour type and a start, and makes an hour type of its own.
-  static DayTypeForm::RunEditor Writing(EditorEnd end) {
-    return [=](XmlNode& hourTypes, XmlNode& slot) {
-      hourTypes.NewChild(L"hour", nullptr)->SetValue(L"id", L"new");
+  static DayTypeForm::RunSlotEditor Writing(EditorEnd end) {
+    return [=](XmlNode& slot, HourTypes hourTypes) {
+      hourTypes.Node().NewChild(L"hour", nullptr)->SetValue(L"id", L"new");
       slot.SetValue(L"id", L"new");
       slot.SetValue(L"from", L"05:00");
       return end;
@@ -49,22 +51,22 @@ class DayTypeFormTest : public testing::Test {
   const XmlNode daysBefore{*days};
   const XmlNode hoursBefore{*hours};
   ScriptedPrompter prompter;
-  DayTypeForm form{Day(L"work"), *days, *hours, prompter};
+  DayTypeForm form{Day(L"work"), DayTypes(*days), HourTypes(*hours), prompter};
 };
 
 TEST_F(DayTypeFormTest, ReadsNameColourAndSlots) {
-  EXPECT_EQ(form.Name(), L"work");
-  EXPECT_EQ(form.CurrentColour(), 0x0000FFU);
+  EXPECT_EQ(form.Identity().OpenedName(), L"work");
+  EXPECT_EQ(form.Identity().CurrentColour(), 0x0000FFU);
   EXPECT_EQ(form.Rows().size(), 2U);
   EXPECT_FALSE(form.IsModified());
 }
 
 TEST_F(DayTypeFormTest, SaveWritesNameAndColourAlways) {
-  EXPECT_TRUE(form.Save(L"work"));
+  EXPECT_TRUE(Told(prompter, form.Save(L"work")));
   EXPECT_EQ(*days, daysBefore);
   EXPECT_FALSE(form.IsModified());
-  EXPECT_TRUE(form.ChooseColour(0x00FF00));
-  EXPECT_TRUE(form.Save(L"office"));
+  EXPECT_TRUE(form.Identity().ChooseColour(0x00FF00));
+  EXPECT_TRUE(Told(prompter, form.Save(L"office")));
   EXPECT_EQ(Day(L"office").Value(L"color"), L"00FF00");
   EXPECT_TRUE(form.IsModified());
 }
@@ -78,50 +80,65 @@ TEST_F(DayTypeFormTest, EachRefusalHasItsText) {
   };
   for (const auto& [name, text] : refusals) {
     prompter.ExpectShow(text);
-    EXPECT_FALSE(form.Save(name));
+    EXPECT_FALSE(Told(prompter, form.Save(name)));
     EXPECT_FALSE(form.IsModified());
   }
-  form.ChooseColour(0xFF0000);
+  form.Identity().ChooseColour(0xFF0000);
   prompter.ExpectAsk(Text::TypeColourTaken, false);
-  EXPECT_FALSE(form.Save(L"work"));
+  EXPECT_FALSE(Told(prompter, form.Save(L"work")));
   EXPECT_EQ(*days, daysBefore);
 }
 
 TEST_F(DayTypeFormTest, AChangedNameCountsEvenIfTheSlotsAreRefused) {
-  form.OnRemove(0);
-  DayTypeForm other(Day(L"work"), *days, *hours, prompter);
+  std::ignore = form.OnRemove(0);
+  DayTypeForm other(Day(L"work"), DayTypes(*days), HourTypes(*hours), prompter);
   other.Fill();
   prompter.ExpectAsk(Text::DayNotCoveredQuestion, false);
-  EXPECT_FALSE(other.Save(L"office"));
+  EXPECT_FALSE(Told(prompter, other.Save(L"office")));
   EXPECT_TRUE(other.IsModified());
   EXPECT_EQ(Day(L"work").Value(L"name"), L"work");
 }
 
 TEST_F(DayTypeFormTest, TheSlotsAreCheckedAfterNameAndColour) {
-  form.OnRemove(0);
-  form.ChooseColour(0xFF0000);
+  std::ignore = form.OnRemove(0);
+  form.Identity().ChooseColour(0xFF0000);
   prompter.ExpectAsk(Text::TypeColourTaken, true);
   prompter.ExpectAsk(Text::DayNotCoveredQuestion, true);
-  EXPECT_TRUE(form.Save(L"work"));
+  EXPECT_TRUE(Told(prompter, form.Save(L"work")));
 }
 
 TEST_F(DayTypeFormTest, ReportingAsksNothing) {
-  form.OnRemove(0);
-  form.ReportSlots();
+  std::ignore = form.OnRemove(0);
+  EXPECT_EQ(form.FaultOfSlots(), std::nullopt);
   Day(L"work").Node(L"slot")->SetValue(L"to", L"11:00");
   form.Fill();
-  prompter.ExpectShow(Text::SlotStartAfterEnd);
-  form.ReportSlots();
+  EXPECT_EQ(form.FaultOfSlots(), Refused(Text::SlotStartAfterEnd));
+}
+
+TEST_F(DayTypeFormTest, TheUserAcceptsGapsOrStays) {
+  std::ignore = form.OnRemove(0);
+  for (const bool answer : {false, true}) {
+    prompter.ExpectAsk(Text::DayNotCoveredQuestion, answer);
+    const SaveEnd end = form.Save(L"work");
+    EXPECT_EQ(end.IsDone(), answer);
+    EXPECT_FALSE(end.refusal) << "the question has said it";
+  }
+}
+
+TEST_F(DayTypeFormTest, ASaveTellsWhetherSomethingChanged) {
+  EXPECT_EQ(form.Save(L"work").outcome, SaveOutcome::Unchanged);
+  EXPECT_EQ(form.Save(L"office").outcome, SaveOutcome::Saved);
+  EXPECT_EQ(form.Save(L""), (SaveEnd{SaveOutcome::Refused, Refused(Text::DayTypeNameMissing)}));
 }
 
 TEST_F(DayTypeFormTest, AddAppendsASlotAndTakesTheHourTypesOver) {
-  const auto end = form.OnAdd([&](XmlNode& hourTypes, XmlNode& slot) {
+  const auto end = form.OnAdd([&](XmlNode& slot, HourTypes hourTypes) {
     EXPECT_EQ(&slot, *std::prev(Day(L"work").ChildsEnd()));
     EXPECT_EQ(slot.Value(L"id", L"?"), L"");
     EXPECT_EQ(slot.Value(L"from"), L"00:00");
     EXPECT_EQ(slot.Value(L"to"), L"00:00");
-    EXPECT_NE(&hourTypes, hours.get());
-    return Writing(confirmed)(hourTypes, slot);
+    EXPECT_NE(&hourTypes.Node(), hours.get());
+    return Writing(confirmed)(slot, hourTypes);
   });
   EXPECT_EQ(end, (ListEnd{true, std::nullopt}));
   EXPECT_EQ(form.Rows().size(), 3U);
@@ -139,22 +156,22 @@ TEST_F(DayTypeFormTest, ACancelledEditorLeavesEverythingAsItWas) {
 }
 
 TEST_F(DayTypeFormTest, AnEditorThatThrowsLeavesEverythingAsItWas) {
-  const DayTypeForm::RunEditor throwing = [](XmlNode& hourTypes, XmlNode& slot) -> EditorEnd {
-    hourTypes.Reset();
+  const DayTypeForm::RunSlotEditor throwing = [](XmlNode& slot, HourTypes hourTypes) -> EditorEnd {
+    hourTypes.Node().Reset();
     slot.Reset();
     throw std::runtime_error("editor");
   };
-  EXPECT_THROW(form.OnAdd(throwing), std::runtime_error);
-  EXPECT_THROW(form.OnModify(1, throwing), std::runtime_error);
+  EXPECT_THROW(std::ignore = form.OnAdd(throwing), std::runtime_error);
+  EXPECT_THROW(std::ignore = form.OnModify(1, throwing), std::runtime_error);
   EXPECT_EQ(*days, daysBefore);
   EXPECT_EQ(*hours, hoursBefore);
 }
 
 TEST_F(DayTypeFormTest, ModifyWorksOnCopiesAndSelectsNothingAfterwards) {
   EXPECT_EQ(form.OnModify(1,
-                          [&](XmlNode& hourTypes, XmlNode& slot) {
+                          [&](XmlNode& slot, HourTypes hourTypes) {
                             EXPECT_EQ(slot.Value(L"from"), L"12:00");
-                            const auto end = Writing(confirmedWithChange)(hourTypes, slot);
+                            const auto end = Writing(confirmedWithChange)(slot, hourTypes);
                             EXPECT_EQ(*days, daysBefore);
                             return end;
                           }),
@@ -164,7 +181,7 @@ TEST_F(DayTypeFormTest, ModifyWorksOnCopiesAndSelectsNothingAfterwards) {
 }
 
 TEST_F(DayTypeFormTest, AConfirmedModifyWithoutAChangeIsStillTakenOver) {
-  form.OnModify(0, Writing(confirmed));
+  std::ignore = form.OnModify(0, Writing(confirmed));
   EXPECT_EQ(form.Rows()[0].from, L"05:00");
   EXPECT_TRUE(hours->NodeV(L"hour?id=%s?", L"new"));
   EXPECT_FALSE(form.IsModified());
@@ -190,18 +207,20 @@ TEST_F(DayTypeFormTest, RemovingTheLastRowSelectsTheNewLastOne) {
   EXPECT_EQ(form.OnRemove(1), (ListEnd{true, 0}));
 }
 
-TEST_F(DayTypeFormTest, NamesThatDifferInCaseAreTwoNames) { EXPECT_TRUE(form.Save(L"FEAST")); }
+TEST_F(DayTypeFormTest, NamesThatDifferInCaseAreTwoNames) {
+  EXPECT_TRUE(Told(prompter, form.Save(L"FEAST")));
+}
 
 TEST_F(DayTypeFormTest, AColourOpenedEqualToAnothersIsNotAskedAbout) {
   Day(L"feast").SetValue(L"color", L"0000FF");
-  EXPECT_TRUE(form.Save(L"work"));
+  EXPECT_TRUE(Told(prompter, form.Save(L"work")));
 }
 
 TEST_F(DayTypeFormTest, ADayWithoutSlotsIsSavedIfTheUserAcceptsIt) {
-  DayTypeForm feast(Day(L"feast"), *days, *hours, prompter);
+  DayTypeForm feast(Day(L"feast"), DayTypes(*days), HourTypes(*hours), prompter);
   feast.Fill();
   prompter.ExpectAsk(Text::DayNotCoveredQuestion, true);
-  EXPECT_TRUE(feast.Save(L"feast"));
+  EXPECT_TRUE(Told(prompter, feast.Save(L"feast")));
   EXPECT_FALSE(Day(L"feast").Node(L"slot"));
   EXPECT_FALSE(feast.IsModified());
 }
@@ -210,7 +229,7 @@ TEST_F(DayTypeFormTest, AnyFaultOfTheSlotsLeavesAChangedNameAChange) {
   Day(L"work").Node(L"slot")->SetValue(L"to", L"12:01");
   form.Fill();
   prompter.ExpectShow(Text::SlotsOverlap);
-  EXPECT_FALSE(form.Save(L"office"));
+  EXPECT_FALSE(Told(prompter, form.Save(L"office")));
   EXPECT_TRUE(form.IsModified());
 }
 
@@ -223,9 +242,9 @@ TEST_F(DayTypeFormTest, DroppingDeadSlotsIsNoChange) {
 }
 
 TEST_F(DayTypeFormTest, AColourChangedBackIsStillAChange) {
-  form.ChooseColour(0);
-  form.ChooseColour(0x0000FF);
-  EXPECT_TRUE(form.Save(L"work"));
+  form.Identity().ChooseColour(0);
+  form.Identity().ChooseColour(0x0000FF);
+  EXPECT_TRUE(Told(prompter, form.Save(L"work")));
   EXPECT_TRUE(form.IsModified());
 }
 

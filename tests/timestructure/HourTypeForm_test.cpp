@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Saving.h"
 #include "tests/support/ScriptedPrompter.h"
 #include "tools/XmlDocument.h"
 
@@ -35,26 +36,26 @@ class HourTypeFormTest : public testing::Test {
     return *hour;
   }
 
-  HourTypeForm Form(XmlNode& hour) { return HourTypeForm(Hours(), hour, prompter); }
+  HourTypeForm Form(XmlNode& hour) { return HourTypeForm(hour, HourTypes(Hours()), prompter); }
 
   XmlDocument document;
   ScriptedPrompter prompter;
 };
 
 TEST_F(HourTypeFormTest, ReadsNameValueAndColour) {
-  const auto form = Form(Hour(L"Peak"));
-  EXPECT_EQ(form.Name(), L"Peak");
+  auto form = Form(Hour(L"Peak"));
+  EXPECT_EQ(form.Identity().OpenedName(), L"Peak");
   EXPECT_EQ(form.Value(), L"7");
-  EXPECT_EQ(form.CurrentColour(), red);
-  EXPECT_EQ(Form(Hour(L"valley")).CurrentColour(), green);
+  EXPECT_EQ(form.Identity().CurrentColour(), red);
+  EXPECT_EQ(Form(Hour(L"valley")).Identity().CurrentColour(), green);
   EXPECT_EQ(Form(Hour(L"valley")).Value(), L"");
 }
 
 TEST_F(HourTypeFormTest, SavesNameValueAndColourInThisOrder) {
   XmlNode hour(L"hour");
   auto form = Form(hour);
-  EXPECT_TRUE(form.ChooseColour(0x123ABC));
-  EXPECT_TRUE(form.Save(L"New", L"any text, 1.5e9"));
+  EXPECT_TRUE(form.Identity().ChooseColour(0x123ABC));
+  EXPECT_TRUE(Told(prompter, form.Save(L"New", L"any text, 1.5e9")));
   EXPECT_TRUE(form.IsModified());
   std::wstring tags;
   for (auto field = hour.ChildsBegin(); field != hour.ChildsEnd(); ++field) {
@@ -68,7 +69,7 @@ TEST_F(HourTypeFormTest, SavesNameValueAndColourInThisOrder) {
 
 TEST_F(HourTypeFormTest, SavingWithoutAChangeWritesTheSameAndTheValue) {
   auto form = Form(Hour(L"valley"));
-  EXPECT_TRUE(form.Save(L"valley", L""));
+  EXPECT_TRUE(Told(prompter, form.Save(L"valley", L"")));
   EXPECT_FALSE(form.IsModified());
   ASSERT_TRUE(Hour(L"valley").Node(L"value"));
   EXPECT_EQ(Hour(L"valley").Value(L"color"), L"00FF00") << "as numbers are written";
@@ -84,7 +85,7 @@ TEST_F(HourTypeFormTest, EachRefusalHasItsTextAndWritesNothing) {
   for (const auto& [name, text] : refusals) {
     auto form = Form(Hour(L"Peak"));
     prompter.ExpectShow(text);
-    EXPECT_FALSE(form.Save(name, L"v")) << name;
+    EXPECT_FALSE(Told(prompter, form.Save(name, L"v"))) << name;
     EXPECT_FALSE(form.IsModified());
   }
   EXPECT_EQ(Hours(), before);
@@ -98,86 +99,86 @@ TEST_F(HourTypeFormTest, QuoteAndBackslashAreRefusedByTheirText) {
 #else
     prompter.ExpectShow(Text::HourTypeNameForbidden);
 #endif
-    EXPECT_FALSE(form.Save(name, L""));
+    EXPECT_FALSE(Told(prompter, form.Save(name, L"")));
   }
 }
 
 TEST_F(HourTypeFormTest, TheFirstFaultIsTheOneThatIsTold) {
   NewHour().SetValue(L"name", L"a,b");
   auto form = Form(Hour(L"Peak"));
-  form.ChooseColour(0xFFFFFF);  // of the one just made
+  form.Identity().ChooseColour(0xFFFFFF);  // of the one just made
   prompter.ExpectShow(Text::NameNotAllowed);
-  EXPECT_FALSE(form.Save(L"a.b,", L""));
+  EXPECT_FALSE(Told(prompter, form.Save(L"a.b,", L"")));
   prompter.ExpectShow(Text::HourTypeNameForbidden);
-  EXPECT_FALSE(form.Save(L"a,b", L""));
+  EXPECT_FALSE(Told(prompter, form.Save(L"a,b", L"")));
   prompter.ExpectShow(Text::TypeNameTaken);
-  EXPECT_FALSE(form.Save(L"valley", L""));
+  EXPECT_FALSE(Told(prompter, form.Save(L"valley", L"")));
 }
 
 TEST_F(HourTypeFormTest, NamesThatDifferInCaseAreTwoNames) {
-  EXPECT_TRUE(Form(Hour(L"Peak")).Save(L"VALLEY", L""));
+  EXPECT_TRUE(Told(prompter, Form(Hour(L"Peak")).Save(L"VALLEY", L"")));
 }
 
 TEST_F(HourTypeFormTest, ANewHourTypeThatStaysWhiteIsNotAskedAbout) {
   NewHour().SetValue(L"name", L"white");
   auto form = Form(NewHour());
-  EXPECT_TRUE(form.Save(L"n", L"")) << "white from the start is never asked about";
+  EXPECT_TRUE(Told(prompter, form.Save(L"n", L""))) << "white from the start is never asked about";
 }
 
 TEST_F(HourTypeFormTest, ACopyMeetsItsOriginal) {
   XmlDocument copy(Hour(L"Peak"));
   auto form = Form(*copy.Root());
-  EXPECT_TRUE(form.Save(L"Peak", L"7")) << "what it was opened with passes";
+  EXPECT_TRUE(Told(prompter, form.Save(L"Peak", L"7"))) << "what it was opened with passes";
   EXPECT_FALSE(form.IsModified());
 }
 
 TEST_F(HourTypeFormTest, AnotherOnesColourIsAskedAbout) {
   XmlNode& hour = NewHour();
   auto form = Form(hour);
-  EXPECT_TRUE(form.ChooseColour(red));
+  EXPECT_TRUE(form.Identity().ChooseColour(red));
   prompter.ExpectAsk(Text::TypeColourTaken, false);
-  EXPECT_FALSE(form.Save(L"n", L""));
-  EXPECT_EQ(form.CurrentColour(), red);
+  EXPECT_FALSE(Told(prompter, form.Save(L"n", L"")));
+  EXPECT_EQ(form.Identity().CurrentColour(), red);
   EXPECT_EQ(hour.Value(L"color"), L"FFFFFF");
   prompter.ExpectAsk(Text::TypeColourTaken, true);
-  EXPECT_TRUE(form.Save(L"n", L""));
+  EXPECT_TRUE(Told(prompter, form.Save(L"n", L"")));
   EXPECT_EQ(hour.Value(L"color"), L"0000FF");
 }
 
 TEST_F(HourTypeFormTest, AColourInSmallLettersIsNotFound) {
   auto form = Form(Hour(L"Peak"));
-  form.ChooseColour(green);
-  EXPECT_TRUE(form.Save(L"Peak", L"7"));
+  form.Identity().ChooseColour(green);
+  EXPECT_TRUE(Told(prompter, form.Save(L"Peak", L"7")));
 }
 
 TEST_F(HourTypeFormTest, TheColourThatWasOpenedIsNotAskedAbout) {
   Hour(L"valley").SetValue(L"color", L"0000FF");
   auto form = Form(Hour(L"Peak"));
-  form.ChooseColour(green);
-  form.ChooseColour(red);
-  EXPECT_TRUE(form.Save(L"Peak", L"7"));
+  form.Identity().ChooseColour(green);
+  form.Identity().ChooseColour(red);
+  EXPECT_TRUE(Told(prompter, form.Save(L"Peak", L"7")));
   EXPECT_TRUE(form.IsModified()) << "a colour was chosen, though it came back";
 }
 
 TEST_F(HourTypeFormTest, TwoOfOneColourFromAFileAreNotAskedAbout) {
   Hour(L"valley").SetValue(L"color", L"0000FF");
   auto form = Form(Hour(L"valley"));
-  EXPECT_TRUE(form.Save(L"valley", L""));
+  EXPECT_TRUE(Told(prompter, form.Save(L"valley", L"")));
   EXPECT_FALSE(form.IsModified());
 }
 
 TEST_F(HourTypeFormTest, ChoosingTheSameColourIsNoChange) {
   auto form = Form(Hour(L"Peak"));
-  EXPECT_FALSE(form.ChooseColour(red));
+  EXPECT_FALSE(form.Identity().ChooseColour(red));
   EXPECT_FALSE(form.IsModified());
 }
 
 TEST_F(HourTypeFormTest, AChangedNameOrValueIsAChange) {
   auto renamed = Form(Hour(L"Peak"));
-  EXPECT_TRUE(renamed.Save(L"Other", L"7"));
+  EXPECT_TRUE(Told(prompter, renamed.Save(L"Other", L"7")));
   EXPECT_TRUE(renamed.IsModified());
   auto valued = Form(Hour(L"Other"));
-  EXPECT_TRUE(valued.Save(L"Other", L"8"));
+  EXPECT_TRUE(Told(prompter, valued.Save(L"Other", L"8")));
   EXPECT_TRUE(valued.IsModified());
 }
 
@@ -185,7 +186,7 @@ TEST_F(HourTypeFormTest, AColourOfAnyTextIsRead) {
   for (const wchar_t* colour : {L"", L"xyz", L"FFFFFFFFFF", L"12 34"}) {
     Hour(L"Peak").SetValue(L"color", colour);
     auto form = Form(Hour(L"Peak"));
-    EXPECT_TRUE(form.Save(L"Peak", L"7"));
+    EXPECT_TRUE(Told(prompter, form.Save(L"Peak", L"7")));
     EXPECT_FALSE(form.IsModified());
   }
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "tests/support/Saving.h"
 #include "tests/support/ScriptedPrompter.h"
 #include "timestructure/TimeSlotForm.h"
 #include "tools/XmlDocument.h"
@@ -30,15 +31,16 @@ class TimeSlotFormTest : public testing::Test {
   /// A form of a slot with these values.
   TimeSlotForm& Open(const std::string& id, const std::string& from, const std::string& to) {
     slot = Parsed("<slot><id>" + id + "</id><from>" + from + "</from><to>" + to + "</to></slot>");
-    form = std::make_unique<TimeSlotForm>(*hours, *slot, prompter);
+    form = std::make_unique<TimeSlotForm>(*slot, HourTypes(*hours));
     return *form;
   }
 
   /// The positions of the four spins, as in "07:30-24:00".
   std::wstring Shown() const {
-    return Format(L"%02d:%02d-%02d:%02d",
-                  {form->Spin(fromHours).Position(), form->Spin(fromMinutes).Position(),
-                   form->Spin(toHours).Position(), form->Spin(toMinutes).Position()});
+    return Format(
+        L"%02d:%02d-%02d:%02d",
+        {form->Times().Spin(fromHours).Position(), form->Times().Spin(fromMinutes).Position(),
+         form->Times().Spin(toHours).Position(), form->Times().Spin(toMinutes).Position()});
   }
 
   std::wstring Stored() const {
@@ -48,7 +50,7 @@ class TimeSlotFormTest : public testing::Test {
   }
 
   void ExpectLocked(TimeField minutes, bool locked) const {
-    EXPECT_EQ(form->Spin(minutes).Upper(), locked ? 0 : 59);
+    EXPECT_EQ(form->Times().Spin(minutes).Upper(), locked ? 0 : 59);
     EXPECT_EQ(form->IsSpinEnabled(minutes), !locked);
   }
 

@@ -4,6 +4,7 @@
 
 #include <random>
 #include <stdexcept>
+#include <tuple>
 
 #include "tools/XmlDocument.h"
 
@@ -27,14 +28,14 @@ class TypeListTest : public testing::Test {
 
   std::vector<std::wstring> Names() const {
     std::vector<std::wstring> names;
-    for (const TypeRow& row : list.Rows()) {
+    for (const ColouredType& row : list.Rows()) {
       names.emplace_back(row.name.ToView());
     }
     return names;
   }
 
   /// An editor that gives the type a name.
-  static TypeList::RunEditor Naming(const wchar_t* name, EditorEnd end) {
+  static RunEditor Naming(const wchar_t* name, EditorEnd end) {
     return [=](XmlNode& type) {
       type.SetValue(L"name", name);
       return end;
@@ -61,7 +62,7 @@ TEST_F(TypeListTest, EqualNamesStandInTheOrderOfTheDocument) {
       "<hour><id>3</id><name>PEAK</name></hour></hourTypes>");
   const TypeList types(*equal, L"hour");
   std::wstring ids;
-  for (const TypeRow& row : types.Rows()) {
+  for (const ColouredType& row : types.Rows()) {
     ids += row.node->Value(L"id").ToView();
   }
   EXPECT_EQ(ids, L"123");
@@ -109,18 +110,18 @@ TEST_F(TypeListTest, ACancelledAddLeavesEverythingAsItWas) {
 }
 
 TEST_F(TypeListTest, AnEditorThatThrowsLeavesTheDocumentAsItWas) {
-  const TypeList::RunEditor throwing = [](XmlNode& type) -> EditorEnd {
+  const RunEditor throwing = [](XmlNode& type) -> EditorEnd {
     type.SetValue(L"name", L"half");
     throw std::runtime_error("editor");
   };
-  EXPECT_THROW(list.OnAdd(throwing), std::runtime_error);
-  EXPECT_THROW(list.OnModify(0, throwing), std::runtime_error);
+  EXPECT_THROW(std::ignore = list.OnAdd(throwing), std::runtime_error);
+  EXPECT_THROW(std::ignore = list.OnModify(0, throwing), std::runtime_error);
   EXPECT_EQ(*hours, before);
   EXPECT_FALSE(list.IsModified());
 }
 
 TEST_F(TypeListTest, ModifyWorksOnACopy) {
-  list.OnModify(1, [&](XmlNode& type) {
+  std::ignore = list.OnModify(1, [&](XmlNode& type) {
     EXPECT_EQ(type, *list.Rows()[1].node);
     type.SetValue(L"name", L"n");
     EXPECT_EQ(*hours, before);
@@ -165,9 +166,9 @@ TEST_F(TypeListTest, ARemovalOfNoRowDoesNothing) {
 }
 
 TEST_F(TypeListTest, TheFlagStaysSetWhateverComesAfter) {
-  list.OnRemove(0);
-  list.OnAdd(Naming(L"n", cancelled));
-  list.OnModify(0, Naming(L"n", confirmed));
+  std::ignore = list.OnRemove(0);
+  std::ignore = list.OnAdd(Naming(L"n", cancelled));
+  std::ignore = list.OnModify(0, Naming(L"n", confirmed));
   EXPECT_TRUE(list.IsModified());
 }
 
@@ -175,7 +176,7 @@ TEST_F(TypeListTest, ADayTypeThatIsCancelledTakesItsSlotsAlong) {
   const auto days = Parsed("<dayTypes><day><name>d</name><slot/></day></dayTypes>");
   const XmlNode untouched(*days);
   TypeList dayTypes(*days, L"day");
-  dayTypes.OnAdd([](XmlNode& day) {
+  std::ignore = dayTypes.OnAdd([](XmlNode& day) {
     day.NewChild(L"slot", nullptr);
     return cancelled;
   });
@@ -190,7 +191,7 @@ TEST_F(TypeListTest, RandomVerbsFollowASimpleModel) {
   };
   std::vector<std::wstring> names = {L"a", L"b", L"c"};
   hours->SetValue(L"other", L"stays");
-  list.OnModify(2, Naming(L"c", confirmed));
+  std::ignore = list.OnModify(2, Naming(L"c", confirmed));
   for (int step = 0; step < 2000; ++step) {
     const std::wstring name = L"n" + std::to_wstring(10000 + step);
     const int row = below(static_cast<int>(names.size()) + 1) - 1;
@@ -199,19 +200,20 @@ TEST_F(TypeListTest, RandomVerbsFollowASimpleModel) {
     const bool isRow = row >= 0;
     switch (below(3)) {
       case 0:
-        list.OnAdd(Naming(name.c_str(), end));
+        std::ignore = list.OnAdd(Naming(name.c_str(), end));
         if (confirm) {
           names.push_back(name);
         }
         break;
       case 1:
-        list.OnModify(isRow ? std::optional(row) : std::nullopt, Naming(name.c_str(), end));
+        std::ignore =
+            list.OnModify(isRow ? std::optional(row) : std::nullopt, Naming(name.c_str(), end));
         if (confirm && isRow) {
           names[static_cast<std::size_t>(row)] = name;
         }
         break;
       default:
-        list.OnRemove(isRow ? std::optional(row) : std::nullopt);
+        std::ignore = list.OnRemove(isRow ? std::optional(row) : std::nullopt);
         if (isRow) {
           names.erase(names.begin() + row);
         }

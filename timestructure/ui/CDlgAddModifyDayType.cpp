@@ -52,7 +52,8 @@ std::optional<int> CDlgAddModifyDayType::OnCreate() {
     return refused;
   }
   m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
-  m_form = std::make_unique<qv::DayTypeForm>(*m_day, *m_dayTypes, *m_hourTypes, *m_boxes);
+  m_form = std::make_unique<qv::DayTypeForm>(*m_day, qv::DayTypes(*m_dayTypes),
+                                             qv::HourTypes(*m_hourTypes), *m_boxes);
   return std::nullopt;
 }
 
@@ -62,18 +63,21 @@ void CDlgAddModifyDayType::OnInitDialog() {
   const auto& loadString = Services().loadString;
   InitializeList({qv::HostText(loadString, Text::Name), qv::HostText(loadString, Text::From),
                   qv::HostText(loadString, Text::To)});
-  qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Name()));
+  qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Identity().OpenedName()));
   m_form->Fill();
   FillList(std::nullopt);
   PositioningControls();
   ShowColour();
   EnableDisableButtons();
-  m_form->ReportSlots();
+  if (const auto fault = m_form->FaultOfSlots()) {
+    Tell(*m_boxes, *fault);
+  }
   KeepAsLeastSize();
 }
 
 void CDlgAddModifyDayType::InitializeTexts() {
-  SetText(0, m_form->Name().Empty() ? Text::AddDayTypeTitle : Text::ModifyDayTypeTitle);
+  SetText(0, m_form->Identity().OpenedName().Empty() ? Text::AddDayTypeTitle
+                                                     : Text::ModifyDayTypeTitle);
   SetLabel(nameLabel, nameEdit, Text::Name);
   SetLabel(colourLabel, swatch, Text::Colour);
   SetLabel(slotsBox, listView, Text::TimeSlots);
@@ -105,23 +109,24 @@ void CDlgAddModifyDayType::UpdateDial() {
 }
 
 void CDlgAddModifyDayType::ShowColour() {
-  Find<qv::ColourSwatch>(swatch)->SetColour(m_form->CurrentColour());
-  m_dial->SetBkColor(m_form->CurrentColour());
-  m_dial->SetColor(m_form->CurrentColour());
+  Find<qv::ColourSwatch>(swatch)->SetColour(m_form->Identity().CurrentColour());
+  m_dial->SetBkColor(m_form->Identity().CurrentColour());
+  m_dial->SetColor(m_form->Identity().CurrentColour());
   UpdateDial();
 }
 
 void CDlgAddModifyDayType::OnColor() {
-  const auto chosen = qv::AskColour(this, m_form->CurrentColour(),
+  const auto chosen = qv::AskColour(this, m_form->Identity().CurrentColour(),
                                     qv::HostText(Services().loadString, Text::Colour));
-  if (chosen && m_form->ChooseColour(*chosen)) {
+  if (chosen && m_form->Identity().ChooseColour(*chosen)) {
     ShowColour();
   }
 }
 
-qv::DayTypeForm::RunEditor CDlgAddModifyDayType::Editor() {
-  return [this](qv::XmlNode& hourTypes, qv::XmlNode& slot) {
-    CDlgAddModifyTimeSlot editor(this, &hourTypes, &slot, m_form->CurrentColour());
+qv::DayTypeForm::RunSlotEditor CDlgAddModifyDayType::Editor() {
+  return [this](qv::XmlNode& slot, qv::HourTypes hourTypes) {
+    CDlgAddModifyTimeSlot editor(this, &hourTypes.Node(), &slot,
+                                 m_form->Identity().CurrentColour());
     return qv::RunDialog<qv::EditorEnd>(editor);
   };
 }
@@ -183,7 +188,11 @@ void CDlgAddModifyDayType::PositioningControls() {
 }
 
 void CDlgAddModifyDayType::OnOK() {
-  if (m_form->Save(qv::ToWide(Find<QLineEdit>(nameEdit)->text()))) {
+  const qv::SaveEnd end = m_form->Save(qv::ToWide(Find<QLineEdit>(nameEdit)->text()));
+  if (end.refusal) {
+    Tell(*m_boxes, *end.refusal);
+  }
+  if (end.IsDone()) {
     CDialog::OnOK();
   }
 }

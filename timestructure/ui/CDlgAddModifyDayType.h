@@ -43,7 +43,7 @@ class CDlgAddModifyDayType : public qv::ListDialog {
   void ShowColour();
   void OnColor();
   void Follow(const qv::ListEnd& end);
-  qv::DayTypeForm::RunEditor Editor();
+  qv::DayTypeForm::RunSlotEditor Editor();
 
   qv::XmlNode* m_day;
   qv::XmlNode* m_dayTypes;

@@ -41,7 +41,7 @@ std::optional<int> CDlgAddModifyHourType::OnCreate() {
     return refused;
   }
   m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
-  m_form = std::make_unique<qv::HourTypeForm>(*m_hourTypes, *m_hour, *m_boxes);
+  m_form = std::make_unique<qv::HourTypeForm>(*m_hour, qv::HourTypes(*m_hourTypes), *m_boxes);
   return std::nullopt;
 }
 
@@ -60,12 +60,13 @@ void CDlgAddModifyHourType::InitializeTexts() {
   SetLabel(colourLabel, swatch, Text::Colour);
   SetButton(IDOK, Text::Ok, L"OK-16.png");
   SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
-  SetText(0, m_form->Name().Empty() ? Text::AddHourTypeTitle : Text::ModifyHourTypeTitle);
+  SetText(0, m_form->Identity().OpenedName().Empty() ? Text::AddHourTypeTitle
+                                                     : Text::ModifyHourTypeTitle);
 }
 
 void CDlgAddModifyHourType::InitializeData() {
-  Find<qv::ColourSwatch>(swatch)->SetColour(m_form->CurrentColour());
-  qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Name()));
+  Find<qv::ColourSwatch>(swatch)->SetColour(m_form->Identity().CurrentColour());
+  qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Identity().OpenedName()));
   // Also into a hidden field, so that the value of another installation comes out as it went in.
   qv::SetLoadedText(Find<QLineEdit>(valueEdit), qv::ToQString(m_form->Value()));
 }
@@ -105,16 +106,20 @@ void CDlgAddModifyHourType::PositioningControls() {
 }
 
 void CDlgAddModifyHourType::OnColor() {
-  const auto chosen = qv::AskColour(this, m_form->CurrentColour(),
+  const auto chosen = qv::AskColour(this, m_form->Identity().CurrentColour(),
                                     qv::HostText(Services().loadString, Text::Colour));
-  if (chosen && m_form->ChooseColour(*chosen)) {
+  if (chosen && m_form->Identity().ChooseColour(*chosen)) {
     Find<qv::ColourSwatch>(swatch)->SetColour(*chosen);
   }
 }
 
 void CDlgAddModifyHourType::OnOK() {
-  if (m_form->Save(qv::ToWide(Find<QLineEdit>(nameEdit)->text()),
-                   qv::ToWide(Find<QLineEdit>(valueEdit)->text()))) {
+  const qv::SaveEnd end = m_form->Save(qv::ToWide(Find<QLineEdit>(nameEdit)->text()),
+                                       qv::ToWide(Find<QLineEdit>(valueEdit)->text()));
+  if (end.refusal) {
+    Tell(*m_boxes, *end.refusal);
+  }
+  if (end.IsDone()) {
     CDialog::OnOK();
   }
 }

@@ -77,13 +77,13 @@ void CDlgAddModifyTimeSlot::Connect() {
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), edit));
     edit->installEventFilter(this);
     connect(edit, &QLineEdit::textEdited, this, [this, controls](const QString& text) {
-      m_form->Type(controls.field, text.toStdWString());
+      m_form->Times().Type(controls.field, text.toStdWString());
       ShowTimes();
     });
     auto* spin = Find<qv::SpinButtons>(controls.spin);
     spin->SetBuddy(edit);
     connect(spin, &qv::SpinButtons::Stepped, this, [this, controls](int delta) {
-      m_form->Step(controls.field, delta);
+      m_form->Times().Step(controls.field, delta);
       ShowTimes();
     });
   }
@@ -100,7 +100,7 @@ std::optional<int> CDlgAddModifyTimeSlot::OnCreate() {
     return refused;
   }
   m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
-  m_form = std::make_unique<qv::TimeSlotForm>(*m_hourTypes, *m_slot, *m_boxes);
+  m_form = std::make_unique<qv::TimeSlotForm>(*m_slot, qv::HourTypes(*m_hourTypes));
   return std::nullopt;
 }
 
@@ -142,7 +142,7 @@ void CDlgAddModifyTimeSlot::ShowHourTypes() {
   const QSize boxSize(small.width(), small.height() - 2);
   combo->clear();
   combo->setIconSize(boxSize);
-  for (const qv::TypeRow& type : m_form->HourTypes()) {
+  for (const qv::ColouredType& type : m_form->Choices()) {
     combo->addItem(qv::ColourIcon(type.colour, boxSize), qv::ToQString(type.name));
   }
   combo->setCurrentIndex(m_form->Selected().value_or(-1));
@@ -152,7 +152,7 @@ void CDlgAddModifyTimeSlot::ShowTimes() {
   Control(typeCombo)->setEnabled(m_form->HasInputs());
   for (const FieldControls& controls : fields) {
     auto* edit = Find<QLineEdit>(controls.edit);
-    const QString text = QString::fromStdWString(m_form->Spin(controls.field).Text());
+    const QString text = QString::fromStdWString(m_form->Times().Spin(controls.field).Text());
     if (edit->text() != text) {
       edit->setText(text);
     }
@@ -164,8 +164,8 @@ void CDlgAddModifyTimeSlot::ShowTimes() {
 
 void CDlgAddModifyTimeSlot::ShowGrid() {
   m_grid->SetPicture({.dayColour = m_dayColor,
-                      .selection = m_form->Selection(),
-                      .selectionColour = m_form->SelectionColour().value_or(m_dayColor)});
+                      .selection = m_form->Times().Selection(),
+                      .selectionColour = m_form->SelectedColour().value_or(m_dayColor)});
 }
 
 void CDlgAddModifyTimeSlot::OnAddHourType() {
@@ -186,7 +186,7 @@ bool CDlgAddModifyTimeSlot::eventFilter(QObject* edit, QEvent* event) {
   }
   if (event->type() == QEvent::FocusOut &&
       static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-    m_form->LeaveField(controls->field);
+    m_form->Times().LeaveField(controls->field);
     ShowTimes();
   }
   return CDialog::eventFilter(edit, event);
@@ -197,13 +197,13 @@ std::optional<int> CDlgAddModifyTimeSlot::MinuteAt(const QMouseEvent& event) con
 }
 
 void CDlgAddModifyTimeSlot::mousePressEvent(QMouseEvent* event) {
-  if (m_form && event->button() == Qt::LeftButton && m_form->Press(MinuteAt(*event))) {
+  if (m_form && event->button() == Qt::LeftButton && m_form->Times().Press(MinuteAt(*event))) {
     ShowTimes();
   }
 }
 
 void CDlgAddModifyTimeSlot::mouseMoveEvent(QMouseEvent* event) {
-  if (m_form && m_form->Move(MinuteAt(*event))) {
+  if (m_form && m_form->Times().Move(MinuteAt(*event))) {
     ShowTimes();
   }
 }
@@ -211,7 +211,7 @@ void CDlgAddModifyTimeSlot::mouseMoveEvent(QMouseEvent* event) {
 void CDlgAddModifyTimeSlot::mouseReleaseEvent(QMouseEvent* event) {
   // A release outside isn't this dialog's: the selection goes on.
   if (m_form && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
-    m_form->Release();
+    m_form->Times().Release();
   }
 }
 
@@ -266,7 +266,11 @@ void CDlgAddModifyTimeSlot::PositioningControls() {
 }
 
 void CDlgAddModifyTimeSlot::OnOK() {
-  if (m_form->Save()) {
+  const qv::SaveEnd end = m_form->Save();
+  if (end.refusal) {
+    Tell(*m_boxes, *end.refusal);
+  }
+  if (end.IsDone()) {
     CDialog::OnOK();
   }
 }

@@ -19,7 +19,7 @@ CDlgDayTypes::CDlgDayTypes(CWnd* parent, qv::XmlNode* dayTypes, qv::XmlNode* /*c
                      {BuildTemplate, qv::tag::Day, box, Text::DayTypes, Text::DayTypeListTitle}),
       m_hourTypes(hourTypes) {}
 
-qv::EditorEnd CDlgDayTypes::RunEditor(qv::XmlNode& container, qv::XmlNode& type) {
+qv::EditorEnd CDlgDayTypes::EditType(qv::XmlNode& type, qv::XmlNode& container) {
   CDlgAddModifyDayType editor(this, &type, &container, m_hourTypes);
   return qv::RunDialog<qv::EditorEnd>(editor);
 }

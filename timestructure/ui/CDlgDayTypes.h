@@ -13,7 +13,7 @@ class CDlgDayTypes : public qv::TypeListDialog {
   CDlgDayTypes(CWnd* parent, qv::XmlNode* dayTypes, qv::XmlNode* calendar, qv::XmlNode* hourTypes);
 
  protected:
-  qv::EditorEnd RunEditor(qv::XmlNode& container, qv::XmlNode& type) override;
+  qv::EditorEnd EditType(qv::XmlNode& type, qv::XmlNode& container) override;
 
  private:
   qv::XmlNode* m_hourTypes;

@@ -18,7 +18,7 @@ CDlgHourTypes::CDlgHourTypes(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* 
           parent, hourTypes,
           {BuildTemplate, qv::tag::Hour, box, Text::HourTypes, Text::HourTypeListTitle}) {}
 
-qv::EditorEnd CDlgHourTypes::RunEditor(qv::XmlNode& container, qv::XmlNode& type) {
+qv::EditorEnd CDlgHourTypes::EditType(qv::XmlNode& type, qv::XmlNode& container) {
   CDlgAddModifyHourType editor(this, &container, &type);
   return qv::RunDialog<qv::EditorEnd>(editor);
 }

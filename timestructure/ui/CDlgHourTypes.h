@@ -12,5 +12,5 @@ class CDlgHourTypes : public qv::TypeListDialog {
   CDlgHourTypes(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* dayTypes);
 
  protected:
-  qv::EditorEnd RunEditor(qv::XmlNode& container, qv::XmlNode& type) override;
+  qv::EditorEnd EditType(qv::XmlNode& type, qv::XmlNode& container) override;
 };

@@ -40,7 +40,7 @@ void TypeListDialog::ResizeColumns() { View().setColumnWidth(0, View().viewport(
 
 void TypeListDialog::FillList(std::optional<int> select) {
   std::vector<Row> rows;
-  for (const TypeRow& type : m_types->Rows()) {
+  for (const ColouredType& type : m_types->Rows()) {
     rows.push_back({{ToQString(type.name)}, type.colour});
   }
   ShowRows(rows, select);
@@ -62,8 +62,8 @@ void TypeListDialog::PositioningControls() {
   ResizeColumns();
 }
 
-TypeList::RunEditor TypeListDialog::Editor() {
-  return [this](XmlNode& type) { return RunEditor(*m_container, type); };
+RunEditor TypeListDialog::Editor() {
+  return [this](XmlNode& type) { return EditType(type, *m_container); };
 }
 
 void TypeListDialog::OnAdd() { Follow(m_types->OnAdd(Editor())); }

@@ -32,7 +32,7 @@ class TypeListDialog : public ListDialog {
   TypeListDialog(CWnd* parent, XmlNode* container, const Kind& kind);
 
   /// Runs the editor of a type in `container`, or of a copy of one, over this dialog.
-  virtual EditorEnd RunEditor(XmlNode& container, XmlNode& type) = 0;
+  virtual EditorEnd EditType(XmlNode& type, XmlNode& container) = 0;
 
   void OnInitDialog() override;
   void PositioningControls() override;
@@ -44,7 +44,7 @@ class TypeListDialog : public ListDialog {
 
  private:
   void InitializeTexts();
-  TypeList::RunEditor Editor();
+  qv::RunEditor Editor();
   void Follow(const ListEnd& end);
   void FillList(std::optional<int> select);
 

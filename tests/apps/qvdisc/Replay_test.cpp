@@ -15,6 +15,7 @@
 #include "tests/apps/qvdisc/CommandLine.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/Saving.h"
 #include "tests/support/ScriptedPrompter.h"
 #include "tools/XmlDocument.h"
 
@@ -63,13 +64,14 @@ class Rules {
   void Perform(const Step& step, const qv::Host& host, qv::DiscriminatorList& list,
                const std::vector<int>& rows, const std::function<void()>& refresh) {
     const auto edit = [&](qv::XmlNode* groups, const QVWideString* path) {
-      qv::DiscriminatorForm form({host, qv::Files::Disk(), m_prompter, groups}, path);
-      auto fields = form.InitialFields();
+      const auto form = qv::DiscriminatorForm::Open({host, qv::Files::Disk(), groups}, path);
+      auto fields = form->InitialFields();
       fields.name = QVWideString(std::wstring(step.newName.begin(), step.newName.end()));
       fields.setZeroOutsideSlot = step.zero;
-      form.SelectType(step.slots ? 0 : 1);
-      const bool saved = form.Save(fields);
-      return qv::EditorEnd{saved, form.IsModified()};
+      form->SelectType(step.slots ? qv::DiscriminatorType::Slots
+                                  : qv::DiscriminatorType::Conditions);
+      const bool saved = Told(m_prompter, form->Save(fields));
+      return qv::EditorEnd{saved, form->IsModified()};
     };
     switch (step.verb) {
       case Verb::Add:
