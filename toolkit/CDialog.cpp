@@ -3,15 +3,13 @@
 #include <QApplication>
 #include <QFile>
 #include <QFontMetricsF>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 
-#include "toolkit/CImageButton.h"
 #include "toolkit/Caption.h"
+#include "toolkit/ControlCaption.h"
 #include "toolkit/Controls.h"
-#include "toolkit/QVHyperlink.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
 
@@ -36,28 +34,37 @@ struct DialogUnit {
   }
 };
 
-/// Gives `widget` a caption as it stands, without mnemonics or rich text.
-void SetCaption(QWidget* widget, const QString& caption) {
-  if (auto* imageButton = qobject_cast<CImageButton*>(widget)) {
-    imageButton->SetCaption(caption);
-  } else if (auto* link = qobject_cast<QVHyperlink*>(widget)) {
-    link->SetCaption(caption);
-  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-    button->setText(qv::LiteralText(caption));
-  } else if (auto* box = qobject_cast<QGroupBox*>(widget)) {
-    box->setTitle(qv::LiteralText(caption));
-  } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-    label->setText(caption);
+/// Turns the sizes of a template, in dialog units, into pixels.
+void ScaleTemplate(QDialog& dialog) {
+  const DialogUnit unit(dialog.font());
+  const QSize client = unit.Pixels(dialog.rect()).size();
+  const auto children = dialog.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+  for (QWidget* child : children) {
+    child->setGeometry(unit.Pixels(child->geometry()));
+  }
+  if (dialog.property("sizable").toBool()) {
+    dialog.setWindowFlag(Qt::WindowMaximizeButtonHint);
+    dialog.resize(client);
+  } else {
+    dialog.setFixedSize(client);
+  }
+}
+
+/// Takes from the controls what Qt would do by itself.
+void TameControls(const QDialog& dialog) {
+  const auto labels = dialog.findChildren<QLabel*>();
+  for (QLabel* label : labels) {
+    label->setTextFormat(Qt::PlainText);
+  }
+  const auto buttons = dialog.findChildren<QPushButton*>();
+  for (QPushButton* button : buttons) {
+    button->setAutoDefault(false);
   }
 }
 
 }  // namespace
 
-CDialog::CDialog(Template build, CWnd* parent) : QDialog(parent) {
-  build(this);
-  ScaleTemplate();
-  PrepareControls();
-}
+CDialog::CDialog(CWnd* parent) : QDialog(parent) {}
 
 CDialog::~CDialog() = default;
 
@@ -96,28 +103,25 @@ void CDialog::EndDialog(int result) {
   done(result);
 }
 
-void CDialog::SetText(int id, Text text) {
-  const QString caption = qv::HostText(Services().loadString, text);
-  if (id == 0) {
-    setWindowTitle(caption);
-  } else {
-    SetCaption(Control(id), caption);
-  }
+QString CDialog::Worded(Text text) const { return qv::HostText(Services().loadString, text); }
+
+void CDialog::SetTitle(Text text) { setWindowTitle(Worded(text)); }
+
+void CDialog::SetText(QWidget* control, Text text) { qv::ShowCaption(control, Worded(text)); }
+
+void CDialog::SetLabel(QWidget* label, QWidget* control, Text text) {
+  SetText(label, text);
+  control->setAccessibleName(Worded(text));
 }
 
-void CDialog::SetLabel(int labelId, int controlId, Text text) {
-  SetText(labelId, text);
-  Control(controlId)->setAccessibleName(qv::HostText(Services().loadString, text));
+void CDialog::SetButton(QWidget* button, Text text, const wchar_t* fileName) {
+  SetText(button, text);
+  qv::ShowPicture(button, Services().setup.getImageFilePath() + fileName);
 }
 
-void CDialog::SetButton(int id, Text text, const wchar_t* fileName) {
-  SetText(id, text);
-  const QVWideString path = Services().setup.getImageFilePath() + fileName;
-  if (auto* button = qobject_cast<CImageButton*>(Control(id))) {
-    button->SetImage(path, static_cast<unsigned long>(-1), false);
-  } else if (auto* link = qobject_cast<QVHyperlink*>(Control(id))) {
-    link->SetImage(path);
-  }
+void CDialog::SetOkCancel(Text ok, Text cancel) {
+  SetButton(Control(IDOK), ok, L"OK-16.png");
+  SetButton(Control(IDCANCEL), cancel, L"CANCEL-16.png");
 }
 
 void CDialog::KeepAsLeastSize() { setMinimumSize(size()); }
@@ -130,31 +134,10 @@ void CDialog::resizeEvent(QResizeEvent* event) {
   }
 }
 
-void CDialog::ScaleTemplate() {
-  const DialogUnit unit(font());
-  const QSize client = unit.Pixels(rect()).size();
-  const auto children = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
-  for (QWidget* child : children) {
-    child->setGeometry(unit.Pixels(child->geometry()));
-  }
-  if (property("sizable").toBool()) {
-    setWindowFlag(Qt::WindowMaximizeButtonHint);
-    resize(client);
-  } else {
-    setFixedSize(client);
-  }
-}
-
-void CDialog::PrepareControls() {
+void CDialog::AdoptTemplate() {
+  ScaleTemplate(*this);
+  TameControls(*this);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-  const auto labels = findChildren<QLabel*>();
-  for (QLabel* label : labels) {
-    label->setTextFormat(Qt::PlainText);
-  }
-  const auto buttons = findChildren<QPushButton*>();
-  for (QPushButton* button : buttons) {
-    button->setAutoDefault(false);
-  }
   if (auto* ok = qobject_cast<QPushButton*>(Control(IDOK))) {
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, [this] { OnOK(); });

@@ -23,10 +23,15 @@ class CDialog : public QDialog {
   QWidget* Control(int id) const;
 
  protected:
-  /// Sets up the controls of a template on a dialog: what Qt's `uic` makes of a file in resources/.
-  using Template = void (*)(QDialog*);
+  explicit CDialog(CWnd* parent);
 
-  CDialog(Template build, CWnd* parent);
+  /// Sets the controls of a template up: `Controls` is what Qt's `uic` makes of a file in
+  /// resources/. To be called once, by the constructor.
+  template <class Controls>
+  void Build(Controls& controls) {
+    controls.setupUi(this);
+    AdoptTemplate();
+  }
 
   /// Runs before anything else; a result refuses the dialog, and `DoModal` gives it.
   virtual std::optional<int> OnCreate();
@@ -47,18 +52,18 @@ class CDialog : public QDialog {
   /// The host's services. Valid from `OnCreate` on.
   const qv::Host& Services() const { return *m_host; }
 
-  /// The control with this number as what its template makes it.
-  template <class Widget>
-  Widget* Find(int id) const {
-    return qobject_cast<Widget*>(Control(id));
-  }
-
-  /// Gives a control, or with 0 the window itself, the host's text.
-  void SetText(int id, Text text);
-  /// The same for a label, whose text becomes the name of `controlId` for assistive technology.
-  void SetLabel(int labelId, int controlId, Text text);
+  /// The host's wording of a text.
+  QString Worded(Text text) const;
+  /// Gives the window the host's text for its title.
+  void SetTitle(Text text);
+  /// Gives a control the host's text.
+  void SetText(QWidget* control, Text text);
+  /// The same for a label, whose text becomes the name of `control` for assistive technology.
+  void SetLabel(QWidget* label, QWidget* control, Text text);
   /// The same for a button, which also gets the picture `fileName` of the host's image directory.
-  void SetButton(int id, Text text, const wchar_t* fileName);
+  void SetButton(QWidget* button, Text text, const wchar_t* fileName);
+  /// Gives the controls 1 and 2 their texts and pictures.
+  void SetOkCancel(Text ok = Text::Ok, Text cancel = Text::Cancel);
   /// Makes the present size the least one.
   void KeepAsLeastSize();
 
@@ -67,8 +72,7 @@ class CDialog : public QDialog {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void ScaleTemplate();
-  void PrepareControls();
+  void AdoptTemplate();
   void SetProgramIcon();
 
   std::optional<qv::Host> m_host;

@@ -2,6 +2,9 @@
 
 #include <cmath>
 
+#include "toolkit/PaintBox.h"
+#include "toolkit/PainterCanvas.h"
+
 namespace qv {
 
 QImage OffScreen(QSize size, const QPainter& painter) {
@@ -12,6 +15,20 @@ QImage OffScreen(QSize size, const QPainter& painter) {
   QImage surface(dots, QImage::Format_RGB32);
   surface.setDevicePixelRatio(density);
   return surface;
+}
+
+void PaintOffScreen(QWidget& widget, const std::function<void(Canvas&, Colour)>& paint) {
+  QPainter screen(&widget);
+  QImage surface = OffScreen(widget.size(), screen);
+  if (surface.isNull()) {
+    return;
+  }
+  {
+    QPainter painter(&surface);
+    PainterCanvas canvas(painter);
+    paint(canvas, FromQColor(widget.palette().color(widget.backgroundRole())));
+  }
+  screen.drawImage(0, 0, surface);
 }
 
 }  // namespace qv

@@ -1,20 +1,24 @@
 #include "toolkit/QVControlBoxButtonsLayout.h"
 
-QVControlBoxButtonsLayout::QVControlBoxButtonsLayout(QWidget* window, int listId, int boxId)
+QVControlBoxButtonsLayout::QVControlBoxButtonsLayout(QWidget* window, qv::LayoutControl list,
+                                                     qv::LayoutControl box)
     : QVVerticalLayout(window) {
-  SetBoxControl(boxId, LayoutSizeStandard, true);
-  AddControl(listId, 100);
+  SetBoxControl(box, LayoutSizeStandard, true);
+  AddControl(list, 100);
 }
 
-void QVControlBoxButtonsLayout::AddButtons(int first, int second, int third) {
+void QVControlBoxButtonsLayout::AddButtons(qv::LayoutControl first, qv::LayoutControl second,
+                                           qv::LayoutControl third) {
   AddRows(first, second, third);
 }
 
-void QVControlBoxButtonsLayout::AddButtons21(int first, int second, int third) {
+void QVControlBoxButtonsLayout::AddButtons21(qv::LayoutControl first, qv::LayoutControl second,
+                                             qv::LayoutControl third) {
   AddRows(first, third, second);
 }
 
-void QVControlBoxButtonsLayout::AddRows(int left, int right, int below) {
+void QVControlBoxButtonsLayout::AddRows(qv::LayoutControl left, qv::LayoutControl right,
+                                        qv::LayoutControl below) {
   auto row = std::make_unique<QVHoritzontalLayout>(nullptr);
   row->AddControl(left, 50);
   row->AddGap(LayoutSizeStandard);

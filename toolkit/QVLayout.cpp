@@ -1,47 +1,20 @@
 #include "toolkit/QVLayout.h"
 
-#include <QGroupBox>
 #include <algorithm>
 
 #include "toolkit/Controls.h"
 #include "toolkit/GroupBoxMargins.h"
+#include "toolkit/Placement.h"
 
 namespace {
 
 constexpr LayoutSize wholeShare = 100;
-/// What stands between a label and its control wherever a dialog stacks the two.
-constexpr int labelDistance = 2;
 
 QWidget* Resolve(const qv::LayoutControl& control, const QWidget* window) {
   if (const auto* widget = std::get_if<QWidget*>(&control)) {
     return *widget;
   }
   return window ? qv::FindControl(window, std::get<int>(control)) : nullptr;
-}
-
-/// Moves `widget` to `rect`, which is told in the coordinates of `window`.
-void PlaceWidget(QWidget* widget, const QRect& rect, const QWidget* window) {
-  const QWidget* parent = widget->parentWidget();
-  const bool deeper = window && parent && parent != window && window->isAncestorOf(parent);
-  widget->setGeometry(deeper ? rect.translated(parent->mapFrom(window, QPoint())) : rect);
-}
-
-/// Puts a box behind its siblings, the other boxes apart, since what it frames are no children of
-/// its own. A box that is there already isn't moved: each move repaints.
-void PutBehind(QWidget* box) {
-  const QObject* parent = box->parentWidget();
-  if (!parent) {
-    return;
-  }
-  for (const QObject* sibling : parent->children()) {
-    if (sibling == box) {
-      return;
-    }
-    if (sibling->isWidgetType() && !qobject_cast<const QGroupBox*>(sibling)) {
-      box->lower();
-      return;
-    }
-  }
 }
 
 QRect Shrunk(const QRect& rect, const QMargins& margins) {
@@ -61,8 +34,8 @@ void QVLayout::SetBorders(LayoutSize first, LayoutSize second) {
   m_secondBorder = second;
 }
 
-void QVLayout::SetBoxControl(int boxId, LayoutSize margin, bool titled) {
-  m_box = Box{boxId, margin, titled};
+void QVLayout::SetBoxControl(qv::LayoutControl box, LayoutSize margin, bool titled) {
+  m_box = Box{box, margin, titled};
 }
 
 void QVLayout::AddGap(LayoutSize size) { m_items.push_back({{}, size, 0}); }
@@ -106,10 +79,10 @@ void QVLayout::AddControlAndLabelAndButton(qv::LayoutControl control, qv::Layout
   m_owned.push_back(std::move(row));
 }
 
-void QVLayout::AddControlWithBox(qv::LayoutControl control, int boxId, LayoutSize size,
+void QVLayout::AddControlWithBox(qv::LayoutControl control, qv::LayoutControl box, LayoutSize size,
                                  LayoutSize margin, bool titled) {
   auto inside = std::make_unique<QVVerticalLayout>(nullptr);
-  inside->SetBoxControl(boxId, margin, titled);
+  inside->SetBoxControl(box, margin, titled);
   inside->AddControl(control, wholeShare);
   AddOwned(std::move(inside), size);
 }
@@ -146,20 +119,20 @@ QWidget* QVLayout::NearestWindow() const {
   return nullptr;
 }
 
-QVLayout::Surroundings QVLayout::Outermost() const {
+QVLayout::Frame QVLayout::Outermost() const {
   QWidget* window = NearestWindow();
   return {window, qv::MetricsOf(window)};
 }
 
-QVLayout::Surroundings QVLayout::Inner(const Surroundings& outer) const {
+QVLayout::Frame QVLayout::Inner(const Frame& outer) const {
   return {m_window ? m_window : outer.window, outer.metrics};
 }
 
-QWidget* QVLayout::BoxWidget(const Surroundings& here) const {
-  return m_box ? Resolve(m_box->id, here.window) : nullptr;
+QWidget* QVLayout::BoxWidget(const Frame& here) const {
+  return m_box ? Resolve(m_box->control, here.window) : nullptr;
 }
 
-QMargins QVLayout::Margins(const Surroundings& here) const {
+QMargins QVLayout::Margins(const Frame& here) const {
   const int first = qv::GapPixels(m_firstBorder, here.metrics);
   const int second = qv::GapPixels(m_secondBorder, here.metrics);
   const QMargins borders =
@@ -187,7 +160,7 @@ bool QVLayout::IsNatural(const Item& item) const {
          std::holds_alternative<QVLayout*>(item.content);
 }
 
-std::vector<QSize> QVLayout::Needs(const Surroundings& here) const {
+std::vector<QSize> QVLayout::Needs(const Frame& here) const {
   std::vector<QSize> needs;
   for (const Item& item : m_items) {
     const int least = qv::ItemPixels(item.least, here.metrics);
@@ -199,19 +172,19 @@ std::vector<QSize> QVLayout::Needs(const Surroundings& here) const {
   return needs;
 }
 
-int QVLayout::FixedExtent(const Item& item, QSize need, const Surroundings& here) const {
+int QVLayout::FixedExtent(const Item& item, QSize need, const Frame& here) const {
   if (std::holds_alternative<std::monostate>(item.content)) {
     return qv::GapPixels(item.size, here.metrics);
   }
   int pixels = qv::ItemPixels(item.size, here.metrics);
   if (item.size == LayoutSizeEdit && LayoutOf(item) && m_direction == Qt::Vertical) {
-    pixels += here.metrics.label + labelDistance;
+    pixels += here.metrics.label + qv::labelDistance;
   }
   return std::max(pixels, Along(need));
 }
 
 std::vector<qv::LayoutShare> QVLayout::Shares(const std::vector<QSize>& needs,
-                                              const Surroundings& here) const {
+                                              const Frame& here) const {
   std::vector<qv::LayoutShare> shares;
   for (std::size_t i = 0; i < m_items.size(); ++i) {
     const Item& item = m_items[i];
@@ -224,7 +197,7 @@ std::vector<qv::LayoutShare> QVLayout::Shares(const std::vector<QSize>& needs,
   return shares;
 }
 
-int QVLayout::RoomAlong(const std::vector<QSize>& needs, const Surroundings& here) const {
+int QVLayout::RoomAlong(const std::vector<QSize>& needs, const Frame& here) const {
   const std::vector<qv::LayoutShare> shares = Shares(needs, here);
   const int whole = qv::WholeOf(shares);
   int fixed = 0;
@@ -239,8 +212,8 @@ int QVLayout::RoomAlong(const std::vector<QSize>& needs, const Surroundings& her
   return fixed + shared;
 }
 
-QSize QVLayout::NaturalSize(const Surroundings& outer) const {
-  const Surroundings here = Inner(outer);
+QSize QVLayout::NaturalSize(const Frame& outer) const {
+  const Frame here = Inner(outer);
   const std::vector<QSize> needs = Needs(here);
   int across = 0;
   for (const QSize need : needs) {
@@ -251,11 +224,11 @@ QSize QVLayout::NaturalSize(const Surroundings& outer) const {
   return content.grownBy(Margins(here));
 }
 
-void QVLayout::Place(const QRect& rect, const Surroundings& outer) const {
-  const Surroundings here = Inner(outer);
+void QVLayout::Place(const QRect& rect, const Frame& outer) const {
+  const Frame here = Inner(outer);
   if (QWidget* box = BoxWidget(here)) {
-    PlaceWidget(box, rect, here.window);
-    PutBehind(box);
+    qv::PlaceWidget(box, rect, here.window);
+    qv::PutBehind(box);
   }
   const QRect inside = Shrunk(rect, Margins(here));
   const auto spans = qv::DivideExtent(Along(inside.size()), Shares(Needs(here), here));
@@ -270,12 +243,12 @@ QRect QVLayout::ItemRect(const QRect& inside, qv::LayoutSpan span) const {
              : QRect(inside.left() + span.offset, inside.top(), span.length, inside.height());
 }
 
-void QVLayout::PlaceItem(const Item& item, const QRect& rect, const Surroundings& here) {
+void QVLayout::PlaceItem(const Item& item, const QRect& rect, const Frame& here) {
   if (const QVLayout* layout = LayoutOf(item)) {
     layout->Place(rect, here);
   } else if (const auto* control = std::get_if<qv::LayoutControl>(&item.content)) {
     if (QWidget* widget = Resolve(*control, here.window)) {
-      PlaceWidget(widget, rect, here.window);
+      qv::PlaceWidget(widget, rect, here.window);
     }
   }
 }

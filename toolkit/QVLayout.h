@@ -17,6 +17,9 @@ namespace qv {
 /// A control in a layout: its number in the window, or the control itself.
 using LayoutControl = std::variant<int, QWidget*>;
 
+/// The pixels between a label and its control, wherever a dialog stacks the two.
+inline constexpr int labelDistance = 2;
+
 /// One extent as a size for either direction.
 struct LayoutSizePair {
   LayoutSize width;
@@ -48,7 +51,7 @@ class QVLayout {
   /// Spreads the group box over this layout's rectangle, behind the controls, and keeps the content
   /// `margin` away from its frame, with `titled` below its title too. Without such a box in the
   /// window the margin alone remains.
-  void SetBoxControl(int boxId, LayoutSize margin, bool titled);
+  void SetBoxControl(qv::LayoutControl box, LayoutSize margin, bool titled);
 
   void AddGap(LayoutSize size);
 
@@ -71,8 +74,8 @@ class QVLayout {
                                    int gapPixels);
 
   /// Adds a control inside a group box of this `size`; `margin` and `titled` as in `SetBoxControl`.
-  void AddControlWithBox(qv::LayoutControl control, int boxId, LayoutSize size, LayoutSize margin,
-                         bool titled);
+  void AddControlWithBox(qv::LayoutControl control, qv::LayoutControl box, LayoutSize size,
+                         LayoutSize margin, bool titled);
 
   /// Places everything in `rect`, in the window's coordinates.
   void Layout(const QRect& rect);
@@ -104,7 +107,7 @@ class QVLayout {
   };
 
   struct Box {
-    int id;
+    qv::LayoutControl control;
     LayoutSize margin;
     bool titled;
   };
@@ -115,7 +118,7 @@ class QVLayout {
     int gapPixels;
   };
 
-  struct Surroundings {
+  struct Frame {
     QWidget* window;
     qv::LayoutMetrics metrics;
   };
@@ -123,25 +126,24 @@ class QVLayout {
   void AddStack(const Stack& stack, Content content, LayoutSize size);
 
   QWidget* NearestWindow() const;
-  Surroundings Outermost() const;
-  Surroundings Inner(const Surroundings& outer) const;
-  QWidget* BoxWidget(const Surroundings& here) const;
-  QMargins Margins(const Surroundings& here) const;
+  Frame Outermost() const;
+  Frame Inner(const Frame& outer) const;
+  QWidget* BoxWidget(const Frame& here) const;
+  QMargins Margins(const Frame& here) const;
 
   int Along(QSize size) const;
   int Across(QSize size) const;
   static QVLayout* LayoutOf(const Item& item);
   bool IsNatural(const Item& item) const;
-  std::vector<QSize> Needs(const Surroundings& here) const;
-  int FixedExtent(const Item& item, QSize need, const Surroundings& here) const;
-  std::vector<qv::LayoutShare> Shares(const std::vector<QSize>& needs,
-                                      const Surroundings& here) const;
-  int RoomAlong(const std::vector<QSize>& needs, const Surroundings& here) const;
-  QSize NaturalSize(const Surroundings& outer) const;
+  std::vector<QSize> Needs(const Frame& here) const;
+  int FixedExtent(const Item& item, QSize need, const Frame& here) const;
+  std::vector<qv::LayoutShare> Shares(const std::vector<QSize>& needs, const Frame& here) const;
+  int RoomAlong(const std::vector<QSize>& needs, const Frame& here) const;
+  QSize NaturalSize(const Frame& outer) const;
 
-  void Place(const QRect& rect, const Surroundings& outer) const;
+  void Place(const QRect& rect, const Frame& outer) const;
   QRect ItemRect(const QRect& inside, qv::LayoutSpan span) const;
-  static void PlaceItem(const Item& item, const QRect& rect, const Surroundings& here);
+  static void PlaceItem(const Item& item, const QRect& rect, const Frame& here);
 
   QWidget* m_window;
   Qt::Orientation m_direction;

@@ -1,5 +1,6 @@
 #include "toolkit/SpinButtons.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolButton>
@@ -72,6 +73,9 @@ bool SpinButtons::eventFilter(QObject* buddy, QEvent* event) {
   } else if (event->type() == QEvent::Wheel && m_buddy->hasFocus()) {
     Turn(static_cast<const QWheelEvent&>(*event));
     return true;
+  } else if (event->type() == QEvent::FocusOut &&
+             static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
+    emit Left();
   }
   return QWidget::eventFilter(buddy, event);
 }

@@ -24,6 +24,8 @@ class SpinButtons : public QWidget {
  signals:
   /// The user wants the number higher (1) or lower (-1).
   void Stepped(int delta);
+  /// The buddy lost the focus, but not to a pop-up, from which it comes back.
+  void Left();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

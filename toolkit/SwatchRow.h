@@ -7,8 +7,8 @@ namespace qv {
 /// The row of a colour's swatch, in its own size, and its label, centred beside it.
 class SwatchRow {
  public:
-  /// `swatch` lies in `window`, and so does the control `label`. `gap` is between the two.
-  SwatchRow(QWidget* window, QWidget* swatch, int label, LayoutSize gap)
+  /// `swatch` and `label` lie in `window`. `gap` is between the two.
+  SwatchRow(QWidget* window, QWidget* swatch, QWidget* label, LayoutSize gap)
       : m_label(window), m_row(window), m_height(swatch->height()) {
     m_label.AddGap(50);
     m_label.AddControl(label, LayoutSizeLabel);

@@ -1,126 +1,105 @@
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 
-#include <QCheckBox>
-#include <QLineEdit>
-
 #include "timestructure/ui/CDlgDayTypes.h"
 #include "timestructure/ui/CDlgHourTypes.h"
-#include "toolkit/ChoiceBox.h"
+#include "toolkit/DialogColumn.h"
 #include "toolkit/LimitTyping.h"
-#include "toolkit/OkCancel.h"
-#include "toolkit/QVHyperlink.h"
-#include "toolkit/QVLayout.h"
 #include "toolkit/RunDialog.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
-#include "ui_1301.h"
 
 namespace {
 
-constexpr int calendarLink = 5004;
-constexpr int dayTypesLink = 5005;
-constexpr int hourTypesLink = 5006;
-constexpr int conditionsLink = 5008;
-constexpr int descriptionLabel = 5266;
-constexpr int descriptionEdit = 5267;
-constexpr int nameLabel = 5268;
-constexpr int typeLabel = 5269;
-constexpr int nameEdit = 5270;
-constexpr int setZeroCheck = 5346;
-constexpr int typeCombo = 5351;
+using qv::DiscriminatorType;
 
-void BuildTemplate(QDialog* dialog) { Ui::Template1301().setupUi(dialog); }
+/// The types, at the places at which they can be chosen.
+constexpr std::array choices = {DiscriminatorType::Slots, DiscriminatorType::Conditions};
 
 }  // namespace
 
 CDlgAddModifyDiscriminator::CDlgAddModifyDiscriminator(qv::XmlNode* deviceGroups, CWnd* parent,
                                                        const QVWideString* filePath)
-    : CDialog(BuildTemplate, parent), m_deviceGroups(deviceGroups) {
+    : EditingDialog(parent), m_deviceGroups(deviceGroups) {
   if (filePath) {
     m_filePath = *filePath;
   }
-  connect(Find<qv::ChoiceBox>(typeCombo), &QComboBox::activated, this,
-          &CDlgAddModifyDiscriminator::OnSelchangeType);
-  connect(Find<QVHyperlink>(hourTypesLink), &QVHyperlink::clicked, this,
-          &CDlgAddModifyDiscriminator::OnHourTypes);
-  connect(Find<QVHyperlink>(dayTypesLink), &QVHyperlink::clicked, this,
-          &CDlgAddModifyDiscriminator::OnDayTypes);
+  using This = CDlgAddModifyDiscriminator;
+  Build(m_ui);
+  m_links = {{
+      {m_ui.linkHourTypes, Text::HourTypesLink, L"CLOCK-32.png", &This::OnHourTypes},
+      {m_ui.linkDayTypes, Text::DayTypesLink, L"DAYTYPES-32.png", &This::OnDayTypes},
+      {m_ui.linkCalendar, Text::CalendarLink, L"CALENDAR-32.png", nullptr},
+      {m_ui.linkConditions, Text::Conditions, L"CONDITIONS-32.png", nullptr},
+  }};
+  for (const Link& link : m_links) {
+    if (link.open) {
+      connect(link.control, &QVHyperlink::clicked, this, link.open);
+    }
+  }
+  connect(m_ui.comboType, &QComboBox::activated, this, &This::OnSelchangeType);
 }
 
-CDlgAddModifyDiscriminator::~CDlgAddModifyDiscriminator() = default;
-
-std::optional<int> CDlgAddModifyDiscriminator::OnCreate() {
-  if (const auto refused = CDialog::OnCreate()) {
-    return refused;
-  }
-  m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
-  m_form = qv::DiscriminatorForm::Open({Services(), qv::Files::Disk(), m_deviceGroups},
-                                       m_filePath ? &*m_filePath : nullptr);
-  if (!m_form) {
-    m_boxes.reset();
-    return IDCANCEL;
-  }
-  return std::nullopt;
+std::unique_ptr<qv::DiscriminatorForm> CDlgAddModifyDiscriminator::MakeForm() {
+  return qv::DiscriminatorForm::Open({Services(), qv::Files::Disk(), m_deviceGroups},
+                                     m_filePath ? &*m_filePath : nullptr);
 }
 
 void CDlgAddModifyDiscriminator::OnInitDialog() {
-  qv::LimitTyping(Find<QLineEdit>(nameEdit), qv::DiscriminatorForm::longestTypedName);
-  qv::LimitTyping(Find<QLineEdit>(descriptionEdit), 0);
+  qv::LimitTyping(m_ui.editName, qv::DiscriminatorForm::longestTypedName);
+  qv::LimitTyping(m_ui.editDescription, 0);
   InitializeTexts();
+  for (const Link& link : m_links) {
+    InitializeLink(link);
+  }
   InitializeFields();
   InitializeType();
   PositioningControls();
 }
 
 void CDlgAddModifyDiscriminator::InitializeTexts() {
-  SetLabel(nameLabel, nameEdit, Text::Name);
-  SetLabel(descriptionLabel, descriptionEdit, Text::Description);
-  SetLabel(typeLabel, typeCombo, Text::DiscriminatorType);
-  SetButton(calendarLink, Text::CalendarLink, L"CALENDAR-32.png");
-  SetButton(dayTypesLink, Text::DayTypesLink, L"DAYTYPES-32.png");
-  SetButton(hourTypesLink, Text::HourTypesLink, L"CLOCK-32.png");
-  SetButton(conditionsLink, Text::Conditions, L"CONDITIONS-32.png");
-  SetText(setZeroCheck, Text::SetZeroOutsideSlot);
-  SetButton(IDOK, Text::Ok, L"OK-16.png");
-  SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
-  SetText(0, m_form->IsNew() ? Text::AddDiscriminatorTitle : Text::ModifyDiscriminatorTitle);
-  for (const int link : {calendarLink, conditionsLink}) {
-    Control(link)->setEnabled(false);
-    Find<QVHyperlink>(link)->SetHint(qv::OwnText(Services().loadString, Text::LinkNotReady));
+  SetLabel(m_ui.labelName, m_ui.editName, Text::Name);
+  SetLabel(m_ui.labelDescription, m_ui.editDescription, Text::Description);
+  SetLabel(m_ui.labelType, m_ui.comboType, Text::DiscriminatorType);
+  SetText(m_ui.checkSetZeroOutsideSlot, Text::SetZeroOutsideSlot);
+  SetOkCancel();
+  SetTitle(m_form->IsNew() ? Text::AddDiscriminatorTitle : Text::ModifyDiscriminatorTitle);
+}
+
+void CDlgAddModifyDiscriminator::InitializeLink(const Link& link) {
+  SetButton(link.control, link.text, link.picture);
+  if (!link.open) {
+    link.control->setEnabled(false);
+    link.control->SetHint(qv::OwnText(Services().loadString, Text::LinkNotReady));
   }
 }
 
 void CDlgAddModifyDiscriminator::InitializeFields() {
   const qv::DiscriminatorFields fields = m_form->InitialFields();
-  qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(fields.name));
-  qv::SetLoadedText(Find<QLineEdit>(descriptionEdit), qv::ToQString(fields.description));
-  Find<QCheckBox>(setZeroCheck)->setChecked(fields.setZeroOutsideSlot);
+  qv::SetLoadedText(m_ui.editName, qv::ToQString(fields.name));
+  qv::SetLoadedText(m_ui.editDescription, qv::ToQString(fields.description));
+  m_ui.checkSetZeroOutsideSlot->setChecked(fields.setZeroOutsideSlot);
 }
 
 void CDlgAddModifyDiscriminator::InitializeType() {
-  const auto& loadString = Services().loadString;
-  auto* combo = Find<qv::ChoiceBox>(typeCombo);
-  combo->addItems(
-      {qv::HostText(loadString, Text::TimeSlots), qv::HostText(loadString, Text::Conditions)});
-  combo->setCurrentIndex(HasSlots() ? 0 : 1);
-  combo->setVisible(m_form->IsTypeSelectable());
-  Control(typeLabel)->setVisible(m_form->IsTypeSelectable());
+  m_ui.comboType->addItems({Worded(Text::TimeSlots), Worded(Text::Conditions)});
+  m_ui.comboType->setCurrentIndex(HasSlots() ? 0 : 1);
+  m_ui.comboType->setVisible(m_form->IsTypeSelectable());
+  m_ui.labelType->setVisible(m_form->IsTypeSelectable());
   ShowLinksOfType();
 }
 
 bool CDlgAddModifyDiscriminator::HasSlots() const {
-  return m_form->Type() == qv::DiscriminatorType::Slots;
+  return m_form->Type() == DiscriminatorType::Slots;
 }
 
 void CDlgAddModifyDiscriminator::ShowLinksOfType() {
-  for (const int link : {calendarLink, hourTypesLink, dayTypesLink}) {
-    Control(link)->setVisible(HasSlots());
+  for (const Link& link : m_links) {
+    link.control->setVisible(HasSlots() == (link.control != m_ui.linkConditions));
   }
-  Control(conditionsLink)->setVisible(!HasSlots());
 }
 
 void CDlgAddModifyDiscriminator::OnSelchangeType(int index) {
-  m_form->SelectType(index == 0 ? qv::DiscriminatorType::Slots : qv::DiscriminatorType::Conditions);
+  m_form->SelectType(choices.at(static_cast<std::size_t>(index)));
   ShowLinksOfType();
   PositioningControls();
 }
@@ -128,80 +107,54 @@ void CDlgAddModifyDiscriminator::OnSelchangeType(int index) {
 void CDlgAddModifyDiscriminator::OnHourTypes() {
   m_form->OnHourTypes([this](qv::HourTypes hourTypes, qv::DayTypes dayTypes) {
     CDlgHourTypes dialog(this, &hourTypes.Node(), &dayTypes.Node());
-    return qv::RunDialog<qv::EditorEnd>(dialog);
+    return qv::RunDialog(dialog);
   });
 }
 
 void CDlgAddModifyDiscriminator::OnDayTypes() {
   m_form->OnDayTypes([this](qv::DayTypes dayTypes, qv::Calendar calendar, qv::HourTypes hourTypes) {
     CDlgDayTypes dialog(this, &dayTypes.Node(), &calendar.Node(), &hourTypes.Node());
-    return qv::RunDialog<qv::EditorEnd>(dialog);
+    return qv::RunDialog(dialog);
   });
 }
 
 void CDlgAddModifyDiscriminator::AddLinks(QVHoritzontalLayout& row) const {
   if (HasSlots()) {
-    row.AddControl(hourTypesLink, 33);
-    row.AddControl(dayTypesLink, 34);
-    row.AddControl(calendarLink, 33);
+    row.AddControl(m_ui.linkHourTypes, 33);
+    row.AddControl(m_ui.linkDayTypes, 34);
+    row.AddControl(m_ui.linkCalendar, 33);
   } else {
     row.AddGap(33);
-    row.AddControl(conditionsLink, 34);
+    row.AddControl(m_ui.linkConditions, 34);
     row.AddGap(33);
   }
 }
 
 void CDlgAddModifyDiscriminator::AddDetails(QVHoritzontalLayout& row) const {
   const bool withType = m_form->IsTypeSelectable();
-  row.AddControlAndLabel(descriptionEdit, descriptionLabel, withType ? 50 : 100, 2,
-                         LayoutSizeLabel);
+  qv::AddLabelled(row, m_ui.editDescription, m_ui.labelDescription, withType ? 50 : 100);
   if (withType) {
     row.AddGap(LayoutSizeStandard);
-    row.AddControlAndLabel(typeCombo, typeLabel, 50, 2, LayoutSizeLabel);
+    qv::AddLabelled(row, m_ui.comboType, m_ui.labelType, 50);
   }
 }
 
 void CDlgAddModifyDiscriminator::PositioningControls() {
-  QVHoritzontalLayout links(this);
-  AddLinks(links);
-  QVHoritzontalLayout buttons(this);
-  qv::AddOkCancel(buttons);
   QVHoritzontalLayout details(this);
   AddDetails(details);
-  QVVerticalLayout column(this);
-  column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
-  column.AddGap(LayoutSizeStandard);
-  column.AddControlAndLabel(nameEdit, nameLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
-  column.AddGap(LayoutSizeStandard);
-  column.AddLayout(&details, LayoutSizeEdit);
-  column.AddGap(LayoutSizeStandard);
-  column.AddLayout(&links, 100);
-  column.AddGap(LayoutSizeStandard);
-  column.AddControl(setZeroCheck, LayoutSizeLabel);
-  column.AddGap(LayoutSizeStandard);
-  column.AddLayout(&buttons, LayoutSizeStandard);
-  column.AddGap(LayoutSizeStandard);
+  QVHoritzontalLayout links(this);
+  AddLinks(links);
+  qv::OkCancelRow buttons(this, qv::OkCancelWidth::Whole);
+  qv::DialogColumn column(this);
+  column.AddLabelled(m_ui.editName, m_ui.labelName);
+  column.Add(&details, LayoutSizeEdit);
+  column.Add(&links, 100);
+  column.Add(m_ui.checkSetZeroOutsideSlot, LayoutSizeLabel);
+  column.Add(&buttons, LayoutSizeStandard);
   column.Layout(rect());
 }
 
-qv::DiscriminatorFields CDlgAddModifyDiscriminator::Typed() const {
-  return {qv::ToWide(Find<QLineEdit>(nameEdit)->text()),
-          qv::ToWide(Find<QLineEdit>(descriptionEdit)->text()),
-          Find<QCheckBox>(setZeroCheck)->isChecked()};
-}
-
-void CDlgAddModifyDiscriminator::OnOK() {
-  const qv::SaveEnd end = m_form->Save(Typed());
-  if (end.refusal) {
-    Tell(*m_boxes, *end.refusal);
-  }
-  if (end.IsDone()) {
-    CDialog::OnOK();
-  }
-}
-
-void CDlgAddModifyDiscriminator::OnDestroy() {
-  m_modified = m_form->IsModified();
-  m_form.reset();
-  m_boxes.reset();
+qv::SaveEnd CDlgAddModifyDiscriminator::Save() {
+  return m_form->Save({qv::ToWide(m_ui.editName->text()), qv::ToWide(m_ui.editDescription->text()),
+                       m_ui.checkSetZeroOutsideSlot->isChecked()});
 }

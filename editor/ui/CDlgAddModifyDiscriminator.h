@@ -1,37 +1,41 @@
 #pragma once
 
-#include <memory>
+#include <array>
 #include <optional>
 
 #include "editor/DiscriminatorForm.h"
-#include "toolkit/CDialog.h"
-#include "toolkit/MessageBoxes.h"
+#include "toolkit/EditingDialog.h"
+#include "ui_1301.h"
 
 class QVHoritzontalLayout;
 
 /// The editor of one discriminator: its name, description, type and flag, and the road to its
 /// parts. `IDOK` means that the file was written, `IDCANCEL` also that it could not be loaded.
-class CDlgAddModifyDiscriminator : public CDialog {
+class CDlgAddModifyDiscriminator : public qv::EditingDialog<qv::DiscriminatorForm> {
   Q_OBJECT
 
  public:
   /// `deviceGroups` is the root of the caller's copy of the host's node, or null; a new
   /// discriminator gets its entry there. `filePath` is null for a new discriminator.
   CDlgAddModifyDiscriminator(qv::XmlNode* deviceGroups, CWnd* parent, const QVWideString* filePath);
-  ~CDlgAddModifyDiscriminator() override;
-
-  /// Whether the saved content differs from what was opened. To be read after `DoModal`.
-  bool m_modified = false;
 
  protected:
-  std::optional<int> OnCreate() override;
+  std::unique_ptr<qv::DiscriminatorForm> MakeForm() override;
   void OnInitDialog() override;
   void PositioningControls() override;
-  void OnOK() override;
-  void OnDestroy() override;
+  qv::SaveEnd Save() override;
 
  private:
+  /// A big button that opens a part of the discriminator.
+  struct Link {
+    QVHyperlink* control;
+    Text text;
+    const wchar_t* picture;
+    void (CDlgAddModifyDiscriminator::*open)();  ///< null while there is nothing to open
+  };
+
   void InitializeTexts();
+  void InitializeLink(const Link& link);
   void InitializeFields();
   void InitializeType();
   bool HasSlots() const;
@@ -41,10 +45,9 @@ class CDlgAddModifyDiscriminator : public CDialog {
   void OnSelchangeType(int index);
   void OnHourTypes();
   void OnDayTypes();
-  qv::DiscriminatorFields Typed() const;
 
+  Ui::Template1301 m_ui;
+  std::array<Link, 4> m_links;
   qv::XmlNode* m_deviceGroups;
   std::optional<QVWideString> m_filePath;
-  std::unique_ptr<qv::MessageBoxes> m_boxes;
-  std::unique_ptr<qv::DiscriminatorForm> m_form;
 };

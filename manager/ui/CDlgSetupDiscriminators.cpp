@@ -1,62 +1,45 @@
 #include "manager/ui/CDlgSetupDiscriminators.h"
 
-#include <QHeaderView>
 #include <QMenu>
 
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 #include "manager/DiscriminatorList.h"
 #include "toolkit/Caption.h"
+#include "toolkit/DialogColumn.h"
+#include "toolkit/ListPart.h"
 #include "toolkit/MaskedIcon.h"
 #include "toolkit/MessageBoxes.h"
 #include "toolkit/ProgressWindow.h"
 #include "toolkit/QVControlBoxButtonsLayout.h"
-#include "toolkit/QVLayout.h"
-#include "toolkit/ReportList.h"
 #include "toolkit/RunDialog.h"
 #include "toolkit/Strings.h"
-#include "toolkit/Texts.h"
 #include "toolkit/WaitCursor.h"
 #include "ui_1300.h"
 
 namespace {
 
-constexpr int exitButton = IDOK;
-constexpr int box = 5264;
-constexpr int list = 5265;
-constexpr int removeButton = 5347;
-constexpr int addButton = 5348;
-constexpr int modifyButton = 5349;
-
-void BuildTemplate(QDialog* dialog) { Ui::Template1300().setupUi(dialog); }
+constexpr QSize rowImageSize(16, 16);
 
 qv::EditorEnd RunEditor(CWnd* parent, qv::XmlNode* deviceGroups, const QVWideString* filePath) {
   CDlgAddModifyDiscriminator editor(deviceGroups, parent, filePath);
-  return qv::RunDialog<qv::EditorEnd>(editor);
+  return qv::RunDialog(editor);
 }
 
 }  // namespace
 
 CDlgSetupDiscriminators::CDlgSetupDiscriminators(XmlDocument::XmlNode* deviceGroups, CWnd* parent)
-    : CDialog(BuildTemplate, parent),
-      m_deviceGroups(deviceGroups),
-      m_listDiscriminators(Find<qv::ReportList>(list)) {
+    : CDialog(parent), m_ui(std::make_unique<Ui::Template1300>()), m_deviceGroups(deviceGroups) {
+  using qv::ListPart;
   using qv::ReportList;
-  connect(m_listDiscriminators, &ReportList::itemSelectionChanged, this,
-          &CDlgSetupDiscriminators::OnItemchangedListDiscriminators);
-  connect(m_listDiscriminators, &ReportList::KeyDown, this,
+  Build(*m_ui);
+  m_listDiscriminators = std::make_unique<ListPart>(
+      ListPart::Controls{m_ui->listDiscriminators, m_ui->buttonAdd, m_ui->buttonModify,
+                         m_ui->buttonRemove},
+      ListPart::Verbs{[this] { OnAdd(); }, [this] { OnModify(); }, [this] { OnRemove(); }});
+  connect(m_ui->listDiscriminators, &ReportList::KeyDown, this,
           &CDlgSetupDiscriminators::OnKeydownListDiscriminators);
-  connect(m_listDiscriminators, &ReportList::DoubleClicked, this,
-          &CDlgSetupDiscriminators::OnModify);
-  connect(Find<QPushButton>(addButton), &QPushButton::clicked, this,
-          &CDlgSetupDiscriminators::OnAdd);
-  connect(m_listDiscriminators, &ReportList::MenuWanted, this,
+  connect(m_ui->listDiscriminators, &ReportList::MenuWanted, this,
           &CDlgSetupDiscriminators::OnRclickListDiscriminators);
-  connect(Find<QPushButton>(removeButton), &QPushButton::clicked, this,
-          &CDlgSetupDiscriminators::OnRemove);
-  connect(Find<QPushButton>(modifyButton), &QPushButton::clicked, this,
-          &CDlgSetupDiscriminators::OnModify);
-  connect(m_listDiscriminators, &ReportList::RoomChanged, this,
-          &CDlgSetupDiscriminators::InitializeColumns);
 }
 
 CDlgSetupDiscriminators::~CDlgSetupDiscriminators() = default;
@@ -78,37 +61,20 @@ void CDlgSetupDiscriminators::OnInitDialog() {
                               QStringLiteral("DISCRIMINATORVARIABLES-16.png"));
   m_list->ReadInstallation();
   InitializeTexts();
-  CreateColumns();
   if (!InitializeDiscriminatorsList(true)) {
     EndDialog(IDCANCEL);
     return;
   }
   PositioningControls();
-  EnableDisableButtons();
   KeepAsLeastSize();
 }
 
 void CDlgSetupDiscriminators::InitializeTexts() {
-  SetButton(addButton, Text::Add, L"NEW-16.png");
-  SetButton(modifyButton, Text::Modify, L"MODIFY-16.png");
-  SetButton(removeButton, Text::Remove, L"REMOVE-16.png");
-  SetButton(exitButton, Text::Exit, L"EXIT-16.png");
-  SetLabel(box, list, Text::Discriminators);
-  SetText(0, Text::DiscriminatorListTitle);
-}
-
-void CDlgSetupDiscriminators::CreateColumns() {
-  const auto& loadString = Services().loadString;
-  m_listDiscriminators->setColumnCount(2);
-  m_listDiscriminators->setHeaderLabels(
-      {qv::HostText(loadString, Text::Name), qv::HostText(loadString, Text::Description)});
-  m_listDiscriminators->setIconSize(QSize(16, 16));
-}
-
-void CDlgSetupDiscriminators::InitializeColumns() {
-  const int room = m_listDiscriminators->viewport()->width();
-  m_listDiscriminators->setColumnWidth(0, room / 2);
-  m_listDiscriminators->setColumnWidth(1, room - room / 2);
+  SetButton(m_ui->buttonExit, Text::Exit, L"EXIT-16.png");
+  SetLabel(m_ui->boxDiscriminators, m_ui->listDiscriminators, Text::Discriminators);
+  SetTitle(Text::DiscriminatorListTitle);
+  m_listDiscriminators->Initialize(Services(), {Text::Name, Text::Description});
+  m_ui->listDiscriminators->setIconSize(rowImageSize);
 }
 
 bool CDlgSetupDiscriminators::InitializeDiscriminatorsList(bool firstReading) {
@@ -122,47 +88,27 @@ bool CDlgSetupDiscriminators::InitializeDiscriminatorsList(bool firstReading) {
 }
 
 void CDlgSetupDiscriminators::ShowRows() {
-  QList<QTreeWidgetItem*> items;
+  std::vector<qv::ListRow> rows;
   for (const auto& row : m_list->Rows()) {
-    auto* item =
-        new QTreeWidgetItem({qv::ToQString(row.shown.name), qv::ToQString(row.shown.description)});
-    item->setIcon(0, m_rowImage);
-    items.append(item);
+    rows.push_back(
+        {{qv::ToQString(row.shown.name), qv::ToQString(row.shown.description)}, m_rowImage});
   }
-  m_listDiscriminators->clear();
-  m_listDiscriminators->addTopLevelItems(items);
+  m_listDiscriminators->Show(rows, std::nullopt);
 }
 
 void CDlgSetupDiscriminators::PositioningControls() {
-  QVControlBoxButtonsLayout listLayout(this, list, box);
-  listLayout.AddButtons(addButton, modifyButton, removeButton);
-  QVVerticalLayout column(nullptr);
-  column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
-  column.AddGap(LayoutSizeStandard);
-  column.AddLayout(&listLayout, 100);
-  column.AddGap(LayoutSizeStandard);
-  column.AddControl(Control(exitButton), LayoutSizeStandard);
-  column.AddGap(LayoutSizeStandard);
+  QVControlBoxButtonsLayout list(nullptr, m_ui->listDiscriminators, m_ui->boxDiscriminators);
+  list.AddButtons(m_ui->buttonAdd, m_ui->buttonModify, m_ui->buttonRemove);
+  qv::DialogColumn column(nullptr);
+  column.Add(&list, 100);
+  column.Add(m_ui->buttonExit, LayoutSizeStandard);
   column.Layout(rect());
-  InitializeColumns();
-  EnableDisableButtons();
+  m_listDiscriminators->ResizeColumns();
+  m_listDiscriminators->EnableDisableButtons();
 }
-
-void CDlgSetupDiscriminators::EnableDisableButtons() {
-  const auto buttons = qv::DiscriminatorList::Buttons(m_listDiscriminators->SelectedRows().size());
-  Control(addButton)->setEnabled(buttons.add);
-  Control(modifyButton)->setEnabled(buttons.modify);
-  Control(removeButton)->setEnabled(buttons.remove);
-}
-
-void CDlgSetupDiscriminators::OnItemchangedListDiscriminators() { EnableDisableButtons(); }
 
 void CDlgSetupDiscriminators::OnKeydownListDiscriminators(int key, bool control) {
-  if (key == Qt::Key_Delete) {
-    OnRemove();
-  } else if (key == Qt::Key_Insert) {
-    OnAdd();
-  } else if (control && key == Qt::Key_C) {
+  if (control && key == Qt::Key_C) {
     CopyToClipboard();
   } else if (control && key == Qt::Key_V) {
     PasteFromClipboard();
@@ -171,8 +117,8 @@ void CDlgSetupDiscriminators::OnKeydownListDiscriminators(int key, bool control)
 
 void CDlgSetupDiscriminators::RefreshList() {
   InitializeDiscriminatorsList(false);
-  InitializeColumns();
-  EnableDisableButtons();
+  m_listDiscriminators->ResizeColumns();
+  m_listDiscriminators->EnableDisableButtons();
 }
 
 void CDlgSetupDiscriminators::OnAdd() {
@@ -188,29 +134,19 @@ void CDlgSetupDiscriminators::OnModify() {
 }
 
 void CDlgSetupDiscriminators::OnRemove() {
-  const auto end =
-      m_list->OnRemove(m_listDiscriminators->SelectedRows(), [this](int row) { RemoveRow(row); });
+  const auto end = m_list->OnRemove(m_listDiscriminators->SelectedRows(), [this](int row) {
+    // The buttons follow once, when all are gone.
+    m_listDiscriminators->RemoveRow(row);
+  });
   if (end.outcome == qv::RemovalOutcome::NothingSelected ||
       end.outcome == qv::RemovalOutcome::Stopped) {
     return;
   }
   if (end.rowToSelect) {
-    SelectRow(*end.rowToSelect);
+    m_listDiscriminators->Select(*end.rowToSelect);
   }
-  InitializeColumns();
-  EnableDisableButtons();
-}
-
-void CDlgSetupDiscriminators::RemoveRow(int row) {
-  // The buttons follow once, when all are gone.
-  const QSignalBlocker silent(m_listDiscriminators);
-  delete m_listDiscriminators->takeTopLevelItem(row);
-}
-
-void CDlgSetupDiscriminators::SelectRow(int row) {
-  m_listDiscriminators->setCurrentItem(
-      m_listDiscriminators->topLevelItem(row), 0,
-      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  m_listDiscriminators->ResizeColumns();
+  m_listDiscriminators->EnableDisableButtons();
 }
 
 void CDlgSetupDiscriminators::CopyToClipboard() {
@@ -228,14 +164,13 @@ void CDlgSetupDiscriminators::OnRclickListDiscriminators(const QPoint& globalPos
   if (!offer.copy && !offer.paste) {
     return;
   }
-  const auto& loadString = Services().loadString;
   QMenu menu(this);
   if (offer.copy) {
-    menu.addAction(qv::LiteralText(qv::HostText(loadString, Text::Copy)) + "\tCtrl+C", this,
+    menu.addAction(qv::LiteralText(Worded(Text::Copy)) + "\tCtrl+C", this,
                    &CDlgSetupDiscriminators::CopyToClipboard);
   }
   if (offer.paste) {
-    menu.addAction(qv::LiteralText(qv::HostText(loadString, Text::Paste)) + "\tCtrl+V", this,
+    menu.addAction(qv::LiteralText(Worded(Text::Paste)) + "\tCtrl+V", this,
                    &CDlgSetupDiscriminators::PasteFromClipboard);
   }
   menu.exec(globalPosition);
@@ -250,7 +185,7 @@ void CDlgSetupDiscriminators::OnOK() {
 }
 
 void CDlgSetupDiscriminators::OnDestroy() {
-  m_listDiscriminators->clear();
+  m_listDiscriminators->Clear();
   m_list.reset();
   m_boxes.reset();
 }

@@ -8,10 +8,14 @@
 #include "toolkit/Export.h"
 #include "tools/XmlDocument.h"
 
+namespace Ui {
+class Template1300;
+}
+
 namespace qv {
 class DiscriminatorList;
+class ListPart;
 class MessageBoxes;
-class ReportList;
 }  // namespace qv
 
 /// The manager of all discriminators of the configuration directory: from it the user adds,
@@ -43,11 +47,8 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
 
  private:
   void InitializeTexts();
-  void CreateColumns();
-  void InitializeColumns();
   bool InitializeDiscriminatorsList(bool firstReading);
   void ShowRows();
-  void EnableDisableButtons();
   void RefreshList();
   void OnAdd();
   void OnModify();
@@ -55,14 +56,12 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
   void CopyToClipboard();
   void PasteFromClipboard();
   void OnRclickListDiscriminators(const QPoint& globalPosition);
-  void RemoveRow(int row);
-  void SelectRow(int row);
-  void OnItemchangedListDiscriminators();
   void OnKeydownListDiscriminators(int key, bool control);
 
+  const std::unique_ptr<Ui::Template1300> m_ui;
   XmlDocument::XmlNode* m_deviceGroups;
-  qv::ReportList* m_listDiscriminators;
   QIcon m_rowImage;
+  std::unique_ptr<qv::ListPart> m_listDiscriminators;
   std::unique_ptr<qv::MessageBoxes> m_boxes;
   std::unique_ptr<qv::DiscriminatorList> m_list;
 };

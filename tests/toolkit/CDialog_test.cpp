@@ -39,10 +39,20 @@ void BuildSizable(QDialog* dialog) {
   dialog->setProperty("sizable", true);
 }
 
+/// What stands for the controls of a template.
+struct TestTemplate {
+  void (*build)(QDialog*);
+
+  void setupUi(QDialog* dialog) const { build(dialog); }
+};
+
 /// Writes down what is called, in order.
 class TestDialog : public CDialog {
  public:
-  explicit TestDialog(Template build = BuildFixed) : CDialog(build, nullptr) {}
+  explicit TestDialog(void (*build)(QDialog*) = BuildFixed) : CDialog(nullptr) {
+    const TestTemplate controls{build};
+    Build(controls);
+  }
 
   QStringList calls;
   int positionings = 0;
@@ -58,9 +68,9 @@ class TestDialog : public CDialog {
   }
   void OnInitDialog() override {
     calls << "init";
-    SetText(0, Text::Discriminators);
-    SetLabel(label, edit, Text::Name);
-    SetButton(IDOK, Text::Ok, L"OK-16.png");
+    SetTitle(Text::Discriminators);
+    SetLabel(Control(label), Control(edit), Text::Name);
+    SetButton(Control(IDOK), Text::Ok, L"OK-16.png");
     if (keepSize) {
       KeepAsLeastSize();
     }

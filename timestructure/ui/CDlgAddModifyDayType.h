@@ -1,16 +1,14 @@
 #pragma once
 
-#include <memory>
-#include <optional>
-
 #include "timestructure/DayTypeForm.h"
-#include "timestructure/ui/ListDialog.h"
-#include "toolkit/MessageBoxes.h"
+#include "toolkit/EditingDialog.h"
+#include "toolkit/ListPart.h"
+#include "ui_1303.h"
 
 class QVDayCtrl;
 
 /// The editor of one day type: name, colour, and its slots, which a dial shows.
-class CDlgAddModifyDayType : public qv::ListDialog {
+class CDlgAddModifyDayType : public qv::EditingDialog<qv::DayTypeForm> {
   Q_OBJECT
 
  public:
@@ -21,34 +19,31 @@ class CDlgAddModifyDayType : public qv::ListDialog {
                        qv::XmlNode* hourTypes);
   ~CDlgAddModifyDayType() override;
 
-  /// Whether the user changed anything. To be read after `DoModal`.
-  bool m_modified = false;
-
  protected:
-  std::optional<int> OnCreate() override;
+  std::unique_ptr<qv::DayTypeForm> MakeForm() override;
   void OnInitDialog() override;
   void PositioningControls() override;
-  void OnOK() override;
+  qv::SaveEnd Save() override;
   void OnDestroy() override;
-  void OnAdd() override;
-  void OnModify() override;
-  void OnRemove() override;
-  void ResizeColumns() override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void InitializeTexts();
   void FillList(std::optional<int> select);
+  void ShowSlotsInDial();
   void UpdateDial();
   void ShowColour();
   void OnColor();
+  void OnAdd();
+  void OnModify();
+  void OnRemove();
   void Follow(const qv::ListEnd& end);
   qv::DayTypeForm::RunSlotEditor Editor();
 
-  qv::XmlNode* m_day;
-  qv::XmlNode* m_dayTypes;
-  qv::XmlNode* m_hourTypes;
+  Ui::Template1303 m_ui;
+  qv::XmlNode& m_day;
+  qv::DayTypes m_dayTypes;
+  qv::HourTypes m_hourTypes;
   QVDayCtrl* m_dial;
-  std::unique_ptr<qv::MessageBoxes> m_boxes;
-  std::unique_ptr<qv::DayTypeForm> m_form;
+  std::optional<qv::ListPart> m_list;
 };

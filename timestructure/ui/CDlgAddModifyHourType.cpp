@@ -1,53 +1,26 @@
 #include "timestructure/ui/CDlgAddModifyHourType.h"
 
-#include <QLineEdit>
-
 #include "host/Installation.h"
-#include "toolkit/AskColour.h"
-#include "toolkit/ColourSwatch.h"
+#include "timestructure/ui/ChooseColour.h"
+#include "toolkit/DialogColumn.h"
 #include "toolkit/LimitTyping.h"
-#include "toolkit/OkCancel.h"
-#include "toolkit/QVLayout.h"
 #include "toolkit/Strings.h"
 #include "toolkit/SwatchRow.h"
-#include "toolkit/Texts.h"
-#include "ui_1305.h"
-
-namespace {
-
-constexpr int groupBox = -1;
-constexpr int valueEdit = 5010;
-constexpr int swatch = 5261;
-constexpr int nameLabel = 5268;
-constexpr int valueLabel = 5269;
-constexpr int colourLabel = 5302;
-constexpr int nameEdit = 5350;
-
-void BuildTemplate(QDialog* dialog) { Ui::Template1305().setupUi(dialog); }
-
-}  // namespace
 
 CDlgAddModifyHourType::CDlgAddModifyHourType(CWnd* parent, qv::XmlNode* hourTypes,
                                              qv::XmlNode* hour)
-    : CDialog(BuildTemplate, parent), m_hourTypes(hourTypes), m_hour(hour) {
-  connect(Find<qv::ColourSwatch>(swatch), &qv::ColourSwatch::clicked, this,
-          &CDlgAddModifyHourType::OnColor);
+    : EditingDialog(parent), m_hourTypes(*hourTypes), m_hour(*hour) {
+  Build(m_ui);
+  connect(m_ui.swatchColour, &qv::ColourSwatch::clicked, this, &CDlgAddModifyHourType::OnColor);
 }
 
-CDlgAddModifyHourType::~CDlgAddModifyHourType() = default;
-
-std::optional<int> CDlgAddModifyHourType::OnCreate() {
-  if (const auto refused = CDialog::OnCreate()) {
-    return refused;
-  }
-  m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
-  m_form = std::make_unique<qv::HourTypeForm>(*m_hour, qv::HourTypes(*m_hourTypes), *m_boxes);
-  return std::nullopt;
+std::unique_ptr<qv::HourTypeForm> CDlgAddModifyHourType::MakeForm() {
+  return std::make_unique<qv::HourTypeForm>(m_hour, m_hourTypes, Boxes());
 }
 
 void CDlgAddModifyHourType::OnInitDialog() {
-  qv::LimitTyping(Find<QLineEdit>(nameEdit), qv::TypeIdentity::longestTypedName);
-  qv::LimitTyping(Find<QLineEdit>(valueEdit), 0);
+  qv::LimitTyping(m_ui.editName, qv::TypeIdentity::longestTypedName);
+  qv::LimitTyping(m_ui.editValue, 0);
   ShowValueField();
   PositioningControls();
   InitializeTexts();
@@ -55,77 +28,50 @@ void CDlgAddModifyHourType::OnInitDialog() {
 }
 
 void CDlgAddModifyHourType::InitializeTexts() {
-  SetLabel(nameLabel, nameEdit, Text::Name);
-  SetLabel(valueLabel, valueEdit, Text::HourTypeValue);
-  SetLabel(colourLabel, swatch, Text::Colour);
-  SetButton(IDOK, Text::Ok, L"OK-16.png");
-  SetButton(IDCANCEL, Text::Cancel, L"CANCEL-16.png");
-  SetText(0, m_form->Identity().OpenedName().Empty() ? Text::AddHourTypeTitle
-                                                     : Text::ModifyHourTypeTitle);
+  SetLabel(m_ui.labelName, m_ui.editName, Text::Name);
+  SetLabel(m_ui.labelValue, m_ui.editValue, Text::HourTypeValue);
+  SetLabel(m_ui.labelColour, m_ui.swatchColour, Text::Colour);
+  SetOkCancel();
+  const bool isNew = m_form->Identity().OpenedName().Empty();
+  SetTitle(isNew ? Text::AddHourTypeTitle : Text::ModifyHourTypeTitle);
 }
 
 void CDlgAddModifyHourType::InitializeData() {
-  Find<qv::ColourSwatch>(swatch)->SetColour(m_form->Identity().CurrentColour());
-  qv::SetLoadedText(Find<QLineEdit>(nameEdit), qv::ToQString(m_form->Identity().OpenedName()));
+  m_ui.swatchColour->SetColour(m_form->Identity().CurrentColour());
+  qv::SetLoadedText(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
   // Also into a hidden field, so that the value of another installation comes out as it went in.
-  qv::SetLoadedText(Find<QLineEdit>(valueEdit), qv::ToQString(m_form->Value()));
+  qv::SetLoadedText(m_ui.editValue, qv::ToQString(m_form->Value()));
 }
 
 void CDlgAddModifyHourType::ShowValueField() {
   const bool isShown = qv::IsEmbedded(Services().mainCfg);
-  Control(valueEdit)->setVisible(isShown);
-  Control(valueLabel)->setVisible(isShown);
-}
-
-void CDlgAddModifyHourType::AddFields(QVVerticalLayout& column) const {
-  column.SetBoxControl(groupBox, LayoutSizeStandard, false);
-  column.AddControlAndLabel(nameEdit, nameLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
-  column.AddGap(LayoutSizeStandard);
-  if (!Control(valueEdit)->isHidden()) {
-    column.AddControlAndLabel(valueEdit, valueLabel, LayoutSizeEdit, 2, LayoutSizeLabel);
-    column.AddGap(LayoutSizeStandard);
-  }
+  m_ui.editValue->setVisible(isShown);
+  m_ui.labelValue->setVisible(isShown);
 }
 
 void CDlgAddModifyHourType::PositioningControls() {
-  qv::SwatchRow colour(this, Control(swatch), colourLabel, LayoutSizeLabel);
   QVVerticalLayout fields(this);
-  AddFields(fields);
+  fields.SetBoxControl(m_ui.boxFields, LayoutSizeStandard, false);
+  qv::AddLabelled(fields, m_ui.editName, m_ui.labelName);
+  fields.AddGap(LayoutSizeStandard);
+  if (!m_ui.editValue->isHidden()) {
+    qv::AddLabelled(fields, m_ui.editValue, m_ui.labelValue);
+    fields.AddGap(LayoutSizeStandard);
+  }
+  qv::SwatchRow colour(this, m_ui.swatchColour, m_ui.labelColour, LayoutSizeLabel);
   colour.AddTo(fields);
-  QVHoritzontalLayout buttons(this);
-  qv::AddNarrowOkCancel(buttons);
-  QVVerticalLayout column(this);
-  column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
-  column.AddGap(LayoutSizeStandard);
-  column.AddLayout(&fields, 0);
-  column.AddGap(LayoutSizeStandard);
-  column.AddLayout(&buttons, LayoutSizeStandard);
-  column.AddGap(LayoutSizeStandard);
+  qv::OkCancelRow buttons(this, qv::OkCancelWidth::Narrow);
+  qv::DialogColumn column(this);
+  column.Add(&fields, 0);
+  column.Add(&buttons, LayoutSizeStandard);
   setFixedHeight(column.FixedSize().height());
   column.Layout(rect());
 }
 
 void CDlgAddModifyHourType::OnColor() {
-  const auto chosen = qv::AskColour(this, m_form->Identity().CurrentColour(),
-                                    qv::HostText(Services().loadString, Text::Colour));
-  if (chosen && m_form->Identity().ChooseColour(*chosen)) {
-    Find<qv::ColourSwatch>(swatch)->SetColour(*chosen);
-  }
+  qv::ChooseColour(m_form->Identity(), *m_ui.swatchColour, Worded(Text::Colour));
 }
 
-void CDlgAddModifyHourType::OnOK() {
-  const qv::SaveEnd end = m_form->Save(qv::ToWide(Find<QLineEdit>(nameEdit)->text()),
-                                       qv::ToWide(Find<QLineEdit>(valueEdit)->text()));
-  if (end.refusal) {
-    Tell(*m_boxes, *end.refusal);
-  }
-  if (end.IsDone()) {
-    CDialog::OnOK();
-  }
-}
-
-void CDlgAddModifyHourType::OnDestroy() {
-  m_modified = m_form->IsModified();
-  m_form.reset();
-  m_boxes.reset();
+qv::SaveEnd CDlgAddModifyHourType::Save() {
+  return m_form->Save(qv::ToWide(m_ui.editName->text()), qv::ToWide(m_ui.editValue->text()));
 }

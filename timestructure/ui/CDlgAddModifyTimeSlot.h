@@ -1,11 +1,12 @@
 #pragma once
 
-#include <memory>
+#include <array>
 #include <optional>
 
 #include "timestructure/TimeSlotForm.h"
-#include "toolkit/CDialog.h"
-#include "toolkit/MessageBoxes.h"
+#include "toolkit/EditingDialog.h"
+#include "tools/Colour.h"
+#include "ui_1304.h"
 
 class QVHoritzontalLayout;
 
@@ -15,52 +16,48 @@ class TimeGridView;
 
 /// The editor of one slot of a day type: its hour type, and its times by number or on a grid with
 /// the mouse.
-class CDlgAddModifyTimeSlot : public CDialog {
+class CDlgAddModifyTimeSlot : public qv::EditingDialog<qv::TimeSlotForm> {
   Q_OBJECT
 
  public:
   /// `slot` is edited after `IDOK`; `hourTypes` gains what the user adds there at once, so the
   /// caller hands over a copy. `dayColor` is the ground of the grid.
   CDlgAddModifyTimeSlot(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* slot, COLORREF dayColor);
-  ~CDlgAddModifyTimeSlot() override;
-
-  /// Whether the user entered anything. To be read after `DoModal`.
-  bool m_modified = false;
 
  protected:
-  std::optional<int> OnCreate() override;
+  std::unique_ptr<qv::TimeSlotForm> MakeForm() override;
   void OnInitDialog() override;
   void PositioningControls() override;
-  void OnOK() override;
-  void OnDestroy() override;
+  qv::SaveEnd Save() override { return m_form->Save(); }
 
-  bool eventFilter(QObject* edit, QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  /// A field of a time with its controls.
   struct FieldControls {
     qv::TimeField field;
-    int edit;
-    int spin;
+    QLineEdit* edit;
+    qv::SpinButtons* spin;
   };
-  static const FieldControls fields[];
 
-  void Connect();
+  void Connect(const FieldControls& controls);
   void InitializeTexts();
   QString NameOf(qv::TimeField field) const;
   void OnAddHourType();
+  void OnSelchangeType(int index);
   void ShowHourTypes();
   void ShowTimes();
+  void ShowTime(const FieldControls& controls);
   void ShowGrid();
   void AddTimes(QVHoritzontalLayout& row, qv::SlotEdge edge) const;
   std::optional<int> MinuteAt(const QMouseEvent& event) const;
 
-  qv::XmlNode* m_hourTypes;
-  qv::XmlNode* m_slot;
-  COLORREF m_dayColor;
+  Ui::Template1304 m_ui;
+  std::array<FieldControls, 4> m_fields;
+  qv::HourTypes m_hourTypes;
+  qv::XmlNode& m_slot;
+  qv::Colour m_dayColour;
   qv::TimeGridView* m_grid;
-  std::unique_ptr<qv::MessageBoxes> m_boxes;
-  std::unique_ptr<qv::TimeSlotForm> m_form;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "timestructure/ui/TypeListDialog.h"
+#include "ui_1307.h"
 
 /// The day types of a discriminator. Works on the nodes that it is given: the caller hands over
 /// copies, and takes them back after `IDOK`.
@@ -16,5 +17,6 @@ class CDlgDayTypes : public qv::TypeListDialog {
   qv::EditorEnd EditType(qv::XmlNode& type, qv::XmlNode& container) override;
 
  private:
+  Ui::Template1307 m_ui;
   qv::XmlNode* m_hourTypes;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "timestructure/ui/TypeListDialog.h"
+#include "ui_1306.h"
 
 /// The hour types of a discriminator. Works on the nodes that it is given: the caller hands over
 /// copies, and takes them back after `IDOK`.
@@ -13,4 +14,7 @@ class CDlgHourTypes : public qv::TypeListDialog {
 
  protected:
   qv::EditorEnd EditType(qv::XmlNode& type, qv::XmlNode& container) override;
+
+ private:
+  Ui::Template1306 m_ui;
 };

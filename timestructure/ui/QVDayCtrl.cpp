@@ -1,13 +1,9 @@
 #include "timestructure/ui/QVDayCtrl.h"
 
-#include <QPainter>
-
 #include "host/QVLoadString.h"
 #include "timestructure/DayDial.h"
 #include "timestructure/SlotWords.h"
 #include "toolkit/OffScreen.h"
-#include "toolkit/PaintBox.h"
-#include "toolkit/PainterCanvas.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
 
@@ -53,20 +49,11 @@ void QVDayCtrl::Setup(const XmlDocument::XmlNode* day, const XmlDocument::XmlNod
 QSize QVDayCtrl::sizeHint() const { return naturalSize; }
 
 void QVDayCtrl::paintEvent(QPaintEvent*) {
-  QPainter screen(this);
-  QImage surface = qv::OffScreen(size(), screen);
-  if (surface.isNull()) {
-    return;
-  }
-  {
-    // The faces stand on the ground of the dialog itself. Sizes stay those of the layout on a dense
-    // screen, where the same picture has more dots: labels of 14 dots could not be read there.
-    const COLORREF ground = qv::FromQColor(palette().color(backgroundRole()));
-    QPainter painter(&surface);
-    qv::PainterCanvas canvas(painter);
+  // The faces stand on the ground of the dialog itself. Sizes stay those of the layout on a dense
+  // screen, where the same picture has more dots: labels of 14 dots could not be read there.
+  qv::PaintOffScreen(*this, [this](qv::Canvas& canvas, qv::Colour ground) {
     m_dial->Paint(canvas, width(), height(), {ground, qv::InkOn(ground)});
-  }
-  screen.drawImage(0, 0, surface);
+  });
 }
 
 void QVDayCtrl::DescribeSlots() {

@@ -1,10 +1,6 @@
 #include "timestructure/ui/TimeGridView.h"
 
-#include <QPainter>
-
 #include "toolkit/OffScreen.h"
-#include "toolkit/PaintBox.h"
-#include "toolkit/PainterCanvas.h"
 
 namespace qv {
 
@@ -34,19 +30,11 @@ void TimeGridView::FitIntoBox() {
 }
 
 void TimeGridView::paintEvent(QPaintEvent*) {
-  QPainter screen(this);
-  QImage surface = OffScreen(size(), screen);
-  if (surface.isNull()) {
-    return;
-  }
-  {
-    m_picture.ground = FromQColor(palette().color(backgroundRole()));
-    m_picture.ink = InkOn(m_picture.ground);
-    QPainter painter(&surface);
-    PainterCanvas canvas(painter);
+  PaintOffScreen(*this, [this](Canvas& canvas, Colour ground) {
+    m_picture.ground = ground;
+    m_picture.ink = InkOn(ground);
     Grid().Paint(canvas, m_picture);
-  }
-  screen.drawImage(0, 0, surface);
+  });
 }
 
 }  // namespace qv

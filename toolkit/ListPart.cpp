@@ -1,0 +1,117 @@
+#include "toolkit/ListPart.h"
+
+#include <utility>
+
+#include "toolkit/ColourIcons.h"
+#include "toolkit/ControlCaption.h"
+#include "toolkit/Texts.h"
+
+namespace qv {
+namespace {
+
+void Initialize(QAbstractButton* button, Text text, const wchar_t* picture, const Host& host) {
+  ShowCaption(button, HostText(host.loadString, text));
+  ShowPicture(button, host.setup.getImageFilePath() + picture);
+}
+
+void Enable(QAbstractButton* button, bool enabled) {
+  if (button) {
+    button->setEnabled(enabled);
+  }
+}
+
+void Run(const std::function<void()>& verb) {
+  if (verb) {
+    verb();
+  }
+}
+
+}  // namespace
+
+ListPart::ListPart(const Controls& controls, Verbs verbs)
+    : m_controls(controls), m_verbs(std::move(verbs)) {
+  const auto connectButton = [this](QAbstractButton* button, const std::function<void()>& verb) {
+    if (button) {
+      connect(button, &QAbstractButton::clicked, this, [&verb] { Run(verb); });
+    }
+  };
+  connectButton(controls.add, m_verbs.add);
+  connectButton(controls.modify, m_verbs.modify);
+  connectButton(controls.remove, m_verbs.remove);
+  connect(controls.view, &ReportList::DoubleClicked, this, [this] { Run(m_verbs.modify); });
+  connect(controls.view, &ReportList::KeyDown, this, &ListPart::OnKeydown);
+  connect(controls.view, &ReportList::itemSelectionChanged, this, &ListPart::EnableDisableButtons);
+  connect(controls.view, &ReportList::RoomChanged, this, &ListPart::ResizeColumns);
+}
+
+void ListPart::Initialize(const Host& host, const std::vector<Text>& headings) {
+  QStringList captions;
+  for (const Text heading : headings) {
+    captions << HostText(host.loadString, heading);
+  }
+  m_controls.view->setColumnCount(static_cast<int>(captions.size()));
+  m_controls.view->setHeaderLabels(captions);
+  m_controls.view->setIconSize(SmallIconSize(m_controls.view));
+  qv::Initialize(m_controls.add, Text::Add, L"NEW-16.png", host);
+  qv::Initialize(m_controls.modify, Text::Modify, L"MODIFY-16.png", host);
+  qv::Initialize(m_controls.remove, Text::Remove, L"REMOVE-16.png", host);
+}
+
+ListRow ListPart::ColouredRow(const QStringList& texts, Colour colour) const {
+  return {texts, ColourIcon(colour, SmallIconSize(m_controls.view))};
+}
+
+void ListPart::Show(const std::vector<ListRow>& rows, std::optional<int> select) {
+  QList<QTreeWidgetItem*> items;
+  for (const ListRow& row : rows) {
+    auto* item = new QTreeWidgetItem(row.texts);
+    item->setIcon(0, row.icon);
+    items.append(item);
+  }
+  m_controls.view->clear();
+  m_controls.view->addTopLevelItems(items);
+  if (select) {
+    Select(*select);
+  }
+}
+
+void ListPart::RemoveRow(int row) {
+  const QSignalBlocker silent(m_controls.view);
+  delete m_controls.view->takeTopLevelItem(row);
+}
+
+void ListPart::Select(int row) {
+  m_controls.view->setCurrentItem(m_controls.view->topLevelItem(row), 0,
+                                  QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+std::optional<int> ListPart::SelectedRow() const {
+  const auto rows = SelectedRows();
+  return rows.empty() ? std::nullopt : std::optional(rows.front());
+}
+
+void ListPart::ResizeColumns() {
+  const int columns = m_controls.view->columnCount();
+  const int room = m_controls.view->viewport()->width();
+  for (int column = 0; column < columns; ++column) {
+    const bool isLast = column == columns - 1;
+    m_controls.view->setColumnWidth(column,
+                                    isLast ? room - column * (room / columns) : room / columns);
+  }
+}
+
+void ListPart::EnableDisableButtons() {
+  const std::size_t selected = SelectedRows().size();
+  Enable(m_controls.modify, selected == 1);
+  Enable(m_controls.remove, selected >= 1);
+}
+
+void ListPart::OnKeydown(int key) {
+  if (key == Qt::Key_Delete) {
+    Run(m_verbs.remove);
+  } else if (key == Qt::Key_Insert) {
+    Run(m_verbs.add);
+  }
+}
+
+}  // namespace qv

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QIcon>
+#include <QObject>
+#include <QStringList>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "host/Host.h"
+#include "toolkit/ReportList.h"
+#include "tools/Colour.h"
+
+namespace qv {
+
+/// A row of a list: its texts, and the icon before the first one, or none.
+struct ListRow {
+  QStringList texts;
+  QIcon icon{};
+};
+
+/// A list with the buttons Add, Modify and Remove, or without them, as a dialog holds it. It shows
+/// rows and says which are selected; what the verbs do is up to the dialog.
+class ListPart : public QObject {
+ public:
+  /// The controls of a template; a list may lack any of the buttons.
+  struct Controls {
+    ReportList* view;
+    QAbstractButton* add = nullptr;
+    QAbstractButton* modify = nullptr;
+    QAbstractButton* remove = nullptr;
+  };
+
+  /// What the buttons do, and with them the keys: Insert adds, Delete removes, and a double click
+  /// anywhere in the list modifies. A list may lack any of them.
+  struct Verbs {
+    std::function<void()> add{};
+    std::function<void()> modify{};
+    std::function<void()> remove{};
+  };
+
+  /// The controls outlive the part.
+  ListPart(const Controls& controls, Verbs verbs);
+
+  const Controls& Parts() const { return m_controls; }
+
+  /// Gives the list its columns, which share its width, and the buttons their texts and pictures.
+  void Initialize(const Host& host, const std::vector<Text>& headings);
+
+  /// A row with the icon of a colour before it.
+  ListRow ColouredRow(const QStringList& texts, Colour colour) const;
+  /// Shows these rows in place of those before, and selects one of them, or none.
+  void Show(const std::vector<ListRow>& rows, std::optional<int> select);
+  /// Takes a row away. The buttons follow with the next selection, or `EnableDisableButtons`.
+  void RemoveRow(int row);
+  void Select(int row);
+  void Clear() { m_controls.view->clear(); }
+
+  /// The numbers of the selected rows, from the top.
+  std::vector<int> SelectedRows() const { return m_controls.view->SelectedRows(); }
+  /// The first of them, if any.
+  std::optional<int> SelectedRow() const;
+
+  /// Gives each column the same whole number of pixels, and the last one what is left.
+  void ResizeColumns();
+  /// Modify needs one selected row, Remove at least one.
+  void EnableDisableButtons();
+
+ private:
+  void OnKeydown(int key);
+
+  Controls m_controls;
+  Verbs m_verbs;
+};
+
+}  // namespace qv
