@@ -20,10 +20,9 @@ struct DialSurroundings {
 /// which the slots of the day are sectors.
 class DayDial {
  public:
-  /// Of the discs: what of the day no slot covers. Green (0x00FF00) at first.
+  /// Discs show in this colour what of the day no slot covers; green (0x00FF00) at first.
   void SetBkColor(Colour color) { m_bkColor = color; }
-  /// Of the rings around the discs, which show it while bit 0 of the options is set. White at
-  /// first.
+  /// Rings around the discs show this colour, white at first, while bit 0 of the options is set.
   void SetColor(Colour color) { m_color = color; }
   /// Sets the options, 0 at first. Bit 0: the rings have their colour; else that of the ground. The
   /// other bits mean nothing.
@@ -40,7 +39,7 @@ class DayDial {
   /// text. Neither node is kept.
   void Setup(const XmlNode* day, const XmlNode* hourTypes);
 
-  /// In the order in which they were read and are drawn, neither sorted nor clipped.
+  /// The slots in the order in which they were read and are drawn, neither sorted nor clipped.
   const std::vector<STagSlot>& Slots() const { return m_slots; }
 
   /// Draws the dial into a canvas of this size, all of which it covers. A later slot covers an

@@ -57,7 +57,7 @@ std::wstring SlotTimes::Shown() const {
 
 void SlotTimes::TakeChange() {
   m_modified = true;
-  if (m_dragging) {
+  if (m_drag.IsActive()) {
     TakeDragged();
   }
 }
@@ -96,38 +96,24 @@ void SlotTimes::LeaveField(TimeField field) {
 }
 
 bool SlotTimes::Press(std::optional<int> minute) {
-  const bool begins = minute && !m_dragging;
-  m_dragging = begins;
+  const bool begins = m_drag.Press(minute);
   if (begins) {
-    m_dragStart = *minute;
-    m_dragEnd = *minute + minutesOfQuarter;
     TakeChange();
   }
   return begins;
 }
 
 bool SlotTimes::Move(std::optional<int> minute) {
-  const bool follows = minute && m_dragging;
+  const bool follows = m_drag.Move(minute);
   if (follows) {
-    m_dragEnd = *minute + minutesOfQuarter;
     TakeDragged();
   }
   return follows;
 }
 
-std::optional<MinuteRange> SlotTimes::Dragged() const {
-  const auto isOutside = [](int minute) { return minute < 0 || minute > minutesOfDay; };
-  if (isOutside(m_dragStart) || isOutside(m_dragEnd)) {
-    return std::nullopt;
-  }
-  return m_dragStart < m_dragEnd
-             ? MinuteRange{m_dragStart, m_dragEnd}
-             : MinuteRange{m_dragEnd - minutesOfQuarter, m_dragStart + minutesOfQuarter};
-}
-
 void SlotTimes::TakeDragged() {
   // The positions alone: minutes that are locked stay at 0.
-  if (const auto range = Dragged()) {
+  if (const auto range = m_drag.Range()) {
     Hours(SlotEdge::From).SetPosition(range->from / minutesOfHour);
     Minutes(SlotEdge::From).SetPosition(range->from % minutesOfHour);
     Hours(SlotEdge::To).SetPosition(range->to / minutesOfHour);
@@ -140,8 +126,8 @@ int SlotTimes::MinuteOf(SlotEdge edge) const {
 }
 
 std::optional<MinuteRange> SlotTimes::Selection() const {
-  if (m_dragging) {
-    return Dragged();
+  if (m_drag.IsActive()) {
+    return m_drag.Range();
   }
   const bool fillsHour = Minutes(SlotEdge::To).Position() == lastMinute;
   const MinuteRange range{

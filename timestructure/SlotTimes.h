@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "discriminator/DayMinutes.h"
+#include "timestructure/QuarterDrag.h"
 #include "timestructure/SpinState.h"
 #include "tools/QVBasicString.h"
 
@@ -43,14 +43,11 @@ class SlotTimes {
   /// the times.
   void TakeChange();
 
-  /// The user pressed the button at this minute of the grid, or outside of it. A press while a
-  /// selection is under way ends it. Whether a selection began, which has to be shown.
+  // What the mouse does on the grid, as `QuarterDrag` tells; a selection that began or follows has
+  // to be shown.
   bool Press(std::optional<int> minute);
-  /// The pointer moved; outside the grid, and without a selection under way, nothing changes.
-  /// Whether the selection follows, which has to be shown.
   bool Move(std::optional<int> minute);
-  /// The button was released, anywhere.
-  void Release() { m_dragging = false; }
+  void Release() { m_drag.Release(); }
 
   /// The minutes to paint, or nothing. An end at the last minute of an hour fills that hour, in the
   /// picture only.
@@ -78,13 +75,10 @@ class SlotTimes {
   void FreeMinutes(SlotEdge edge);
   int MinuteOf(SlotEdge edge) const;
   std::wstring Shown() const;
-  std::optional<MinuteRange> Dragged() const;
   void TakeDragged();
 
   std::array<SpinState, 4> m_spins;
-  bool m_dragging = false;
-  int m_dragStart = 0;
-  int m_dragEnd = 0;
+  QuarterDrag m_drag;
   bool m_modified = false;
 };
 

@@ -24,8 +24,8 @@ class PainterCanvas : public Canvas {
   void Polygon(std::span<const Point> points, Colour pen, Colour brush) override;
   void Line(Point from, Point to, Colour pen) override;
 
-  /// In the application's face. Where it has no size that is exactly `height` high, the largest
-  /// that fits stands in the middle of that height.
+  /// A text in the application's face. Where it has no size that is exactly `height` high, the
+  /// largest that fits stands in the middle of that height.
   void Text(Point at, std::wstring_view text, int height, Colour colour) override;
   Extent TextExtent(std::wstring_view text, int height) const override;
 

@@ -58,7 +58,7 @@ class Canvas {
   /// even number of times it is not filled. Two points are a line with both its ends.
   virtual void Polygon(std::span<const Point> points, Colour pen, Colour brush) = 0;
 
-  /// From `from` up to `to`, which is not drawn.
+  /// A line from `from` up to `to`, which is not drawn.
   virtual void Line(Point from, Point to, Colour pen) = 0;
 
   /// A line of text in an upright sans-serif face whose ascent plus descent is `height`; `at` is

@@ -39,10 +39,8 @@ std::unique_ptr<qv::DayTypeForm> CDlgAddModifyDayType::MakeForm() {
 }
 
 void CDlgAddModifyDayType::OnInitDialog() {
-  qv::LimitTyping(m_ui.editName, qv::TypeIdentity::longestTypedName);
   InitializeTexts();
-  m_list->Initialize(Services(), {Text::Name, Text::From, Text::To});
-  qv::SetLoadedText(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
+  InitializeName();
   m_form->Fill();
   FillList(std::nullopt);
   PositioningControls();
@@ -61,7 +59,13 @@ void CDlgAddModifyDayType::InitializeTexts() {
   SetLabel(m_ui.labelColour, m_ui.swatchColour, Text::Colour);
   SetLabel(m_ui.boxSlots, m_ui.listSlots, Text::TimeSlots);
   SetText(m_ui.boxDial, Text::Diagram);
+  m_list->Initialize(Services(), {Text::Name, Text::From, Text::To});
   SetOkCancel();
+}
+
+void CDlgAddModifyDayType::InitializeName() {
+  qv::LimitTyping(m_ui.editName, qv::TypeIdentity::longestTypedName);
+  qv::SetLoadedText(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
 }
 
 void CDlgAddModifyDayType::FillList(std::optional<int> select) {

@@ -29,9 +29,9 @@ class QVDISCRIMINATOR_EXPORT QVDayCtrl : public QWidget {
   explicit QVDayCtrl(CWnd* parent = nullptr);
   ~QVDayCtrl() override;
 
-  /// Of the discs: what of the day no slot covers.
+  /// Discs show in this colour what of the day no slot covers.
   void SetBkColor(COLORREF color);
-  /// Of the rings around the discs, white at first; shown while bit 0 of the options is set.
+  /// Rings around the discs show this colour, white at first, while bit 0 of the options is set.
   void SetColor(COLORREF color);
   /// Sets the options. Bit 0: the rings have their colour; else, as at first, that of the ground.
   void Setup(BYTE options);
