@@ -8,8 +8,7 @@
 namespace qv {
 namespace {
 
-constexpr TypeIdentity::Wording wording{tag::Day, Text::DayTypeNameMissing,
-                                        Text::DayTypeNameForbidden};
+constexpr TypeIdentity::Messages messages{Text::DayTypeNameMissing, Text::DayTypeNameForbidden};
 constexpr wchar_t midnight[] = L"00:00";
 
 }  // namespace
@@ -18,7 +17,7 @@ DayTypeForm::DayTypeForm(XmlNode& day, DayTypes dayTypes, HourTypes hourTypes, P
     : m_day(day),
       m_hourTypes(hourTypes),
       m_prompter(prompter),
-      m_identity(day, dayTypes.Node(), wording, prompter),
+      m_identity(day, {dayTypes.Node(), tag::Day}, messages, prompter),
       m_slots(day, hourTypes) {}
 
 std::optional<Refusal> DayTypeForm::FaultOfSlots() const {

@@ -6,14 +6,13 @@
 namespace qv {
 namespace {
 
-constexpr TypeIdentity::Wording wording{tag::Hour, Text::HourTypeNameMissing,
-                                        Text::HourTypeNameForbidden};
+constexpr TypeIdentity::Messages messages{Text::HourTypeNameMissing, Text::HourTypeNameForbidden};
 
 }  // namespace
 
 HourTypeForm::HourTypeForm(XmlNode& hour, HourTypes hourTypes, Prompter& prompter)
     : m_hour(hour),
-      m_identity(hour, hourTypes.Node(), wording, prompter),
+      m_identity(hour, {hourTypes.Node(), tag::Hour}, messages, prompter),
       m_openedValue(hour.Value(tag::Value)) {}
 
 SaveEnd HourTypeForm::Save(const QVWideString& name, const QVWideString& value) {

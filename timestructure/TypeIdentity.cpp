@@ -6,10 +6,10 @@
 
 namespace qv {
 
-TypeIdentity::TypeIdentity(const XmlNode& type, const XmlNode& list, const Wording& wording,
+TypeIdentity::TypeIdentity(const XmlNode& type, const Others& others, const Messages& messages,
                            Prompter& prompter)
-    : m_list(list),
-      m_wording(wording),
+    : m_others(others),
+      m_messages(messages),
       m_prompter(prompter),
       m_openedName(type.Value(tag::Name)),
       m_openedColour(ColourOfText(type.Value(tag::Color))),
@@ -35,20 +35,20 @@ std::optional<SaveEnd> TypeIdentity::Objection(const QVWideString& name) const {
 
 std::optional<Text> TypeIdentity::FaultOfName(const QVWideString& name) const {
   if (name.Empty()) {
-    return m_wording.nameMissing;
+    return m_messages.nameMissing;
   }
   if (!IsValidId(name, true)) {
     return Text::NameNotAllowed;
   }
   if (name.ToView().find_first_of(L"\"\\,") != std::wstring_view::npos) {
-    return m_wording.nameForbidden;
+    return m_messages.nameForbidden;
   }
   const bool isTaken = name != m_openedName && HasOther(tag::Name, name);
   return isTaken ? std::optional(Text::TypeNameTaken) : std::nullopt;
 }
 
 bool TypeIdentity::HasOther(const wchar_t* field, const QVWideString& value) const {
-  return m_list.NodeV(L"%s?%s=%s?", m_wording.tag, field, value) != nullptr;
+  return m_others.list.NodeV(L"%s?%s=%s?", m_others.tag, field, value) != nullptr;
 }
 
 }  // namespace qv

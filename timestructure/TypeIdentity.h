@@ -16,16 +16,21 @@ class TypeIdentity {
   /// The number of characters that may be typed into the name.
   static constexpr int longestTypedName = 128;
 
-  /// What differs between hour types and day types.
-  struct Wording {
+  /// The types among which it has to stand out: the children of `list` with this tag.
+  struct Others {
+    const XmlNode& list;
     const wchar_t* tag;
+  };
+
+  /// What the user is told of a name.
+  struct Messages {
     Text nameMissing;
     Text nameForbidden;
   };
 
-  /// `type` is the node that is edited, which need not lie in `list`. All but `wording` is to
-  /// outlive the identity.
-  TypeIdentity(const XmlNode& type, const XmlNode& list, const Wording& wording,
+  /// `type` is the node that is edited, which need not lie in the list of the others. All nodes and
+  /// the prompter outlive the identity.
+  TypeIdentity(const XmlNode& type, const Others& others, const Messages& messages,
                Prompter& prompter);
 
   const QVWideString& OpenedName() const { return m_openedName; }
@@ -47,8 +52,8 @@ class TypeIdentity {
   std::optional<Text> FaultOfName(const QVWideString& name) const;
   bool HasOther(const wchar_t* field, const QVWideString& value) const;
 
-  const XmlNode& m_list;
-  Wording m_wording;
+  Others m_others;
+  Messages m_messages;
   Prompter& m_prompter;
   QVWideString m_openedName;
   Colour m_openedColour;

@@ -207,15 +207,6 @@ TEST_F(DayTypeFormTest, RemovingTheLastRowSelectsTheNewLastOne) {
   EXPECT_EQ(form.OnRemove(1), (ListEnd{true, 0}));
 }
 
-TEST_F(DayTypeFormTest, NamesThatDifferInCaseAreTwoNames) {
-  EXPECT_TRUE(Told(prompter, form.Save(L"FEAST")));
-}
-
-TEST_F(DayTypeFormTest, AColourOpenedEqualToAnothersIsNotAskedAbout) {
-  Day(L"feast").SetValue(L"color", L"0000FF");
-  EXPECT_TRUE(Told(prompter, form.Save(L"work")));
-}
-
 TEST_F(DayTypeFormTest, ADayWithoutSlotsIsSavedIfTheUserAcceptsIt) {
   DayTypeForm feast(Day(L"feast"), DayTypes(*days), HourTypes(*hours), prompter);
   feast.Fill();

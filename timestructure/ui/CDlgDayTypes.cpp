@@ -11,7 +11,7 @@ CDlgDayTypes::CDlgDayTypes(CWnd* parent, qv::XmlNode* dayTypes, qv::XmlNode* /*c
   BuildList(m_ui);
 }
 
-qv::EditorEnd CDlgDayTypes::EditType(qv::XmlNode& type, qv::XmlNode& container) {
-  CDlgAddModifyDayType editor(this, &type, &container, m_hourTypes);
+qv::EditorEnd CDlgDayTypes::EditType(qv::XmlNode& type) {
+  CDlgAddModifyDayType editor(this, &type, Types(), m_hourTypes);
   return qv::RunDialog(editor);
 }

@@ -14,7 +14,7 @@ class CDlgDayTypes : public qv::TypeListDialog {
   CDlgDayTypes(CWnd* parent, qv::XmlNode* dayTypes, qv::XmlNode* calendar, qv::XmlNode* hourTypes);
 
  protected:
-  qv::EditorEnd EditType(qv::XmlNode& type, qv::XmlNode& container) override;
+  qv::EditorEnd EditType(qv::XmlNode& type) override;
 
  private:
   Ui::Template1307 m_ui;

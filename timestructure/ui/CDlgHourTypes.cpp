@@ -9,7 +9,7 @@ CDlgHourTypes::CDlgHourTypes(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* 
   BuildList(m_ui);
 }
 
-qv::EditorEnd CDlgHourTypes::EditType(qv::XmlNode& type, qv::XmlNode& container) {
-  CDlgAddModifyHourType editor(this, &container, &type);
+qv::EditorEnd CDlgHourTypes::EditType(qv::XmlNode& type) {
+  CDlgAddModifyHourType editor(this, Types(), &type);
   return qv::RunDialog(editor);
 }

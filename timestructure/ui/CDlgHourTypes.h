@@ -13,7 +13,7 @@ class CDlgHourTypes : public qv::TypeListDialog {
   CDlgHourTypes(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* dayTypes);
 
  protected:
-  qv::EditorEnd EditType(qv::XmlNode& type, qv::XmlNode& container) override;
+  qv::EditorEnd EditType(qv::XmlNode& type) override;
 
  private:
   Ui::Template1306 m_ui;

@@ -52,7 +52,7 @@ void TypeListDialog::PositioningControls() {
 }
 
 RunEditor TypeListDialog::Editor() {
-  return [this](XmlNode& type) { return EditType(type, *m_container); };
+  return [this](XmlNode& type) { return EditType(type); };
 }
 
 void TypeListDialog::OnAdd() { Follow(m_form->OnAdd(Editor())); }

@@ -38,8 +38,9 @@ class TypeListDialog : public EditingDialog<TypeList> {
         ListPart::Verbs{[this] { OnAdd(); }, [this] { OnModify(); }, [this] { OnRemove(); }});
   }
 
-  /// Runs the editor of a type in `container`, or of a copy of one, over this dialog.
-  virtual EditorEnd EditType(XmlNode& type, XmlNode& container) = 0;
+  /// Runs the editor of a type in the container, or of a copy of one, over this dialog.
+  virtual EditorEnd EditType(XmlNode& type) = 0;
+  XmlNode* Types() const { return m_container; }
 
   std::unique_ptr<TypeList> MakeForm() override;
   void OnInitDialog() override;
