@@ -1,6 +1,6 @@
 #include "discriminator/FileNames.h"
 
-#include "tools/Utf8.h"
+#include "tools/Names.h"
 
 namespace qv {
 namespace {
@@ -56,9 +56,7 @@ std::optional<std::wstring_view> NameBetweenDots(std::wstring_view fileName) {
 }
 
 bool FitsFileName(const QVWideString& fileStem) {
-  constexpr std::size_t longestFileName = 255;  // bytes
-  const auto bytes = ToUtf8(IndexPath(fileStem + discriminatorExtension).ToView());
-  return bytes && bytes->size() <= longestFileName;
+  return FitsInFileName(IndexPath(fileStem + discriminatorExtension).ToView());
 }
 
 bool IsFileStem(const QVWideString& fileStem) {

@@ -16,12 +16,11 @@ constexpr std::wstring_view refusedInFileNames = L"\"\\";
 constexpr std::wstring_view refusedInFileNames;
 #endif
 
-/// What a file name may hold less the GUID, the two dots and the extension "xdctI", in bytes.
-constexpr std::size_t longestName = 255 - 36 - 1 - 6;
+/// The GUID, the two dots and the extension "xdctI" of the file that a name stands in, in bytes.
+constexpr std::size_t besideName = 36 + 1 + 6;
 
-bool FitsFileName(std::wstring_view name) {
-  const auto bytes = qv::ToUtf8(name);
-  return bytes && bytes->size() <= longestName &&
+bool CanStandInFileName(std::wstring_view name) {
+  return qv::FitsInFileName(name, besideName) &&
          name.find_first_of(refusedInFileNames) == std::wstring_view::npos;
 }
 
@@ -43,10 +42,16 @@ bool IsValidId(const wchar_t* text, bool asFileName) {
   const std::wstring_view name(text ? text : L"");
   return !name.empty() && name.find_first_of(L".?=/<>:|*") == std::wstring_view::npos &&
          std::none_of(name.begin(), name.end(), IsControl) && qv::IsXmlText(name) &&
-         (!asFileName || FitsFileName(name));
+         (!asFileName || CanStandInFileName(name));
 }
 
 namespace qv {
+
+bool FitsInFileName(std::wstring_view text, std::size_t otherBytes) {
+  constexpr std::size_t longestFileName = 255;  // bytes
+  const auto bytes = ToUtf8(text);
+  return bytes && otherBytes <= longestFileName && bytes->size() <= longestFileName - otherBytes;
+}
 
 int CompareLowered(std::wstring_view a, std::wstring_view b) {
   const auto before = [](wchar_t x, wchar_t y) { return Lowered(x) < Lowered(y); };

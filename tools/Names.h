@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "tools/Export.h"
@@ -11,6 +12,10 @@
 QVTOOLS_EXPORT bool IsValidId(const wchar_t* text, bool asFileName);
 
 namespace qv {
+
+/// Whether `text`, with `otherBytes` bytes beside it, is short enough for the name of one file, as
+/// the usual file systems take them. Not so for a text that has no UTF-8 form.
+QVTOOLS_EXPORT bool FitsInFileName(std::wstring_view text, std::size_t otherBytes = 0);
 
 /// Orders texts without regard to case, by their lower-cased characters (so that `_` stands before
 /// letters): negative, 0 or positive. Independent of the process's locale.

@@ -83,6 +83,13 @@ TEST(NameBetweenDots, IsNothingWithFewerDots) {
   EXPECT_FALSE(NameBetweenDots(L"A.xdct"));
 }
 
+TEST(FitsFileName, LeavesRoomForTheIndexFile) {
+  const std::size_t room = 255 - std::wstring_view(L".xdctI").size();
+  EXPECT_TRUE(FitsFileName(QVWideString(std::wstring(room, L'a'))));
+  EXPECT_FALSE(FitsFileName(QVWideString(std::wstring(room + 1, L'a'))));
+  EXPECT_TRUE(FitsFileName(L""));
+}
+
 TEST(IsFileStem, RefusesWhatLeadsElsewhere) {
   EXPECT_FALSE(IsFileStem(L"../1.A"));
   EXPECT_FALSE(IsFileStem(L"/cfg/1.A"));

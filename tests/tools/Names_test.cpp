@@ -100,6 +100,26 @@ TEST(IsValidId, AcceptsExactlyTheLengthsThatTheDiskTakes) {
 }
 #endif
 
+TEST(FitsInFileName, CountsTheBytesOfUtf8AndThoseBeside) {
+  EXPECT_TRUE(FitsInFileName(L""));
+  EXPECT_TRUE(FitsInFileName(Repeated(L"a", 255)));
+  EXPECT_FALSE(FitsInFileName(Repeated(L"a", 256)));
+  EXPECT_TRUE(FitsInFileName(Repeated(L"\u00F1", 127)));
+  EXPECT_FALSE(FitsInFileName(Repeated(L"\u00F1", 128)));
+  EXPECT_TRUE(FitsInFileName(Repeated(L"a", 250), 5));
+  EXPECT_FALSE(FitsInFileName(Repeated(L"a", 250), 6));
+}
+
+TEST(FitsInFileName, LeavesNoRoomBesideTooMuch) {
+  EXPECT_TRUE(FitsInFileName(L"", 255));
+  EXPECT_FALSE(FitsInFileName(L"", 256));
+  EXPECT_FALSE(FitsInFileName(L"a", static_cast<std::size_t>(-1)));
+}
+
+TEST(FitsInFileName, RefusesWhatHasNoUtf8Form) {
+  EXPECT_FALSE(FitsInFileName(std::wstring(1, static_cast<wchar_t>(0xD800))));
+}
+
 TEST(CompareLowered, OrdersWithoutRegardToCase) {
   const std::wstring_view ascending[] = {L"",    L" ",       L"1",       L"10",     L"2",
                                          L"A_b", L"aB",      L"AB c",    L"Ac",     L"b",
