@@ -1,9 +1,6 @@
 #include "editor/DiscriminatorForm.h"
 
-#include <algorithm>
-
 #include "discriminator/DeviceLinks.h"
-#include "discriminator/DiscriminatorFile.h"
 #include "discriminator/EditedCopies.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
@@ -116,12 +113,7 @@ bool DiscriminatorForm::NameExists(const QVWideString& name) const {
   if (EqualUppered(name.ToView(), m_initialName.ToView())) {
     return false;
   }
-  const auto pattern = m_services.host.setup.CfgPath() + discriminatorPattern;
-  const auto files = m_services.files.Walk(pattern.ToView());
-  return std::any_of(files.begin(), files.end(), [&](const std::wstring& file) {
-    const auto taken = NameBetweenDots(file);
-    return taken && EqualUppered(*taken, name.ToView());
-  });
+  return Directory().HasName(name.ToView());
 }
 
 void DiscriminatorForm::TakeOver(const DiscriminatorFields& typed) {
@@ -147,9 +139,10 @@ void DiscriminatorForm::RemoveOldFiles() {
   m_services.files.Remove(IndexPath(m_filePath).ToView());
 }
 
-bool DiscriminatorForm::WriteFile() {
-  const auto path = PathOfDocument(Root(), m_services.host.setup.CfgPath());
-  return path && m_document->SaveAs(*path, m_services.files);
+bool DiscriminatorForm::WriteFile() { return Directory().Save(*m_document); }
+
+DiscriminatorDirectory DiscriminatorForm::Directory() const {
+  return {m_services.host.setup.CfgPath(), m_services.files};
 }
 
 }  // namespace qv

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "discriminator/Containers.h"
+#include "discriminator/DiscriminatorDirectory.h"
 #include "discriminator/DiscriminatorDocument.h"
 #include "host/EditorEnd.h"
 #include "host/Host.h"
@@ -94,6 +95,7 @@ class DiscriminatorForm {
   void TakeOver(const wchar_t* tag, const QVWideString& value);
   void RemoveOldFiles();
   bool WriteFile();
+  DiscriminatorDirectory Directory() const;
 
   EditorServices m_services;
   std::unique_ptr<XmlDocument> m_document;

@@ -1,9 +1,7 @@
 #include "hostkit/IndexFiles.h"
 
-#include "discriminator/DiscriminatorFile.h"
-#include "discriminator/Fields.h"
+#include "discriminator/DiscriminatorDirectory.h"
 #include "discriminator/FileNames.h"
-#include "discriminator/IndexDocument.h"
 
 namespace qv {
 namespace {
@@ -13,37 +11,30 @@ bool HasName(std::wstring_view discriminatorFile, std::wstring_view name) {
   return stem && NameOfStem(*stem) == name;
 }
 
-/// How one file fared.
-enum class Outcome { NotConcerned, Written, Failed };
-
-Outcome WriteIndex(const QVWideString& directory, std::wstring_view fileName, Files& files) {
+/// A file that is nobody's discriminator needs no index.
+IndexOutcome WriteIndex(const DiscriminatorDirectory& directory, std::wstring_view fileName) {
   XmlDocument document;
-  if (!LoadDiscriminator(document, directory, fileName, files)) {
-    return Outcome::NotConcerned;
-  }
-  const XmlNode* hourTypes = document.Root()->Node(tag::HourTypes);
-  if (!hourTypes) {
-    return Outcome::NotConcerned;
-  }
-  const QVWideString path = IndexPath(directory + QVWideString(fileName));
-  return MakeIndexDocument(*hourTypes)->SaveAs(path, files) ? Outcome::Written : Outcome::Failed;
+  return directory.Load(document, fileName) ? directory.SaveIndex(*document.Root())
+                                            : IndexOutcome::NotNeeded;
 }
 
 }  // namespace
 
 IndexFiles::IndexFiles(Files& files) : m_files(files) {}
 
-bool IndexFiles::operator()(const QVWideString& directory, const QVWideString& fileName) {
+bool IndexFiles::operator()(const QVWideString& path, const QVWideString& fileName) {
   const auto name = WithoutExtension(fileName.ToView());
+  if (!name) {
+    return false;
+  }
+  const DiscriminatorDirectory directory(path, m_files);
   bool anyWritten = false;
   bool anyFailed = false;
-  if (name) {
-    for (const auto& found : m_files.Walk((directory + discriminatorPattern).ToView())) {
-      const auto outcome =
-          HasName(found, *name) ? WriteIndex(directory, found, m_files) : Outcome::NotConcerned;
-      anyWritten |= outcome == Outcome::Written;
-      anyFailed |= outcome == Outcome::Failed;
-    }
+  for (const auto& found : directory.FileNames()) {
+    const auto outcome =
+        HasName(found, *name) ? WriteIndex(directory, found) : IndexOutcome::NotNeeded;
+    anyWritten |= outcome == IndexOutcome::Written;
+    anyFailed |= outcome == IndexOutcome::NotWritten;
   }
   return anyWritten && !anyFailed;
 }

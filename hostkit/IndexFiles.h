@@ -10,10 +10,10 @@ class IndexFiles : public CreateDiscriminatorIndex {
  public:
   explicit IndexFiles(Files& files = Files::Disk());
 
-  /// `fileName` is "<name>.xdct". Writes the index of every file of `directory` whose name part is
-  /// exactly that name, that loads, is named as its own fields say, and has `hourTypes`; touches
-  /// nothing else. False if there is none, or one could not be written.
-  bool operator()(const QVWideString& directory, const QVWideString& fileName) override;
+  /// `fileName` is "<name>.xdct". Writes the index of every file of the directory `path` whose name
+  /// part is exactly that name, that loads, is named as its own fields say, and has `hourTypes`;
+  /// touches nothing else. False if there is none, or one could not be written.
+  bool operator()(const QVWideString& path, const QVWideString& fileName) override;
 
  private:
   Files& m_files;

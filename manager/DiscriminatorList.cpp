@@ -1,11 +1,11 @@
 #include "manager/DiscriminatorList.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "discriminator/DeviceLinks.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
-#include "discriminator/IndexDocument.h"
 #include "host/Installation.h"
 #include "manager/ClipboardPayload.h"
 #include "tools/Format.h"
@@ -32,15 +32,14 @@ void DiscriminatorList::ReadInstallation() {
 
 bool DiscriminatorList::Refresh(Progress& progress) {
   m_rows.clear();
-  const QVWideString& directory = m_host.setup.CfgPath();
-  const auto names = m_files.Walk((directory + discriminatorPattern).ToView());
+  const DiscriminatorDirectory directory = Directory();
+  const auto names = directory.FileNames();
   for (std::size_t i = 0; i < names.size(); ++i) {
     if (!progress.Advance(i, names.size())) {
       m_rows.clear();
       return false;
     }
-    auto shown = GetDiscriminatorIdNameDescription(directory, names[i], m_showConditions, m_files);
-    if (shown) {
+    if (auto shown = directory.Summary(names[i], m_showConditions)) {
       m_rows.push_back({static_cast<int>(m_rows.size()), *std::move(shown)});
     }
   }
@@ -172,13 +171,10 @@ void DiscriminatorList::PasteItem(const XmlNode& item) {
   root.SetValue(tag::Id, NewGuidText());
   root.SetValue(tag::Revision, NewGuidText());
   root.SetValue(tag::Name, FreeName(name));
-  // A name that would lead to another place is as good as one that can't be written.
-  if (const auto path = PathOfDocument(root, m_host.setup.CfgPath())) {
-    document.SaveAs(*path, m_files);
-    if (const XmlNode* hourTypes = root.Node(tag::HourTypes)) {
-      MakeIndexDocument(*hourTypes)->SaveAs(IndexPath(*path), m_files);
-    }
-  }
+  // What the disk doesn't take is a discriminator all the same.
+  const DiscriminatorDirectory directory = Directory();
+  std::ignore = directory.Save(document);
+  directory.SaveIndex(root);
   AddDiscriminatorToDeviceGroupsNode(m_deviceGroups, root);
   m_changed = true;
   m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
@@ -205,7 +201,11 @@ ClipboardOffer DiscriminatorList::Offer(std::size_t selectedRows) const {
 
 QVWideString DiscriminatorList::PathOf(int row) const {
   const auto& stem = m_rows.at(static_cast<std::size_t>(row)).shown.fileStem;
-  return DiscriminatorPath(m_host.setup.CfgPath(), stem);
+  return Directory().PathOfStem(stem);
+}
+
+DiscriminatorDirectory DiscriminatorList::Directory() const {
+  return {m_host.setup.CfgPath(), m_files};
 }
 
 ListButtons DiscriminatorList::Buttons(std::size_t selectedRows) {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "discriminator/DiscriminatorFile.h"
+#include "discriminator/DiscriminatorDirectory.h"
 #include "host/EditorEnd.h"
 #include "host/Host.h"
 #include "host/Progress.h"
@@ -114,6 +114,7 @@ class DiscriminatorList {
   QVWideString FreeName(const QVWideString& name) const;
   bool IsShown(const QVWideString& name) const;
   QVWideString PathOf(int row) const;
+  DiscriminatorDirectory Directory() const;
 
   Host m_host;
   Files& m_files;

@@ -5,6 +5,7 @@
 #include <optional>
 #include <unordered_map>
 
+#include "discriminator/DiscriminatorDirectory.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
 #include "tools/Nodes.h"
@@ -35,7 +36,8 @@ NamesById DeviceNames(const XmlNode* commSystem) {
 
 NamesById DiscriminatorNames(std::wstring_view directory, qv::Files& files) {
   NamesById names;
-  for (const std::wstring& file : files.Walk(std::wstring(directory) + qv::discriminatorPattern)) {
+  const qv::DiscriminatorDirectory discriminators(QVWideString(directory), files);
+  for (const std::wstring& file : discriminators.FileNames()) {
     const auto stem = qv::WithoutExtension(file);
     if (const auto name = stem ? qv::NameOfStem(*stem) : std::nullopt) {
       names.emplace(qv::IdOfStem(QVWideString(*stem)).ToView(), *name);

@@ -1,10 +1,11 @@
-#include "discriminator/DiscriminatorFile.h"
+// Which files of a directory are discriminators, and what the list shows of them.
 
 #include <gtest/gtest.h>
 
 #include <ostream>
 #include <string>
 
+#include "discriminator/DiscriminatorDirectory.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/TemporaryDirectory.h"
 
@@ -33,7 +34,7 @@ class DiscriminatorFileTest : public testing::Test {
  protected:
   std::optional<DiscriminatorSummary> Read(const std::wstring& fileName,
                                            ShowConditions conditions = ShowConditions::Yes) {
-    return GetDiscriminatorIdNameDescription(L"/cfg/", fileName, conditions, files);
+    return DiscriminatorDirectory(L"/cfg/", files).Summary(fileName, conditions);
   }
 
   ScriptedFiles files;
@@ -79,7 +80,7 @@ TEST_P(AcceptedFile, IsListed) {
   ScriptedFiles files;
   files.contents[L"/cfg/" + GetParam().file] = GetParam().content;
   const auto shown =
-      GetDiscriminatorIdNameDescription(L"/cfg/", GetParam().file, ShowConditions::No, files);
+      DiscriminatorDirectory(L"/cfg/", files).Summary(GetParam().file, ShowConditions::No);
   ASSERT_TRUE(shown);
   EXPECT_EQ(std::wstring(shown->fileStem.ToView()) + L".xdct", GetParam().file);
 }
@@ -121,7 +122,7 @@ TEST_P(LeftOutFile, IsNothing) {
   ScriptedFiles files;
   files.contents[L"/cfg/" + GetParam().file] = GetParam().content;
   EXPECT_FALSE(
-      GetDiscriminatorIdNameDescription(L"/cfg/", GetParam().file, ShowConditions::Yes, files));
+      DiscriminatorDirectory(L"/cfg/", files).Summary(GetParam().file, ShowConditions::Yes));
 }
 
 const Case leftOut[] = {
@@ -198,9 +199,10 @@ TEST_F(DiscriminatorFileTest, PiecesOfAnySizeGiveTheSame) {
 TEST_F(DiscriminatorFileTest, LoadedDocumentIsThatOfTheFile) {
   files.contents[L"/cfg/1.A.xdct"] = Discriminator("1", "A", "<type>CONDITIONS</type>");
   XmlDocument document;
-  ASSERT_TRUE(LoadDiscriminator(document, L"/cfg/", L"1.A.xdct", files));
+  const DiscriminatorDirectory directory(L"/cfg/", files);
+  ASSERT_TRUE(directory.Load(document, L"1.A.xdct"));
   EXPECT_EQ(document.Root()->Value(L"type"), L"CONDITIONS");
-  EXPECT_FALSE(LoadDiscriminator(document, L"/cfg/", L"2.B.xdct", files));
+  EXPECT_FALSE(directory.Load(document, L"2.B.xdct"));
 }
 
 std::string ManyComments() {
@@ -241,8 +243,7 @@ class EndlessFiles : public ScriptedFiles {
 
 TEST(LargeDiscriminatorFile, IsReadUpToTheLimitAndLeftOut) {
   EndlessFiles endless;
-  EXPECT_FALSE(
-      GetDiscriminatorIdNameDescription(L"/cfg/", L"1.A.xdct", ShowConditions::Yes, endless));
+  EXPECT_FALSE(DiscriminatorDirectory(L"/cfg/", endless).Summary(L"1.A.xdct", ShowConditions::Yes));
   constexpr std::size_t limit = std::size_t{256} * 1024 * 1024;
   EXPECT_GT(endless.bytesRead, limit);
   EXPECT_LT(endless.bytesRead, limit + std::size_t{1024} * 1024);
@@ -251,8 +252,8 @@ TEST(LargeDiscriminatorFile, IsReadUpToTheLimitAndLeftOut) {
 TEST(DiscriminatorFileOnDisk, DirectoryOfThatNameIsLeftOut) {
   const TemporaryDirectory directory;
   std::filesystem::create_directory(directory.Path() / "1.A.xdct");
-  EXPECT_FALSE(GetDiscriminatorIdNameDescription(QVWideString(directory.WidePath()), L"1.A.xdct",
-                                                 ShowConditions::Yes, Files::Disk()));
+  EXPECT_FALSE(DiscriminatorDirectory(QVWideString(directory.WidePath()), Files::Disk())
+                   .Summary(L"1.A.xdct", ShowConditions::Yes));
 }
 
 }  // namespace
