@@ -6,6 +6,7 @@
 #include "discriminator/DeviceLinks.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
+#include "discriminator/ListEnd.h"
 #include "host/Installation.h"
 #include "manager/ClipboardPayload.h"
 #include "tools/Format.h"
@@ -23,14 +24,30 @@ bool SortsBefore(const STagDiscriminatorRow& a, const STagDiscriminatorRow& b) {
 }  // namespace
 
 DiscriminatorList::DiscriminatorList(const Host& host, Files& files, Prompter& prompter,
-                                     XmlNode* deviceGroups)
-    : m_host(host), m_files(files), m_prompter(prompter), m_deviceGroups(deviceGroups) {}
+                                     DiscriminatorListView& view, XmlNode* deviceGroups)
+    : m_host(host),
+      m_files(files),
+      m_prompter(prompter),
+      m_view(view),
+      m_deviceGroups(deviceGroups) {}
 
 void DiscriminatorList::ReadInstallation() {
   m_showConditions = IsEmbedded(m_host.mainCfg) ? ShowConditions::No : ShowConditions::Yes;
 }
 
 bool DiscriminatorList::Refresh(Progress& progress) {
+  const bool read = Read(progress);
+  m_view.ShowRows(m_rows);
+  return read;
+}
+
+void DiscriminatorList::Refresh() {
+  const auto progress = m_view.NewProgress();
+  // Nobody but the view can have stopped it, and that shows no rows then.
+  std::ignore = Refresh(*progress);
+}
+
+bool DiscriminatorList::Read(Progress& progress) {
   m_rows.clear();
   const DiscriminatorDirectory directory = Directory();
   const auto names = directory.FileNames();
@@ -59,42 +76,44 @@ std::unique_ptr<XmlDocument> DiscriminatorList::CopyOfDeviceGroups() const {
                         : std::make_unique<XmlDocument>();
 }
 
-void DiscriminatorList::OnAdd(const RunEditor& runEditor, const std::function<void()>& refresh) {
+EditorEnd DiscriminatorList::OnAdd(const RunEditor& runEditor) {
   EnsureDeviceGroups();
   const auto copy = CopyOfDeviceGroups();
-  if (!runEditor(copy->Root(), nullptr).confirmed) {
-    return;
+  const EditorEnd end = runEditor(copy->Root(), nullptr);
+  if (!end.confirmed) {
+    return end;
   }
   m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
-  refresh();
+  Refresh();
   if (m_deviceGroups) {
     *m_deviceGroups = *copy->Root();
   }
   m_host.guids.invalidateGuid(QVVornelGuids::DeviceGroups, true);
   m_changed = true;
+  return end;
 }
 
-void DiscriminatorList::OnModify(const std::vector<int>& selectedRows, const RunEditor& runEditor,
-                                 const std::function<void()>& refresh) {
+EditorEnd DiscriminatorList::OnModify(const std::vector<int>& selectedRows,
+                                      const RunEditor& runEditor) {
   EnsureDeviceGroups();
   const auto copy = CopyOfDeviceGroups();
   if (selectedRows.empty()) {
-    return;
+    return {};
   }
   const QVWideString path = PathOf(selectedRows.front());
   const EditorEnd end = runEditor(copy->Root(), &path);
   if (!end.confirmed) {
-    return;
+    return end;
   }
   if (end.modified) {
     m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
   }
-  refresh();
+  Refresh();
   m_changed = true;
+  return end;
 }
 
-RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows,
-                                       const std::function<void(int row)>& rowRemoved) {
+RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows) {
   if (selectedRows.empty()) {
     return {RemovalOutcome::NothingSelected, std::nullopt};
   }
@@ -107,13 +126,11 @@ RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows,
     if (!RemoveRow(last)) {
       return {RemovalOutcome::Stopped, std::nullopt};
     }
-    rowRemoved(last);
+    m_view.RemoveRow(last);
     m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
     m_changed = true;
   }
-  const int lowest = static_cast<int>(m_rows.size()) - 1;
-  return {RemovalOutcome::Done,
-          m_rows.empty() ? std::nullopt : std::optional(std::min(last, lowest))};
+  return {RemovalOutcome::Done, RowAfterRemoval(last, m_rows.size())};
 }
 
 bool DiscriminatorList::RemoveRow(int row) {
@@ -144,7 +161,7 @@ void DiscriminatorList::CopyToClipboard(const std::vector<int>& selectedRows) co
                                   QVClipboard::TextFormat);
 }
 
-void DiscriminatorList::PasteFromClipboard(const std::function<void()>& refresh) {
+void DiscriminatorList::PasteFromClipboard() {
   const auto payload = ReadClipboard();
   if (!payload) {
     return;
@@ -152,7 +169,7 @@ void DiscriminatorList::PasteFromClipboard(const std::function<void()>& refresh)
   for (const XmlNode* item : ItemsOfPayload(*payload)) {
     PasteItem(*item);
   }
-  refresh();
+  Refresh();
 }
 
 std::unique_ptr<XmlDocument> DiscriminatorList::ReadClipboard() const {

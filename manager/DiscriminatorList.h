@@ -10,6 +10,7 @@
 #include "host/Host.h"
 #include "host/Progress.h"
 #include "host/Prompter.h"
+#include "manager/DiscriminatorListView.h"
 #include "tools/Files.h"
 
 namespace qv {
@@ -37,7 +38,7 @@ enum class RemovalOutcome {
   Done
 };
 
-struct RemovalEnd {
+struct [[nodiscard]] RemovalEnd {
   RemovalOutcome outcome = RemovalOutcome::NothingSelected;
   std::optional<int> rowToSelect;  ///< after `Done`, unless no row is left
 };
@@ -54,16 +55,20 @@ struct ClipboardOffer {
 /// are read at each refresh; between two of them the rows are a snapshot.
 class DiscriminatorList {
  public:
-  /// `deviceGroups` is the host's node, or null; it isn't owned.
-  DiscriminatorList(const Host& host, Files& files, Prompter& prompter, XmlNode* deviceGroups);
+  /// `deviceGroups` is the host's node, or null; it isn't owned. All references outlive the list.
+  DiscriminatorList(const Host& host, Files& files, Prompter& prompter, DiscriminatorListView& view,
+                    XmlNode* deviceGroups);
 
   /// Looks up once whether discriminators of type CONDITIONS are listed: not on embedded
   /// installations.
   void ReadInstallation();
 
-  /// Rebuilds the rows from the files, sorted by name without regard to case. False, with no rows,
-  /// if `progress` asked to stop.
-  bool Refresh(Progress& progress);
+  /// Rebuilds the rows from the files, sorted by name without regard to case, and shows them.
+  /// False, with no rows, if `progress` asked to stop.
+  [[nodiscard]] bool Refresh(Progress& progress);
+
+  /// The same under the progress of the view.
+  void Refresh();
 
   const std::vector<STagDiscriminatorRow>& Rows() const { return m_rows; }
 
@@ -74,29 +79,28 @@ class DiscriminatorList {
   /// place for any), and the path of the file, or null for a new discriminator.
   using RunEditor = std::function<EditorEnd(XmlNode* deviceGroups, const QVWideString* filePath)>;
 
-  /// Runs the editor for a new discriminator. If it was saved: notice, `refresh`, the copy of the
-  /// device groups becomes the host's, notice. `refresh` has to read and show the rows.
-  void OnAdd(const RunEditor& runEditor, const std::function<void()>& refresh);
+  /// Runs the editor for a new discriminator. If it was saved: notice, refresh, the copy of the
+  /// device groups becomes the host's, notice. Gives how the editor ended.
+  EditorEnd OnAdd(const RunEditor& runEditor);
 
   /// Runs the editor for the first of the selected rows, if there is one. If it was saved: a notice
-  /// if the content has changed, and `refresh`. The device groups stay as they are.
-  void OnModify(const std::vector<int>& selectedRows, const RunEditor& runEditor,
-                const std::function<void()>& refresh);
+  /// if the content has changed, and a refresh. The device groups stay as they are. Gives how the
+  /// editor ended; without a row, as if it had been cancelled.
+  EditorEnd OnModify(const std::vector<int>& selectedRows, const RunEditor& runEditor);
 
   /// Asks, and removes the discriminators of the selected rows (in ascending order): files, index
-  /// files, entries in the device groups, rows, with two notices for each. After each row
-  /// `rowRemoved` is told its number at that moment. It stops with a message at the first file that
-  /// can't be deleted, and leaves that row and those after it.
-  RemovalEnd OnRemove(const std::vector<int>& selectedRows,
-                      const std::function<void(int row)>& rowRemoved);
+  /// files, entries in the device groups, rows, with two notices for each; the row goes from the
+  /// view between them. It stops with a message at the first file that can't be deleted, and leaves
+  /// that row and those after it.
+  RemovalEnd OnRemove(const std::vector<int>& selectedRows);
 
   /// Puts the files of the selected rows on the clipboard. Does nothing without a row.
   void CopyToClipboard(const std::vector<int>& selectedRows) const;
 
   /// Makes a new discriminator of each one on the clipboard, under new ids and free names, with two
-  /// notices for each, and then calls `refresh`. Anything else on the clipboard is passed over in
+  /// notices for each, and then refreshes. Anything else on the clipboard is passed over in
   /// silence, without a refresh.
-  void PasteFromClipboard(const std::function<void()>& refresh);
+  void PasteFromClipboard();
 
   /// What the context menu offers.
   ClipboardOffer Offer(std::size_t selectedRows) const;
@@ -106,6 +110,7 @@ class DiscriminatorList {
   bool Changed() const { return m_changed; }
 
  private:
+  bool Read(Progress& progress);
   void EnsureDeviceGroups();
   std::unique_ptr<XmlDocument> CopyOfDeviceGroups() const;
   bool RemoveRow(int row);
@@ -119,6 +124,7 @@ class DiscriminatorList {
   Host m_host;
   Files& m_files;
   Prompter& m_prompter;
+  DiscriminatorListView& m_view;
   XmlNode* m_deviceGroups;
   ShowConditions m_showConditions = ShowConditions::Yes;
   bool m_changed = false;

@@ -63,7 +63,7 @@ bool Session::Open() {
   if (!LoadLanguage() || !LoadConfiguration()) {
     return false;
   }
-  m_list.emplace(Services(), Files(), m_prompter, m_configuration.DeviceGroups());
+  m_list.emplace(Services(), Files(), m_prompter, *this, m_configuration.DeviceGroups());
   m_list->ReadInstallation();
   Refresh();
   return true;
@@ -105,12 +105,12 @@ qv::Host Session::Services() {
   return {m_setup, m_mainCfg, m_notices, m_texts, m_indexFiles, m_clipboard};
 }
 
-std::unique_ptr<qv::Progress> Session::NewProgress() const {
+std::unique_ptr<qv::Progress> Session::NewProgress() {
   return std::make_unique<ProgressLine>(m_surroundings.err, m_language,
                                         m_surroundings.showsProgress);
 }
 
-void Session::Refresh() { m_list->Refresh(*NewProgress()); }
+void Session::Refresh() { m_list->Refresh(); }
 
 std::optional<std::vector<int>> Session::NamedRows() {
   std::set<int> rows;

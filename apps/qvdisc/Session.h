@@ -22,7 +22,7 @@ namespace qvdisc {
 
 /// One call of the program on one installation: the services that the rules ask of a host, and the
 /// list of discriminators, as the manager dialog has them.
-class Session {
+class Session : public qv::DiscriminatorListView {
  public:
   /// All references outlive the session.
   Session(const Arguments& arguments, const Surroundings& surroundings, Outcome& outcome);
@@ -36,7 +36,7 @@ class Session {
   /// Reads the list, with a line that tells how far it is if a user sees it.
   void Refresh();
   /// Tells how far a reading is, on a line that goes with it, if a user sees it.
-  std::unique_ptr<qv::Progress> NewProgress() const;
+  std::unique_ptr<qv::Progress> NewProgress() override;
 
   /// The rows that the call names, in ascending order and each once; nothing, and the outcome tells
   /// why, if one of the names is of no row or of several.

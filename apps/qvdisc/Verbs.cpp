@@ -92,7 +92,7 @@ std::size_t FileCount(Session& session) {
 
 void Paste(Session& session) {
   const std::size_t before = FileCount(session);
-  session.List().PasteFromClipboard([&] { session.Refresh(); });
+  session.List().PasteFromClipboard();
   // The rules don't tell what became of the items; but of each there is a notice, and a new file.
   const auto& notices = session.Result().notices;
   const auto items = static_cast<std::size_t>(
@@ -115,7 +115,6 @@ void TellUnsaved(Session& session, const DiscriminatorForm& form, const qv::Save
     session.Result().unsaved = qv::ComposePayload(form.Root()).ToView();
     Fail(session, Word::ContentFollows);
   }
-  session.Result().status = 1;
 }
 
 /// Chooses the type, as the dialog lets a user do; false if it doesn't.
@@ -166,28 +165,27 @@ qv::DiscriminatorList::RunEditor EditorOf(Session& session) {
   };
 }
 
-/// The list as it is: after a failed saving the dialog still shows what was there before.
-void RefreshAfterFailure(Session& session) {
+void FinishEditing(Session& session, const EditorEnd& end) {
+  if (!end.confirmed) {
+    session.Result().status = 1;
+  }
+  // The dialog would still show what was there before; here it is the list as it is.
   if (session.Result().unsaved) {
     session.Refresh();
   }
 }
 
-void Add(Session& session) {
-  session.List().OnAdd(EditorOf(session), [&] { session.Refresh(); });
-  RefreshAfterFailure(session);
-}
+void Add(Session& session) { FinishEditing(session, session.List().OnAdd(EditorOf(session))); }
 
 void Modify(Session& session) {
   if (const auto rows = session.NamedRows()) {
-    session.List().OnModify(*rows, EditorOf(session), [&] { session.Refresh(); });
-    RefreshAfterFailure(session);
+    FinishEditing(session, session.List().OnModify(*rows, EditorOf(session)));
   }
 }
 
 void Remove(Session& session) {
   const auto rows = session.NamedRows();
-  if (rows && session.List().OnRemove(*rows, [](int) {}).outcome != qv::RemovalOutcome::Done) {
+  if (rows && session.List().OnRemove(*rows).outcome != qv::RemovalOutcome::Done) {
     session.Result().status = 1;
   }
 }

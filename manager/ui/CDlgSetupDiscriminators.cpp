@@ -51,7 +51,8 @@ std::optional<int> CDlgSetupDiscriminators::OnCreate() {
     return refused;
   }
   m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
-  m_list = std::make_unique<qv::DiscriminatorList>(Services(), qv::Files::Disk(), *m_boxes,
+  DiscriminatorListView& view = *this;
+  m_list = std::make_unique<qv::DiscriminatorList>(Services(), qv::Files::Disk(), *m_boxes, view,
                                                    m_deviceGroups);
   return std::nullopt;
 }
@@ -61,7 +62,7 @@ void CDlgSetupDiscriminators::OnInitDialog() {
                               QStringLiteral("DISCRIMINATORVARIABLES-16.png"));
   m_list->ReadInstallation();
   InitializeTexts();
-  if (!InitializeDiscriminatorsList(true)) {
+  if (!InitializeDiscriminatorsList()) {
     EndDialog(IDCANCEL);
     return;
   }
@@ -77,23 +78,31 @@ void CDlgSetupDiscriminators::InitializeTexts() {
   m_ui->listDiscriminators->setIconSize(rowImageSize);
 }
 
-bool CDlgSetupDiscriminators::InitializeDiscriminatorsList(bool firstReading) {
-  using qv::ProgressWindow;
-  ProgressWindow progress(
-      firstReading ? parentWidget() : this, Services().loadString,
-      firstReading ? ProgressWindow::Cancel::Offered : ProgressWindow::Cancel::NotOffered);
-  const bool read = m_list->Refresh(progress);
-  ShowRows();
-  return read;
+bool CDlgSetupDiscriminators::InitializeDiscriminatorsList() {
+  qv::ProgressWindow progress(parentWidget(), Services().loadString,
+                              qv::ProgressWindow::Cancel::Offered);
+  return m_list->Refresh(progress);
 }
 
-void CDlgSetupDiscriminators::ShowRows() {
-  std::vector<qv::ListRow> rows;
-  for (const auto& row : m_list->Rows()) {
-    rows.push_back(
+std::unique_ptr<qv::Progress> CDlgSetupDiscriminators::NewProgress() {
+  return std::make_unique<qv::ProgressWindow>(this, Services().loadString,
+                                              qv::ProgressWindow::Cancel::NotOffered);
+}
+
+void CDlgSetupDiscriminators::ShowRows(const std::vector<qv::STagDiscriminatorRow>& rows) {
+  std::vector<qv::ListRow> shown;
+  for (const auto& row : rows) {
+    shown.push_back(
         {{qv::ToQString(row.shown.name), qv::ToQString(row.shown.description)}, m_rowImage});
   }
-  m_listDiscriminators->Show(rows, std::nullopt);
+  m_listDiscriminators->Show(shown, std::nullopt);
+  m_listDiscriminators->ResizeColumns();
+  m_listDiscriminators->EnableDisableButtons();
+}
+
+void CDlgSetupDiscriminators::RemoveRow(int row) {
+  // The buttons follow once, when all are gone.
+  m_listDiscriminators->RemoveRow(row);
 }
 
 void CDlgSetupDiscriminators::PositioningControls() {
@@ -115,29 +124,17 @@ void CDlgSetupDiscriminators::OnKeydownListDiscriminators(int key, bool control)
   }
 }
 
-void CDlgSetupDiscriminators::RefreshList() {
-  InitializeDiscriminatorsList(false);
-  m_listDiscriminators->ResizeColumns();
-  m_listDiscriminators->EnableDisableButtons();
-}
-
 void CDlgSetupDiscriminators::OnAdd() {
-  m_list->OnAdd([this](auto* groups, auto* path) { return RunEditor(this, groups, path); },
-                [this] { RefreshList(); });
+  m_list->OnAdd([this](auto* groups, auto* path) { return RunEditor(this, groups, path); });
 }
 
 void CDlgSetupDiscriminators::OnModify() {
-  m_list->OnModify(
-      m_listDiscriminators->SelectedRows(),
-      [this](auto* groups, auto* path) { return RunEditor(this, groups, path); },
-      [this] { RefreshList(); });
+  m_list->OnModify(m_listDiscriminators->SelectedRows(),
+                   [this](auto* groups, auto* path) { return RunEditor(this, groups, path); });
 }
 
 void CDlgSetupDiscriminators::OnRemove() {
-  const auto end = m_list->OnRemove(m_listDiscriminators->SelectedRows(), [this](int row) {
-    // The buttons follow once, when all are gone.
-    m_listDiscriminators->RemoveRow(row);
-  });
+  const auto end = m_list->OnRemove(m_listDiscriminators->SelectedRows());
   if (end.outcome == qv::RemovalOutcome::NothingSelected ||
       end.outcome == qv::RemovalOutcome::Stopped) {
     return;
@@ -156,7 +153,7 @@ void CDlgSetupDiscriminators::CopyToClipboard() {
 
 void CDlgSetupDiscriminators::PasteFromClipboard() {
   const qv::WaitCursor wait(this);
-  m_list->PasteFromClipboard([this] { RefreshList(); });
+  m_list->PasteFromClipboard();
 }
 
 void CDlgSetupDiscriminators::OnRclickListDiscriminators(const QPoint& globalPosition) {

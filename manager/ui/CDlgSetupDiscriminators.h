@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "manager/DiscriminatorListView.h"
 #include "toolkit/CDialog.h"
 #include "toolkit/Export.h"
 #include "tools/XmlDocument.h"
@@ -25,7 +26,8 @@ class MessageBoxes;
 /// host's own document alone: `IDOK` if the user left by the exit button and something was saved,
 /// removed or pasted, so that the host has to save its configuration; else `IDCANCEL`, also for
 /// Escape and the close box; -1 if the host has not installed its services.
-class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
+class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog,
+                                                       private qv::DiscriminatorListView {
   Q_OBJECT
 
  public:
@@ -46,10 +48,12 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
   void OnDestroy() override;
 
  private:
+  std::unique_ptr<qv::Progress> NewProgress() override;
+  void ShowRows(const std::vector<qv::STagDiscriminatorRow>& rows) override;
+  void RemoveRow(int row) override;
+
   void InitializeTexts();
-  bool InitializeDiscriminatorsList(bool firstReading);
-  void ShowRows();
-  void RefreshList();
+  bool InitializeDiscriminatorsList();
   void OnAdd();
   void OnModify();
   void OnRemove();

@@ -7,7 +7,7 @@
 
 #include "manager/DiscriminatorList.h"
 #include "tests/fuzz/Demand.h"
-#include "tests/support/CountingProgress.h"
+#include "tests/manager/QuietListView.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/ScriptedPrompter.h"
@@ -18,12 +18,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   qv::ScriptedPrompter prompter;
   XmlDocument deviceGroups;
   deviceGroups.Create(L"deviceGroups");
-  qv::DiscriminatorList list(host.Services(), files, prompter, deviceGroups.Root());
+  qv::QuietListView view;
+  qv::DiscriminatorList list(host.Services(), files, prompter, view, deviceGroups.Root());
   host.clipboard.text = std::string(reinterpret_cast<const char*>(data), size);
-  list.PasteFromClipboard([&] {
-    qv::CountingProgress progress;
-    list.Refresh(progress);
-  });
+  list.PasteFromClipboard();
 
   const qv::XmlNode* devices = deviceGroups.Root()->Node(L"devices");
   const auto entries = devices ? std::distance(devices->ChildsBegin(), devices->ChildsEnd()) : 0;

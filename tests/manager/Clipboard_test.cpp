@@ -5,7 +5,7 @@
 
 #include "manager/ClipboardPayload.h"
 #include "manager/DiscriminatorList.h"
-#include "tests/support/CountingProgress.h"
+#include "tests/manager/QuietListView.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/ScriptedPrompter.h"
@@ -22,25 +22,24 @@ using NameList = std::vector<std::wstring>;
 
 class ClipboardTest : public testing::Test {
  protected:
+  class CountingView : public QuietListView {
+   public:
+    int refreshes = 0;
+
+    void ShowRows(const std::vector<STagDiscriminatorRow>& /*rows*/) override { ++refreshes; }
+  };
+
   void SetUp() override {
     files.contents[L"/cfg/a.alpha.xdct"] = alphaFile;
     files.contents[L"/cfg/b.beta.xdct"] = betaFile;
     deviceGroups.Create(L"deviceGroups");
-    list =
-        std::make_unique<DiscriminatorList>(host.Services(), files, prompter, deviceGroups.Root());
-    Refresh();
+    list = std::make_unique<DiscriminatorList>(host.Services(), files, prompter, view,
+                                               deviceGroups.Root());
+    list->Refresh();
     files.log.clear();
   }
 
-  void Refresh() {
-    CountingProgress progress;
-    list->Refresh(progress);
-    ++refreshes;
-  }
-
-  void Paste() {
-    list->PasteFromClipboard([this] { Refresh(); });
-  }
+  void Paste() { list->PasteFromClipboard(); }
 
   void PasteText(const std::string& text) {
     host.clipboard.text = text;
@@ -88,8 +87,8 @@ class ClipboardTest : public testing::Test {
   ScriptedFiles files;
   ScriptedPrompter prompter;
   XmlDocument deviceGroups;
+  CountingView view;
   std::unique_ptr<DiscriminatorList> list;
-  int refreshes = 0;
 };
 
 TEST_F(ClipboardTest, ThePayloadHoldsTheDocumentsAsTheyStand) {
@@ -190,7 +189,7 @@ TEST_F(ClipboardTest, ItemsOfOtherKindsArePassedOver) {
   EXPECT_EQ(Names(), (NameList{L"alpha", L"beta"}));
   EXPECT_EQ(Entries(), 0U);
   EXPECT_FALSE(list->Changed());
-  EXPECT_EQ(refreshes, 2) << "a payload is always followed by a refresh";
+  EXPECT_EQ(view.refreshes, 2) << "a payload is always followed by a refresh";
 }
 
 TEST_F(ClipboardTest, OfAMainAndARootTheMainCounts) {
@@ -202,12 +201,12 @@ TEST_F(ClipboardTest, AnythingElseOnTheClipboardDoesNothing) {
   for (const char* text : {"", "hello", "<main/>", "<discriminator/>", "<discriminatorClipboard>",
                            "<DiscriminatorClipboard/>"}) {
     PasteText(text);
-    EXPECT_EQ(refreshes, 1) << text;
+    EXPECT_EQ(view.refreshes, 1) << text;
     EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, false})) << text;
   }
   host.clipboard.text.reset();
   Paste();
-  EXPECT_EQ(refreshes, 1);
+  EXPECT_EQ(view.refreshes, 1);
   EXPECT_TRUE(files.log.empty());
 }
 
@@ -222,7 +221,7 @@ TEST_F(ClipboardTest, ADocumentOfAnyDepthThatCanBeReadCanBePasted) {
     deep += "</x>";
   }
   files.contents[L"/cfg/9.deep.xdct"] = deep + "</main>";
-  Refresh();
+  list->Refresh();
   const auto found = std::find_if(list->Rows().begin(), list->Rows().end(),
                                   [](const auto& row) { return row.shown.name == L"deep"; });
   ASSERT_NE(found, list->Rows().end());
@@ -242,7 +241,7 @@ TEST_F(ClipboardTest, ForeignTextOfAnySizeDoesNothing) {
   for (const std::string& text :
        {std::string(size, 'x'), std::string(size, ' '), document + "</html>"}) {
     PasteText(text.c_str());
-    EXPECT_EQ(refreshes, 1);
+    EXPECT_EQ(view.refreshes, 1);
     EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, false}));
   }
 }
@@ -321,7 +320,7 @@ TEST_F(ClipboardTest, OnAnEmbeddedInstallationConditionsAreWrittenButNotShown) {
 }
 
 TEST_F(ClipboardTest, WithoutATreeAPasteMakesFilesAndNoEntries) {
-  list = std::make_unique<DiscriminatorList>(host.Services(), files, prompter, nullptr);
+  list = std::make_unique<DiscriminatorList>(host.Services(), files, prompter, view, nullptr);
   PasteText(Payload(Item("<main><name>n</name></main>")));
   EXPECT_EQ(files.contents.size(), 3U);
   EXPECT_FALSE(host.mainCfg.Root()->Node(L"deviceGroups"));

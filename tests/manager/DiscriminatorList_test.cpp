@@ -6,6 +6,7 @@
 #include <ostream>
 #include <string>
 
+#include "tests/manager/QuietListView.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"
@@ -52,7 +53,8 @@ class DiscriminatorListTest : public testing::Test {
   FakeHost host;
   ScriptedFiles files;
   ScriptedPrompter prompter;
-  DiscriminatorList list{host.Services(), files, prompter, nullptr};
+  QuietListView view;
+  DiscriminatorList list{host.Services(), files, prompter, view, nullptr};
 
  private:
   int m_added = 0;
@@ -299,7 +301,7 @@ TEST_F(DiscriminatorListTest, EachOfTenThousandFilesIsReadOnce) {
 TEST_F(DiscriminatorListTest, MissingDirectoryOfTheDiskGivesNoRows) {
   const TemporaryDirectory directory;
   host.setup.cfgPath = (directory.WidePath() + L"missing/").c_str();
-  DiscriminatorList onDisk(host.Services(), Files::Disk(), prompter, nullptr);
+  DiscriminatorList onDisk(host.Services(), Files::Disk(), prompter, view, nullptr);
   CountingProgress progress;
   EXPECT_TRUE(onDisk.Refresh(progress));
   EXPECT_TRUE(onDisk.Rows().empty());

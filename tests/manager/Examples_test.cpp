@@ -9,6 +9,7 @@
 
 #include "discriminator/FileNames.h"
 #include "manager/DiscriminatorList.h"
+#include "tests/manager/QuietListView.h"
 #include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"
@@ -42,7 +43,8 @@ std::vector<DiscriminatorSummary> RowsOf(const fs::path& directory) {
   host.setup.cfgPath = Wide(directory / "").c_str();
   EXPECT_TRUE(host.mainCfg.Load(Wide(directory / "configuration.xml").c_str()));
   ScriptedPrompter prompter;
-  DiscriminatorList list(host.Services(), Files::Disk(), prompter, nullptr);
+  QuietListView view;
+  DiscriminatorList list(host.Services(), Files::Disk(), prompter, view, nullptr);
   list.ReadInstallation();
   CountingProgress progress;
   EXPECT_TRUE(list.Refresh(progress));

@@ -11,8 +11,8 @@
 #include "editor/DiscriminatorForm.h"
 #include "hostkit/IndexFiles.h"
 #include "manager/DiscriminatorList.h"
+#include "tests/manager/QuietListView.h"
 #include "tests/manager/UsersTree.h"
-#include "tests/support/CountingProgress.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/Saving.h"
 #include "tests/support/ScriptedFiles.h"
@@ -33,7 +33,7 @@ struct Known {
 
 class Walk {
  public:
-  explicit Walk(unsigned seed) : m_random(seed) { Refresh(); }
+  explicit Walk(unsigned seed) : m_random(seed) { m_list.Refresh(); }
 
   void Step() {
     m_notices.clear();
@@ -60,7 +60,7 @@ class Walk {
         MoveEntryIntoGroup(*m_groups.Root(), m_random);
         break;
       default:
-        m_list.OnAdd([](XmlNode*, const QVWideString*) { return EditorEnd{}; }, [] {});
+        m_list.OnAdd([](XmlNode*, const QVWideString*) { return EditorEnd{}; });
     }
     Check();
   }
@@ -87,11 +87,6 @@ class Walk {
   std::wstring IdOfRow(int row) const {
     return std::wstring(
         IdOfStem(m_list.Rows()[static_cast<std::size_t>(row)].shown.fileStem).ToView());
-  }
-
-  void Refresh() {
-    CountingProgress progress;
-    m_list.Refresh(progress);
   }
 
   bool IsTaken(const std::wstring& name, const std::wstring& ownName) const {
@@ -141,7 +136,7 @@ class Walk {
 
   void Add() {
     const auto before = m_known.size();
-    m_list.OnAdd(Editor(SomeName(), Below(3) == 0, Below(6) == 0), [this] { Refresh(); });
+    m_list.OnAdd(Editor(SomeName(), Below(3) == 0, Below(6) == 0));
     if (m_known.size() > before) {
       m_notices = {8, 5};
       m_changed = true;
@@ -150,24 +145,14 @@ class Walk {
 
   void Modify() {
     const auto rows = SomeRows();
-    bool saved = false;
-    bool modified = false;
     const auto editor =
         Editor(Below(2) == 0 ? SomeName() : KeptName(rows), Below(4) == 0, Below(6) == 0);
-    m_list.OnModify(
-        rows,
-        [&](XmlNode* copy, const QVWideString* path) {
-          const EditorEnd end = editor(copy, path);
-          saved = end.confirmed;
-          modified = end.modified;
-          return end;
-        },
-        [this] { Refresh(); });
-    if (saved && modified) {
+    const EditorEnd end = m_list.OnModify(rows, editor);
+    if (end.confirmed && end.modified) {
       m_notices = {8};
     }
-    m_changed |= saved;
-    Refresh();  // an editor that was given up after a failure leaves a row without file
+    m_changed |= end.confirmed;
+    m_list.Refresh();  // an editor that was given up after a failure leaves a row without file
   }
 
   std::wstring KeptName(const std::vector<int>& rows) const {
@@ -190,7 +175,7 @@ class Walk {
       files.writeProtected = {PathOf(ids[stopAt])};
       m_prompter.ExpectShow(Text::DiscriminatorFileNotDeleted);
     }
-    m_list.OnRemove(rows, [](int) {});
+    EXPECT_EQ(m_list.OnRemove(rows).outcome, RemovalThatEnds(rows, answer, stopAt));
     files.writeProtected.clear();
     for (std::size_t i = 0; answer && i < stopAt; ++i) {
       m_known.erase(ids[i]);
@@ -198,6 +183,17 @@ class Walk {
       m_notices.insert(m_notices.end(), {5, 8});
       m_changed = true;
     }
+  }
+
+  static RemovalOutcome RemovalThatEnds(const std::vector<int>& rows, bool answer,
+                                        std::size_t stopAt) {
+    if (rows.empty()) {
+      return RemovalOutcome::NothingSelected;
+    }
+    if (!answer) {
+      return RemovalOutcome::Refused;
+    }
+    return stopAt < rows.size() ? RemovalOutcome::Stopped : RemovalOutcome::Done;
   }
 
   void Copy() {
@@ -229,7 +225,7 @@ class Walk {
     if (diskFails) {
       files.diskSpace = 0;
     }
-    m_list.PasteFromClipboard([this] { Refresh(); });
+    m_list.PasteFromClipboard();
     files.diskSpace.reset();
     std::multiset<std::wstring> expected;
     for (const std::wstring& name : m_payload) {
@@ -335,7 +331,8 @@ class Walk {
   XmlDocument m_groups;
   IndexFiles m_index{files};
   Host m_services{host.setup, host.mainCfg, host.guids, host.loadString, m_index, host.clipboard};
-  DiscriminatorList m_list{m_services, files, m_prompter, Groups()};
+  QuietListView m_view;
+  DiscriminatorList m_list{m_services, files, m_prompter, m_view, Groups()};
 
   std::map<std::wstring, Known> m_known;  ///< by id
   std::map<std::wstring, int> m_entries;  ///< how many each id has

@@ -2,7 +2,7 @@
 
 #include "discriminator/DeviceLinks.h"
 #include "manager/DiscriminatorList.h"
-#include "tests/support/CountingProgress.h"
+#include "tests/manager/QuietListView.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/ScriptedPrompter.h"
@@ -13,6 +13,25 @@ namespace {
 /// Four discriminators with index files, and an entry for each in the device groups.
 class RemovalTest : public testing::Test {
  protected:
+  /// Keeps the numbers of the rows that went, and the notices that had come before each.
+  class View : public QuietListView {
+   public:
+    explicit View(const std::vector<int>& notices) : m_notices(notices) {}
+
+    std::vector<int> removed;
+    std::vector<std::vector<int>> noticesBefore;
+    int refreshes = 0;
+
+    void ShowRows(const std::vector<STagDiscriminatorRow>& /*rows*/) override { ++refreshes; }
+    void RemoveRow(int row) override {
+      removed.push_back(row);
+      noticesBefore.push_back(m_notices);
+    }
+
+   private:
+    const std::vector<int>& m_notices;
+  };
+
   void SetUp() override {
     for (const wchar_t* name : {L"alpha", L"beta", L"delta", L"gamma"}) {
       const std::wstring id = std::wstring(1, name[0]);
@@ -22,8 +41,8 @@ class RemovalTest : public testing::Test {
       files.contents[Path(name) + L"I"] = "<hourTypes/>";
       AddEntry(*deviceGroups.Root(), id.c_str());
     }
-    CountingProgress progress;
-    list.Refresh(progress);
+    list.Refresh();
+    view.refreshes = 0;
     files.log.clear();
   }
 
@@ -39,10 +58,9 @@ class RemovalTest : public testing::Test {
     device->SetValue(L"type", type);
   }
 
-  /// Removes the rows; the numbers that were told are kept in `told`.
   RemovalEnd Remove(const std::vector<int>& rows, bool answer = true) {
     prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, answer);
-    return list.OnRemove(rows, [this](int row) { told.push_back(row); });
+    return list.OnRemove(rows);
   }
 
   std::wstring Names() const {
@@ -66,14 +84,14 @@ class RemovalTest : public testing::Test {
   ScriptedFiles files;
   ScriptedPrompter prompter;
   XmlDocument deviceGroups;
-  DiscriminatorList list{host.Services(), files, prompter, Prepared().Root()};
-  std::vector<int> told;
+  View view{host.guids.notices};
+  DiscriminatorList list{host.Services(), files, prompter, view, Prepared().Root()};
 };
 
 using Log = std::vector<std::wstring>;
 
 TEST_F(RemovalTest, WithoutARowNothingIsAsked) {
-  EXPECT_EQ(list.OnRemove({}, [](int) {}).outcome, RemovalOutcome::NothingSelected);
+  EXPECT_EQ(list.OnRemove({}).outcome, RemovalOutcome::NothingSelected);
 }
 
 TEST_F(RemovalTest, NoChangesNothing) {
@@ -91,7 +109,7 @@ TEST_F(RemovalTest, SeveralRowsGoFromTheTopWithOneQuestion) {
                             L"remove " + Path(L"beta"), L"remove " + Path(L"beta") + L"I",
                             L"remove " + Path(L"gamma"), L"remove " + Path(L"gamma") + L"I"}));
   EXPECT_EQ(host.guids.notices, (std::vector<int>{5, 8, 5, 8, 5, 8}));
-  EXPECT_EQ(told, (std::vector<int>{0, 0, 1}));
+  EXPECT_EQ(view.removed, (std::vector<int>{0, 0, 1}));
   EXPECT_EQ(Names(), L"delta ");
   EXPECT_FALSE(HasEntry(L"a"));
   EXPECT_TRUE(HasEntry(L"d"));
@@ -100,9 +118,14 @@ TEST_F(RemovalTest, SeveralRowsGoFromTheTopWithOneQuestion) {
 
 TEST_F(RemovalTest, ARowGoesBetweenItsTwoNotices) {
   prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
-  std::vector<std::vector<int>> noticesBefore;
-  list.OnRemove({1, 2}, [&](int) { noticesBefore.push_back(host.guids.notices); });
-  EXPECT_EQ(noticesBefore, (std::vector<std::vector<int>>{{5}, {5, 8, 5}}));
+  EXPECT_EQ(list.OnRemove({1, 2}).outcome, RemovalOutcome::Done);
+  EXPECT_EQ(view.noticesBefore, (std::vector<std::vector<int>>{{5}, {5, 8, 5}}));
+}
+
+TEST_F(RemovalTest, TheDirectoryIsNotReadAgain) {
+  EXPECT_EQ(Remove({0, 2}).outcome, RemovalOutcome::Done);
+  EXPECT_EQ(view.refreshes, 0);
+  EXPECT_EQ(files.log.size(), 4U) << "of each discriminator its two files";
 }
 
 TEST_F(RemovalTest, TheRowThatMovedUpIsSelectedOrElseTheNewLastOne) {
@@ -124,7 +147,7 @@ TEST_F(RemovalTest, AFileThatCannotBeDeletedStopsTheRemoval) {
   files.writeProtected.insert(Path(L"beta"));
   prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
   prompter.ExpectShow(Text::DiscriminatorFileNotDeleted);
-  const auto end = list.OnRemove({0, 1, 2}, [this](int row) { told.push_back(row); });
+  const auto end = list.OnRemove({0, 1, 2});
   EXPECT_EQ(end.outcome, RemovalOutcome::Stopped);
   EXPECT_EQ(end.rowToSelect, std::nullopt);
   EXPECT_EQ(Names(), L"beta delta gamma ");
@@ -138,8 +161,8 @@ TEST_F(RemovalTest, AFirstFileThatCannotBeDeletedChangesNothing) {
   files.writeProtected.insert(Path(L"alpha"));
   prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
   prompter.ExpectShow(Text::DiscriminatorFileNotDeleted);
-  list.OnRemove({0}, [this](int row) { told.push_back(row); });
-  EXPECT_TRUE(told.empty());
+  EXPECT_EQ(list.OnRemove({0}).outcome, RemovalOutcome::Stopped);
+  EXPECT_TRUE(view.removed.empty());
   EXPECT_FALSE(list.Changed());
 }
 
@@ -151,11 +174,10 @@ TEST_F(RemovalTest, AnIndexFileThatStaysIsPassedOver) {
 }
 
 TEST_F(RemovalTest, WithoutATreeTheFilesGoAndBothNoticesCome) {
-  DiscriminatorList alone(host.Services(), files, prompter, nullptr);
-  CountingProgress progress;
-  alone.Refresh(progress);
+  DiscriminatorList alone(host.Services(), files, prompter, view, nullptr);
+  alone.Refresh();
   prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
-  alone.OnRemove({0}, [](int) {});
+  EXPECT_EQ(alone.OnRemove({0}).outcome, RemovalOutcome::Done);
   EXPECT_FALSE(files.contents.contains(Path(L"alpha")));
   EXPECT_EQ(host.guids.notices, (std::vector<int>{5, 8}));
 }

@@ -13,7 +13,7 @@
 #include "hostkit/IndexFiles.h"
 #include "manager/DiscriminatorList.h"
 #include "tests/apps/qvdisc/CommandLine.h"
-#include "tests/support/CountingProgress.h"
+#include "tests/manager/QuietListView.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/Saving.h"
 #include "tests/support/ScriptedPrompter.h"
@@ -43,26 +43,24 @@ class Rules {
     EXPECT_NE(m_configuration.Load(m_setup.CfgPath().ToView()), qv::Configuration::Loaded::Foreign);
     const qv::Host host{m_setup,           m_mainCfg, m_fake.guids,
                         m_fake.loadString, m_index,   m_fake.clipboard};
-    qv::DiscriminatorList list(host, qv::Files::Disk(), m_prompter, m_configuration.DeviceGroups());
-    const auto refresh = [&] {
-      qv::CountingProgress progress;
-      list.Refresh(progress);
-    };
+    qv::QuietListView view;
+    qv::DiscriminatorList list(host, qv::Files::Disk(), m_prompter, view,
+                               m_configuration.DeviceGroups());
     list.ReadInstallation();
-    refresh();
+    list.Refresh();
     std::vector<int> rows;
     for (std::size_t i = 0; i < list.Rows().size(); ++i) {
       if (Utf8(list.Rows()[i].shown.name.ToView()) == step.name) {
         rows.push_back(static_cast<int>(i));
       }
     }
-    Perform(step, host, list, rows, refresh);
+    Perform(step, host, list, rows);
     EXPECT_TRUE(!list.Changed() || m_configuration.Save());
   }
 
  private:
   void Perform(const Step& step, const qv::Host& host, qv::DiscriminatorList& list,
-               const std::vector<int>& rows, const std::function<void()>& refresh) {
+               const std::vector<int>& rows) {
     const auto edit = [&](qv::XmlNode* groups, const QVWideString* path) {
       const auto form = qv::DiscriminatorForm::Open({host, qv::Files::Disk(), groups}, path);
       auto fields = form->InitialFields();
@@ -75,17 +73,19 @@ class Rules {
     };
     switch (step.verb) {
       case Verb::Add:
-        return list.OnAdd(edit, refresh);
+        EXPECT_TRUE(list.OnAdd(edit).confirmed);
+        return;
       case Verb::Modify:
-        return list.OnModify(rows, edit, refresh);
+        EXPECT_TRUE(list.OnModify(rows, edit).confirmed);
+        return;
       case Verb::Remove:
         m_prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
-        list.OnRemove(rows, [](int) {});
+        EXPECT_EQ(list.OnRemove(rows).outcome, qv::RemovalOutcome::Done);
         return;
       case Verb::Copy:
         return list.CopyToClipboard(rows);
       default:
-        return list.PasteFromClipboard(refresh);
+        return list.PasteFromClipboard();
     }
   }
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
@@ -72,5 +73,16 @@ class SetupDiscriminators : public testing::Test {
   QTemporaryDir directory;
   InstalledFakeHost host;
 };
+
+/// Fills the editor that the next event opens, and leaves it by this control.
+inline void EditNext(const QString& name, int leaveBy) {
+  WhenNextWindow([=] {
+    auto* edit = qobject_cast<QLineEdit*>(TopControl(nameEdit));
+    ASSERT_TRUE(edit);
+    edit->selectAll();
+    QTest::keyClicks(edit, name);
+    Click(leaveBy);
+  });
+}
 
 }  // namespace qv

@@ -2,7 +2,6 @@
 
 #include <QContextMenuEvent>
 #include <QDir>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -13,17 +12,6 @@
 
 namespace qv {
 namespace {
-
-/// Fills the editor that the next event opens, and leaves it by this control.
-void EditNext(const QString& name, int leaveBy) {
-  WhenNextWindow([=] {
-    auto* edit = qobject_cast<QLineEdit*>(TopControl(nameEdit));
-    ASSERT_TRUE(edit);
-    edit->selectAll();
-    QTest::keyClicks(edit, name);
-    Click(leaveBy);
-  });
-}
 
 TEST_F(SetupDiscriminators, AddMakesAFileARowAndAnEntry) {
   XmlDocument groups;
