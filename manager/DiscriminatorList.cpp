@@ -8,9 +8,6 @@
 #include "discriminator/FileNames.h"
 #include "discriminator/ListEnd.h"
 #include "host/Installation.h"
-#include "manager/ClipboardPayload.h"
-#include "tools/Format.h"
-#include "tools/Guid.h"
 #include "tools/Names.h"
 
 namespace qv {
@@ -147,73 +144,11 @@ bool DiscriminatorList::RemoveRow(int row) {
   return true;
 }
 
-void DiscriminatorList::CopyToClipboard(const std::vector<int>& selectedRows) const {
-  if (selectedRows.empty()) {
-    return;
-  }
-  std::vector<QVWideString> paths;
-  paths.reserve(selectedRows.size());
-  for (const int row : selectedRows) {
-    paths.push_back(PathOf(row));
-  }
-  const QVNarrowString payload = ComposePayload(paths, m_files);
-  m_host.clipboard.PutToClipboard(payload, static_cast<int>(payload.Length() + 1),
-                                  QVClipboard::TextFormat);
-}
-
-void DiscriminatorList::PasteFromClipboard() {
-  const auto payload = ReadClipboard();
-  if (!payload) {
-    return;
-  }
-  for (const XmlNode* item : ItemsOfPayload(*payload)) {
-    PasteItem(*item);
-  }
-  Refresh();
-}
-
-std::unique_ptr<XmlDocument> DiscriminatorList::ReadClipboard() const {
-  std::unique_ptr<char[]> bytes;
-  const int size = m_host.clipboard.GetFromClipboard(bytes, QVClipboard::TextFormat);
-  return size > 0 ? ParsePayload(bytes.get()) : nullptr;
-}
-
-void DiscriminatorList::PasteItem(const XmlNode& item) {
-  const QVWideString name = item.Value(tag::Name);
-  if (name.Empty()) {
-    return;
-  }
-  XmlDocument document(item);
-  XmlNode& root = *document.Root();
-  root.SetValue(tag::Id, NewGuidText());
-  root.SetValue(tag::Revision, NewGuidText());
-  root.SetValue(tag::Name, FreeName(name));
-  // What the disk doesn't take is a discriminator all the same.
-  const DiscriminatorDirectory directory = Directory();
-  std::ignore = directory.Save(document);
-  directory.SaveIndex(root);
+void DiscriminatorList::Announce(const XmlNode& root) {
   AddDiscriminatorToDeviceGroupsNode(m_deviceGroups, root);
   m_changed = true;
   m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
   m_host.guids.invalidateGuid(QVVornelGuids::DeviceGroups, true);
-}
-
-QVWideString DiscriminatorList::FreeName(const QVWideString& name) const {
-  QVWideString candidate(name);
-  for (int counter = 1; IsShown(candidate); ++counter) {
-    candidate.Assign(Format(L"%s_%d", {name, counter}));
-  }
-  return candidate;
-}
-
-bool DiscriminatorList::IsShown(const QVWideString& name) const {
-  return std::any_of(m_rows.begin(), m_rows.end(), [&](const STagDiscriminatorRow& row) {
-    return EqualUppered(row.shown.name.ToView(), name.ToView());
-  });
-}
-
-ClipboardOffer DiscriminatorList::Offer(std::size_t selectedRows) const {
-  return {selectedRows > 0, ReadClipboard() != nullptr};
 }
 
 QVWideString DiscriminatorList::PathOf(int row) const {

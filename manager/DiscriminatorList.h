@@ -43,14 +43,6 @@ struct [[nodiscard]] RemovalEnd {
   std::optional<int> rowToSelect;  ///< after `Done`, unless no row is left
 };
 
-/// Which commands the context menu of the list offers.
-struct ClipboardOffer {
-  bool copy = false;
-  bool paste = false;
-
-  friend bool operator==(const ClipboardOffer&, const ClipboardOffer&) = default;
-};
-
 /// The discriminators of the configuration directory, as the manager dialog lists them. The files
 /// are read at each refresh; between two of them the rows are a snapshot.
 class DiscriminatorList {
@@ -94,16 +86,12 @@ class DiscriminatorList {
   /// that row and those after it.
   RemovalEnd OnRemove(const std::vector<int>& selectedRows);
 
-  /// Puts the files of the selected rows on the clipboard. Does nothing without a row.
-  void CopyToClipboard(const std::vector<int>& selectedRows) const;
+  /// Takes a new discriminator, whose document has this root, into the host's configuration: an
+  /// entry in the device groups, and two notices. Its row comes with the next refresh.
+  void Announce(const XmlNode& root);
 
-  /// Makes a new discriminator of each one on the clipboard, under new ids and free names, with two
-  /// notices for each, and then refreshes. Anything else on the clipboard is passed over in
-  /// silence, without a refresh.
-  void PasteFromClipboard();
-
-  /// What the context menu offers.
-  ClipboardOffer Offer(std::size_t selectedRows) const;
+  /// The path of the file of this row, one of `Rows`.
+  QVWideString PathOf(int row) const;
 
   /// Whether something was saved, removed or pasted since the dialog was made, so that the host has
   /// to save its configuration.
@@ -114,11 +102,6 @@ class DiscriminatorList {
   void EnsureDeviceGroups();
   std::unique_ptr<XmlDocument> CopyOfDeviceGroups() const;
   bool RemoveRow(int row);
-  std::unique_ptr<XmlDocument> ReadClipboard() const;
-  void PasteItem(const XmlNode& item);
-  QVWideString FreeName(const QVWideString& name) const;
-  bool IsShown(const QVWideString& name) const;
-  QVWideString PathOf(int row) const;
   DiscriminatorDirectory Directory() const;
 
   Host m_host;

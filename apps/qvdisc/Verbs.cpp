@@ -14,6 +14,7 @@
 #include "discriminator/IndexDocument.h"
 #include "editor/DiscriminatorForm.h"
 #include "manager/ClipboardPayload.h"
+#include "manager/DiscriminatorClipboard.h"
 #include "tools/Names.h"
 
 namespace qvdisc {
@@ -79,29 +80,25 @@ void Index(Session& session) {
   }
 }
 
+qv::DiscriminatorClipboard ClipboardOf(Session& session) {
+  return {session.Services(), session.Files(), session.List()};
+}
+
 void Copy(Session& session) {
   if (const auto rows = session.NamedRows()) {
-    session.List().CopyToClipboard(*rows);
+    ClipboardOf(session).Copy(*rows);
     session.Result().payload = session.Clipboard().Put();
   }
 }
 
-std::size_t FileCount(Session& session) {
-  return session.Files().Walk((session.Directory() + qv::discriminatorPattern).ToView()).size();
-}
-
 void Paste(Session& session) {
-  const std::size_t before = FileCount(session);
-  session.List().PasteFromClipboard();
-  // The rules don't tell what became of the items; but of each there is a notice, and a new file.
-  const auto& notices = session.Result().notices;
-  const auto items = static_cast<std::size_t>(
-      std::count(notices.begin(), notices.end(), QVVornelGuids::Discriminators));
-  const std::size_t after = FileCount(session);
-  if (items == 0) {
+  const auto pasted = ClipboardOf(session).Paste();
+  const auto lost = std::count_if(pasted.begin(), pasted.end(),
+                                  [](const auto& discriminator) { return !discriminator.written; });
+  if (pasted.empty()) {
     Fail(session, Word::NothingToPaste);
-  } else if (after < before + items) {
-    Fail(session, Word::NotAllPasted, {static_cast<unsigned>(before + items - after)});
+  } else if (lost > 0) {
+    Fail(session, Word::NotAllPasted, {static_cast<unsigned>(lost)});
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
+#include "manager/DiscriminatorClipboard.h"
 #include "manager/DiscriminatorList.h"
 #include "toolkit/Caption.h"
 #include "toolkit/DialogColumn.h"
@@ -54,6 +55,8 @@ std::optional<int> CDlgSetupDiscriminators::OnCreate() {
   DiscriminatorListView& view = *this;
   m_list = std::make_unique<qv::DiscriminatorList>(Services(), qv::Files::Disk(), *m_boxes, view,
                                                    m_deviceGroups);
+  m_clipboard =
+      std::make_unique<qv::DiscriminatorClipboard>(Services(), qv::Files::Disk(), *m_list);
   return std::nullopt;
 }
 
@@ -148,16 +151,16 @@ void CDlgSetupDiscriminators::OnRemove() {
 
 void CDlgSetupDiscriminators::CopyToClipboard() {
   const qv::WaitCursor wait(this);
-  m_list->CopyToClipboard(m_listDiscriminators->SelectedRows());
+  m_clipboard->Copy(m_listDiscriminators->SelectedRows());
 }
 
 void CDlgSetupDiscriminators::PasteFromClipboard() {
   const qv::WaitCursor wait(this);
-  m_list->PasteFromClipboard();
+  m_clipboard->Paste();
 }
 
 void CDlgSetupDiscriminators::OnRclickListDiscriminators(const QPoint& globalPosition) {
-  const auto offer = m_list->Offer(m_listDiscriminators->SelectedRows().size());
+  const auto offer = m_clipboard->Offer(m_listDiscriminators->SelectedRows().size());
   if (!offer.copy && !offer.paste) {
     return;
   }
@@ -183,6 +186,7 @@ void CDlgSetupDiscriminators::OnOK() {
 
 void CDlgSetupDiscriminators::OnDestroy() {
   m_listDiscriminators->Clear();
+  m_clipboard.reset();
   m_list.reset();
   m_boxes.reset();
 }

@@ -14,6 +14,7 @@ class Template1300;
 }
 
 namespace qv {
+class DiscriminatorClipboard;
 class DiscriminatorList;
 class ListPart;
 class MessageBoxes;
@@ -68,4 +69,5 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog,
   std::unique_ptr<qv::ListPart> m_listDiscriminators;
   std::unique_ptr<qv::MessageBoxes> m_boxes;
   std::unique_ptr<qv::DiscriminatorList> m_list;
+  std::unique_ptr<qv::DiscriminatorClipboard> m_clipboard;
 };

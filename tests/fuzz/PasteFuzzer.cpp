@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "manager/DiscriminatorList.h"
+#include "manager/DiscriminatorClipboard.h"
 #include "tests/fuzz/Demand.h"
 #include "tests/manager/QuietListView.h"
 #include "tests/support/FakeHost.h"
@@ -21,12 +21,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   qv::QuietListView view;
   qv::DiscriminatorList list(host.Services(), files, prompter, view, deviceGroups.Root());
   host.clipboard.text = std::string(reinterpret_cast<const char*>(data), size);
-  list.PasteFromClipboard();
+  const auto pasted = qv::DiscriminatorClipboard(host.Services(), files, list).Paste();
 
   const qv::XmlNode* devices = deviceGroups.Root()->Node(L"devices");
   const auto entries = devices ? std::distance(devices->ChildsBegin(), devices->ChildsEnd()) : 0;
   Demand(host.guids.notices.size() == 2 * static_cast<std::size_t>(entries), "two notices each");
   Demand(list.Changed() == (entries > 0), "a paste is a change");
+  Demand(pasted.size() == static_cast<std::size_t>(entries), "each entry is told");
   for (const auto& [path, content] : files.contents) {
     Demand(path.starts_with(L"/cfg/") && path.find(L'/', 5) == std::wstring::npos,
            "files lie in the directory");

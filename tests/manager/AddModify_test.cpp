@@ -166,6 +166,27 @@ TEST_F(AddModify, AModifyThatChangedNothingStillCountsAsAChange) {
   EXPECT_TRUE(list->Changed());
 }
 
+TEST_F(AddModify, AnAnnouncedDiscriminatorHasAnEntryBeforeItsTwoNotices) {
+  const auto list = ListWith(deviceGroups.Root());
+  files.log.clear();
+  XmlDocument announced;
+  ASSERT_TRUE(announced.Parse("<main><id>3</id><name>gamma</name></main>"));
+  list->Announce(*announced.Root());
+  EXPECT_EQ(events, (Events{"8", "5"}));
+  EXPECT_TRUE(deviceGroups.Root()->Node(L"devices")->NodeV(L"device?id=%s?", L"3"));
+  EXPECT_TRUE(list->Changed());
+  EXPECT_EQ(list->Rows().size(), 2U) << "its row comes with the next refresh";
+  EXPECT_TRUE(files.log.empty());
+}
+
+TEST_F(AddModify, WithoutATreeAnAnnouncedDiscriminatorHasItsNotices) {
+  const auto list = ListWith(nullptr);
+  list->Announce(XmlNode(L"main"));
+  EXPECT_EQ(events, (Events{"8", "5"}));
+  EXPECT_TRUE(list->Changed());
+  EXPECT_FALSE(host.mainCfg.Root()->Node(L"deviceGroups"));
+}
+
 TEST_F(AddModify, ACancelledModifyDoesNothing) {
   const auto list = ListWith(deviceGroups.Root());
   EXPECT_EQ(list->OnModify({0}, Editor(cancelled)), cancelled);

@@ -4,7 +4,7 @@
 #include <set>
 
 #include "manager/ClipboardPayload.h"
-#include "manager/DiscriminatorList.h"
+#include "manager/DiscriminatorClipboard.h"
 #include "tests/manager/QuietListView.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ScriptedFiles.h"
@@ -33,17 +33,21 @@ class ClipboardTest : public testing::Test {
     files.contents[L"/cfg/a.alpha.xdct"] = alphaFile;
     files.contents[L"/cfg/b.beta.xdct"] = betaFile;
     deviceGroups.Create(L"deviceGroups");
-    list = std::make_unique<DiscriminatorList>(host.Services(), files, prompter, view,
-                                               deviceGroups.Root());
+    ListWith(deviceGroups.Root());
     list->Refresh();
     files.log.clear();
   }
 
-  void Paste() { list->PasteFromClipboard(); }
+  void ListWith(XmlNode* node) {
+    list = std::make_unique<DiscriminatorList>(host.Services(), files, prompter, view, node);
+    clipboard = std::make_unique<DiscriminatorClipboard>(host.Services(), files, *list);
+  }
 
-  void PasteText(const std::string& text) {
+  std::vector<PastedDiscriminator> Paste() { return clipboard->Paste(); }
+
+  std::vector<PastedDiscriminator> PasteText(const std::string& text) {
     host.clipboard.text = text;
-    Paste();
+    return Paste();
   }
 
   static std::string Payload(const std::string& items) {
@@ -89,10 +93,11 @@ class ClipboardTest : public testing::Test {
   XmlDocument deviceGroups;
   CountingView view;
   std::unique_ptr<DiscriminatorList> list;
+  std::unique_ptr<DiscriminatorClipboard> clipboard;
 };
 
 TEST_F(ClipboardTest, ThePayloadHoldsTheDocumentsAsTheyStand) {
-  list->CopyToClipboard({0, 1});
+  clipboard->Copy({0, 1});
   XmlDocument payload;
   ASSERT_TRUE(payload.Parse(host.clipboard.text->c_str()));
   XmlDocument expected;
@@ -104,21 +109,21 @@ TEST_F(ClipboardTest, ThePayloadHoldsTheDocumentsAsTheyStand) {
 
 TEST_F(ClipboardTest, WithoutARowTheClipboardStaysAsItIs) {
   host.clipboard.text = "before";
-  list->CopyToClipboard({});
+  clipboard->Copy({});
   EXPECT_EQ(host.clipboard.text, "before");
 }
 
 TEST_F(ClipboardTest, FilesThatCannotBeLoadedArePassedOver) {
   files.contents[L"/cfg/a.alpha.xdct"] = "<main>";
-  list->CopyToClipboard({0, 1});
+  clipboard->Copy({0, 1});
   EXPECT_EQ(host.clipboard.text->find("alpha"), std::string::npos);
   files.contents.clear();
-  list->CopyToClipboard({0, 1});
+  clipboard->Copy({0, 1});
   EXPECT_EQ(host.clipboard.text, Payload(""));
 }
 
 TEST_F(ClipboardTest, PastingMakesNewDiscriminators) {
-  list->CopyToClipboard({0, 1});
+  clipboard->Copy({0, 1});
   Paste();
   EXPECT_EQ(Names(), (NameList{L"alpha", L"alpha_1", L"beta", L"beta_1"}));
   XmlDocument pasted;
@@ -134,17 +139,17 @@ TEST_F(ClipboardTest, PastingMakesNewDiscriminators) {
 }
 
 TEST_F(ClipboardTest, PastingTwiceCountsOn) {
-  list->CopyToClipboard({0});
+  clipboard->Copy({0});
   Paste();
   Paste();
   EXPECT_EQ(Names(), (NameList{L"alpha", L"alpha_1", L"alpha_2", L"beta"}));
-  list->CopyToClipboard({1});
+  clipboard->Copy({1});
   Paste();
   EXPECT_EQ(Row(L"alpha_1_1").shown.name, L"alpha_1_1") << "the name as it came is alpha_1";
 }
 
 TEST_F(ClipboardTest, TheIndexFileIsWrittenBesideWithoutIdsAndColours) {
-  list->CopyToClipboard({0});
+  clipboard->Copy({0});
   Paste();
   XmlDocument index;
   ASSERT_TRUE(index.Load((PathOf(L"alpha_1") + L"I").c_str(), files));
@@ -155,13 +160,13 @@ TEST_F(ClipboardTest, TheIndexFileIsWrittenBesideWithoutIdsAndColours) {
 }
 
 TEST_F(ClipboardTest, WithoutHourTypesThereIsNoIndexFile) {
-  list->CopyToClipboard({1});
+  clipboard->Copy({1});
   Paste();
   EXPECT_FALSE(files.contents.contains(PathOf(L"beta_1") + L"I"));
 }
 
 TEST_F(ClipboardTest, TheRootTagIsKept) {
-  list->CopyToClipboard({1});
+  clipboard->Copy({1});
   Paste();
   EXPECT_NE(files.contents[PathOf(L"beta_1")].find("<root>"), std::string::npos);
 }
@@ -202,7 +207,7 @@ TEST_F(ClipboardTest, AnythingElseOnTheClipboardDoesNothing) {
                            "<DiscriminatorClipboard/>"}) {
     PasteText(text);
     EXPECT_EQ(view.refreshes, 1) << text;
-    EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, false})) << text;
+    EXPECT_EQ(clipboard->Offer(0), (ClipboardOffer{false, false})) << text;
   }
   host.clipboard.text.reset();
   Paste();
@@ -225,8 +230,8 @@ TEST_F(ClipboardTest, ADocumentOfAnyDepthThatCanBeReadCanBePasted) {
   const auto found = std::find_if(list->Rows().begin(), list->Rows().end(),
                                   [](const auto& row) { return row.shown.name == L"deep"; });
   ASSERT_NE(found, list->Rows().end());
-  list->CopyToClipboard({static_cast<int>(found - list->Rows().begin())});
-  EXPECT_TRUE(list->Offer(0).paste);
+  clipboard->Copy({static_cast<int>(found - list->Rows().begin())});
+  EXPECT_TRUE(clipboard->Offer(0).paste);
   Paste();
   EXPECT_TRUE(std::any_of(list->Rows().begin(), list->Rows().end(),
                           [](const auto& row) { return row.shown.name == L"deep_1"; }));
@@ -242,7 +247,7 @@ TEST_F(ClipboardTest, ForeignTextOfAnySizeDoesNothing) {
        {std::string(size, 'x'), std::string(size, ' '), document + "</html>"}) {
     PasteText(text.c_str());
     EXPECT_EQ(view.refreshes, 1);
-    EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, false}));
+    EXPECT_EQ(clipboard->Offer(0), (ClipboardOffer{false, false}));
   }
 }
 
@@ -261,6 +266,37 @@ TEST_F(ClipboardTest, AFailedWriteStillMakesTheEntryAndTheNotices) {
   EXPECT_EQ(host.guids.notices, (std::vector<int>{8, 5}));
   EXPECT_TRUE(list->Changed());
   EXPECT_EQ(Names(), (NameList{L"alpha", L"beta"}));
+}
+
+TEST_F(ClipboardTest, APasteTellsTheStemOfEachDiscriminatorInItsOrder) {
+  clipboard->Copy({1, 0});
+  const auto pasted = Paste();
+  EXPECT_EQ(pasted, (std::vector<PastedDiscriminator>{{Row(L"beta_1").shown.fileStem, true},
+                                                      {Row(L"alpha_1").shown.fileStem, true}}));
+}
+
+TEST_F(ClipboardTest, APasteTellsWhichFilesCouldNotBeWritten) {
+  files.longestName = 255;
+  const auto pasted = PasteText(
+      Payload(Item("<main><name>a/b</name></main>") + Item("<main><name>n</name></main>") +
+              Item("<main><name>" + std::string(250, 'n') + "</name></main>")));
+  ASSERT_EQ(pasted.size(), 3U);
+  EXPECT_FALSE(pasted[0].written);
+  EXPECT_TRUE(pasted[0].fileStem.ToView().ends_with(L".a/b"));
+  EXPECT_EQ(pasted[1], (PastedDiscriminator{Row(L"n").shown.fileStem, true}));
+  EXPECT_FALSE(pasted[2].written);
+}
+
+TEST_F(ClipboardTest, AnIndexThatCannotBeWrittenLeavesTheDiscriminatorWritten) {
+  files.longestName = 36 + std::size(L".n.xdct") - 1;
+  EXPECT_TRUE(PasteText(Payload(Item("<main><name>n</name><hourTypes/></main>")))[0].written);
+  EXPECT_FALSE(files.contents.contains(PathOf(L"n") + L"I"));
+}
+
+TEST_F(ClipboardTest, APasteOfNothingTellsOfNone) {
+  EXPECT_TRUE(PasteText("hello").empty());
+  EXPECT_TRUE(PasteText(Payload("")).empty());
+  EXPECT_TRUE(PasteText(Payload(Item("<main><name/></main>") + Item("<body/>"))).empty());
 }
 
 TEST_F(ClipboardTest, NamesThatCanNameNoFileMakeEntriesOnly) {
@@ -286,7 +322,7 @@ TEST_F(ClipboardTest, ANameThatIsTooLongForTheIndexOnlyMakesTheFile) {
 }
 
 TEST_F(ClipboardTest, TheEntryOfEachItemHasTheIdOfItsFile) {
-  list->CopyToClipboard({0, 1});
+  clipboard->Copy({0, 1});
   Paste();
   std::set<std::wstring> ids;
   std::set<std::wstring> revisions;
@@ -320,18 +356,18 @@ TEST_F(ClipboardTest, OnAnEmbeddedInstallationConditionsAreWrittenButNotShown) {
 }
 
 TEST_F(ClipboardTest, WithoutATreeAPasteMakesFilesAndNoEntries) {
-  list = std::make_unique<DiscriminatorList>(host.Services(), files, prompter, view, nullptr);
+  ListWith(nullptr);
   PasteText(Payload(Item("<main><name>n</name></main>")));
   EXPECT_EQ(files.contents.size(), 3U);
   EXPECT_FALSE(host.mainCfg.Root()->Node(L"deviceGroups"));
 }
 
 TEST_F(ClipboardTest, TheMenuOffersWhatCanBeDone) {
-  EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, false}));
-  EXPECT_EQ(list->Offer(2), (ClipboardOffer{true, false}));
+  EXPECT_EQ(clipboard->Offer(0), (ClipboardOffer{false, false}));
+  EXPECT_EQ(clipboard->Offer(2), (ClipboardOffer{true, false}));
   host.clipboard.text = Payload("");
-  EXPECT_EQ(list->Offer(0), (ClipboardOffer{false, true}));
-  EXPECT_EQ(list->Offer(1), (ClipboardOffer{true, true}));
+  EXPECT_EQ(clipboard->Offer(0), (ClipboardOffer{false, true}));
+  EXPECT_EQ(clipboard->Offer(1), (ClipboardOffer{true, true}));
 }
 
 }  // namespace

@@ -94,6 +94,13 @@ TEST_F(DiscriminatorListTest, RowShowsNameAndDescription) {
   EXPECT_EQ(list.Rows()[0].shown.description, L"About A");
 }
 
+TEST_F(DiscriminatorListTest, PathOfARowLeadsToItsFile) {
+  AddAll({L"b", L"a"});
+  Refreshed();
+  EXPECT_EQ(list.PathOf(0), L"/cfg/2.a.xdct");
+  EXPECT_EQ(list.PathOf(1), L"/cfg/1.b.xdct");
+}
+
 TEST_F(DiscriminatorListTest, DirectoryIsThatOfTheHost) {
   AddAll({L"A"});
   files.contents[L"/other/2.B.xdct"] = "<main><id>2</id><name>B</name></main>";

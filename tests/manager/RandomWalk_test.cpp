@@ -10,7 +10,7 @@
 #include "discriminator/FileNames.h"
 #include "editor/DiscriminatorForm.h"
 #include "hostkit/IndexFiles.h"
-#include "manager/DiscriminatorList.h"
+#include "manager/DiscriminatorClipboard.h"
 #include "tests/manager/QuietListView.h"
 #include "tests/manager/UsersTree.h"
 #include "tests/support/FakeHost.h"
@@ -207,7 +207,7 @@ class Walk {
         names.push_back(m_known.at(id).name);
       }
     }
-    m_list.CopyToClipboard(rows);
+    m_clipboard.Copy(rows);
     files.unreadable.clear();
     if (!rows.empty()) {
       m_payload = names;
@@ -225,7 +225,7 @@ class Walk {
     if (diskFails) {
       files.diskSpace = 0;
     }
-    m_list.PasteFromClipboard();
+    m_clipboard.Paste();
     files.diskSpace.reset();
     std::multiset<std::wstring> expected;
     for (const std::wstring& name : m_payload) {
@@ -333,6 +333,7 @@ class Walk {
   Host m_services{host.setup, host.mainCfg, host.guids, host.loadString, m_index, host.clipboard};
   QuietListView m_view;
   DiscriminatorList m_list{m_services, files, m_prompter, m_view, Groups()};
+  DiscriminatorClipboard m_clipboard{m_services, files, m_list};
 
   std::map<std::wstring, Known> m_known;  ///< by id
   std::map<std::wstring, int> m_entries;  ///< how many each id has

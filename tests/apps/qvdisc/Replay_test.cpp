@@ -11,7 +11,7 @@
 #include "hostkit/Configuration.h"
 #include "hostkit/DirectorySetup.h"
 #include "hostkit/IndexFiles.h"
-#include "manager/DiscriminatorList.h"
+#include "manager/DiscriminatorClipboard.h"
 #include "tests/apps/qvdisc/CommandLine.h"
 #include "tests/manager/QuietListView.h"
 #include "tests/support/FakeHost.h"
@@ -71,6 +71,7 @@ class Rules {
       const bool saved = Told(m_prompter, form->Save(fields));
       return qv::EditorEnd{saved, form->IsModified()};
     };
+    qv::DiscriminatorClipboard clipboard(host, qv::Files::Disk(), list);
     switch (step.verb) {
       case Verb::Add:
         EXPECT_TRUE(list.OnAdd(edit).confirmed);
@@ -83,9 +84,9 @@ class Rules {
         EXPECT_EQ(list.OnRemove(rows).outcome, qv::RemovalOutcome::Done);
         return;
       case Verb::Copy:
-        return list.CopyToClipboard(rows);
+        return clipboard.Copy(rows);
       default:
-        return list.PasteFromClipboard();
+        EXPECT_FALSE(clipboard.Paste().empty());
     }
   }
 

@@ -292,6 +292,18 @@ TEST_F(VerbsTest, APasteThatCannotBeWrittenIsTold) {
   EXPECT_THAT(ended.errors, HasSubstr("The files of 1 discriminators could not be written"));
 }
 
+TEST_F(VerbsTest, OfSeveralPastedOnlyThoseThatCannotBeWrittenAreCounted) {
+  const auto item = [](const std::string& name) {
+    return "<discriminator><main><name>" + name + "</name></main></discriminator>";
+  };
+  const Json json = DoJson({"paste"}, "<discriminatorClipboard>" + item("a/b") + item("New") +
+                                          item("c/d") + item("") + "</discriminatorClipboard>");
+  EXPECT_EQ(json["status"], 1);
+  EXPECT_THAT(std::string(json["errors"][0]), HasSubstr("The files of 2 discriminators"));
+  EXPECT_EQ(json["notices"], Json({8, 5, 8, 5, 8, 5}));
+  EXPECT_THAT(Names(json), testing::Contains("New"));
+}
+
 TEST_F(VerbsTest, IndexMakesTheFilesAnew) {
   const std::string index = Read(dayAndNight + ".xdctI");
   Write(dayAndNight + ".xdctI", "old");
