@@ -27,10 +27,10 @@ class Configuration {
 
   /// Takes over the configuration of `directory`, which ends in its separator. For a file that is
   /// unreadable or foreign the document, and the file that `Save` writes, stay what they were.
-  Loaded Load(std::wstring_view directory);
+  [[nodiscard]] Loaded Load(std::wstring_view directory);
 
   /// Writes the document to its file; false if that isn't possible.
-  bool Save();
+  [[nodiscard]] bool Save();
 
   /// Whether the document is another than that of its file, as it is on the disk now.
   bool IsChanged() const;
