@@ -160,8 +160,4 @@ DiscriminatorDirectory DiscriminatorList::Directory() const {
   return {m_host.setup.CfgPath(), m_files};
 }
 
-ListButtons DiscriminatorList::Buttons(std::size_t selectedRows) {
-  return {true, selectedRows == 1, selectedRows >= 1};
-}
-
 }  // namespace qv

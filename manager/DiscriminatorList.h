@@ -21,15 +21,6 @@ struct STagDiscriminatorRow {
   DiscriminatorSummary shown;
 };
 
-/// Which buttons of the list are enabled.
-struct ListButtons {
-  bool add = true;
-  bool modify = false;
-  bool remove = false;
-
-  friend bool operator==(const ListButtons&, const ListButtons&) = default;
-};
-
 /// How a removal ended.
 enum class RemovalOutcome {
   NothingSelected,
@@ -63,9 +54,6 @@ class DiscriminatorList {
   void Refresh();
 
   const std::vector<STagDiscriminatorRow>& Rows() const { return m_rows; }
-
-  /// Which buttons are enabled while `selectedRows` rows are selected.
-  static ListButtons Buttons(std::size_t selectedRows);
 
   /// What the editor is run with: the root of a copy of the device groups (null if the host has no
   /// place for any), and the path of the file, or null for a new discriminator.

@@ -315,16 +315,5 @@ TEST_F(DiscriminatorListTest, MissingDirectoryOfTheDiskGivesNoRows) {
   EXPECT_FALSE(std::filesystem::exists(directory.Path() / "missing")) << "and isn't made";
 }
 
-TEST(ListButtons, FollowTheCountOfSelectedRows) {
-  EXPECT_EQ(DiscriminatorList::Buttons(0), (ListButtons{true, false, false}));
-  EXPECT_EQ(DiscriminatorList::Buttons(1), (ListButtons{true, true, true}));
-  EXPECT_EQ(DiscriminatorList::Buttons(2), (ListButtons{true, false, true}));
-  EXPECT_EQ(DiscriminatorList::Buttons(10000), (ListButtons{true, false, true}));
-}
-
-TEST(ListButtons, AreThoseOfNoSelectionAtFirst) {
-  EXPECT_EQ(ListButtons(), DiscriminatorList::Buttons(0));
-}
-
 }  // namespace
 }  // namespace qv
