@@ -112,16 +112,16 @@ EditorEnd DiscriminatorList::OnModify(const std::vector<int>& selectedRows,
 
 RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows) {
   if (selectedRows.empty()) {
-    return {RemovalOutcome::NothingSelected, std::nullopt};
+    return {RemovalOutcome::NothingSelected};
   }
   if (!m_prompter.Ask(Text::RemoveDiscriminatorsQuestion)) {
-    return {RemovalOutcome::Refused, std::nullopt};
+    return {RemovalOutcome::Declined};
   }
   int last = 0;
   for (std::size_t removed = 0; removed < selectedRows.size(); ++removed) {
     last = selectedRows[removed] - static_cast<int>(removed);
     if (!RemoveRow(last)) {
-      return {RemovalOutcome::Stopped, std::nullopt};
+      return {RemovalOutcome::Stopped, {}, Refused(Text::DiscriminatorFileNotDeleted)};
     }
     m_view.RemoveRow(last);
     m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
@@ -133,7 +133,6 @@ RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows) {
 bool DiscriminatorList::RemoveRow(int row) {
   const QVWideString path = PathOf(row);
   if (m_files.Remove(path.ToView()) == Removal::Refused) {
-    m_prompter.Show(Text::DiscriminatorFileNotDeleted);
     return false;
   }
   m_files.Remove(IndexPath(path).ToView());

@@ -10,6 +10,7 @@
 #include "host/Host.h"
 #include "host/Progress.h"
 #include "host/Prompter.h"
+#include "host/Refusal.h"
 #include "manager/DiscriminatorListView.h"
 #include "tools/Files.h"
 
@@ -24,14 +25,15 @@ struct STagDiscriminatorRow {
 /// How a removal ended.
 enum class RemovalOutcome {
   NothingSelected,
-  Refused,  ///< the user said No
-  Stopped,  ///< a file could not be deleted
+  Declined,  ///< the user said No
+  Stopped,   ///< a file could not be deleted
   Done
 };
 
 struct [[nodiscard]] RemovalEnd {
   RemovalOutcome outcome = RemovalOutcome::NothingSelected;
-  std::optional<int> rowToSelect;  ///< after `Done`, unless no row is left
+  std::optional<int> rowToSelect{};  ///< after `Done`, unless no row is left
+  std::optional<Refusal> refusal{};  ///< after `Stopped`: what the user has still to be told
 };
 
 /// The discriminators of the configuration directory, as the manager dialog lists them. The files
@@ -70,8 +72,8 @@ class DiscriminatorList {
 
   /// Asks, and removes the discriminators of the selected rows (in ascending order): files, index
   /// files, entries in the device groups, rows, with two notices for each; the row goes from the
-  /// view between them. It stops with a message at the first file that can't be deleted, and leaves
-  /// that row and those after it.
+  /// view between them. It stops at the first file that can't be deleted, and leaves that row and
+  /// those after it.
   RemovalEnd OnRemove(const std::vector<int>& selectedRows);
 
   /// Takes a new discriminator, whose document has this root, into the host's configuration: an

@@ -182,7 +182,14 @@ void Modify(Session& session) {
 
 void Remove(Session& session) {
   const auto rows = session.NamedRows();
-  if (rows && session.List().OnRemove(*rows).outcome != qv::RemovalOutcome::Done) {
+  if (!rows) {
+    return;
+  }
+  const qv::RemovalEnd end = session.List().OnRemove(*rows);
+  if (end.refusal) {
+    Tell(session.Prompter(), *end.refusal);
+  }
+  if (end.outcome != qv::RemovalOutcome::Done) {
     session.Result().status = 1;
   }
 }

@@ -99,6 +99,10 @@ void CDlgSetupDiscriminators::ShowRows(const std::vector<qv::STagDiscriminatorRo
         {{qv::ToQString(row.shown.name), qv::ToQString(row.shown.description)}, m_rowImage});
   }
   m_listDiscriminators->Show(shown, std::nullopt);
+  FollowRows();
+}
+
+void CDlgSetupDiscriminators::FollowRows() {
   m_listDiscriminators->ResizeColumns();
   m_listDiscriminators->EnableDisableButtons();
 }
@@ -115,8 +119,7 @@ void CDlgSetupDiscriminators::PositioningControls() {
   column.Add(&list, 100);
   column.Add(m_ui->buttonExit, LayoutSizeStandard);
   column.Layout(rect());
-  m_listDiscriminators->ResizeColumns();
-  m_listDiscriminators->EnableDisableButtons();
+  FollowRows();
 }
 
 void CDlgSetupDiscriminators::OnKeydownListDiscriminators(int key, bool control) {
@@ -138,15 +141,14 @@ void CDlgSetupDiscriminators::OnModify() {
 
 void CDlgSetupDiscriminators::OnRemove() {
   const auto end = m_list->OnRemove(m_listDiscriminators->SelectedRows());
-  if (end.outcome == qv::RemovalOutcome::NothingSelected ||
-      end.outcome == qv::RemovalOutcome::Stopped) {
-    return;
+  if (end.refusal) {
+    Tell(*m_boxes, *end.refusal);
+  } else if (end.outcome != qv::RemovalOutcome::NothingSelected) {
+    if (end.rowToSelect) {
+      m_listDiscriminators->Select(*end.rowToSelect);
+    }
+    FollowRows();
   }
-  if (end.rowToSelect) {
-    m_listDiscriminators->Select(*end.rowToSelect);
-  }
-  m_listDiscriminators->ResizeColumns();
-  m_listDiscriminators->EnableDisableButtons();
 }
 
 void CDlgSetupDiscriminators::CopyToClipboard() {

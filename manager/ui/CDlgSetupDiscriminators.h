@@ -55,6 +55,7 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog,
 
   void InitializeTexts();
   bool InitializeDiscriminatorsList();
+  void FollowRows();
   void OnAdd();
   void OnModify();
   void OnRemove();

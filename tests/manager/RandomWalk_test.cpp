@@ -173,9 +173,10 @@ class Walk {
     }
     if (answer && stopAt < ids.size()) {
       files.writeProtected = {PathOf(ids[stopAt])};
-      m_prompter.ExpectShow(Text::DiscriminatorFileNotDeleted);
     }
-    EXPECT_EQ(m_list.OnRemove(rows).outcome, RemovalThatEnds(rows, answer, stopAt));
+    const RemovalEnd end = m_list.OnRemove(rows);
+    EXPECT_EQ(end.outcome, RemovalThatEnds(rows, answer, stopAt));
+    EXPECT_EQ(end.refusal.has_value(), end.outcome == RemovalOutcome::Stopped);
     files.writeProtected.clear();
     for (std::size_t i = 0; answer && i < stopAt; ++i) {
       m_known.erase(ids[i]);
@@ -191,7 +192,7 @@ class Walk {
       return RemovalOutcome::NothingSelected;
     }
     if (!answer) {
-      return RemovalOutcome::Refused;
+      return RemovalOutcome::Declined;
     }
     return stopAt < rows.size() ? RemovalOutcome::Stopped : RemovalOutcome::Done;
   }

@@ -95,7 +95,9 @@ TEST_F(RemovalTest, WithoutARowNothingIsAsked) {
 }
 
 TEST_F(RemovalTest, NoChangesNothing) {
-  EXPECT_EQ(Remove({0, 1}, false).outcome, RemovalOutcome::Refused);
+  const auto end = Remove({0, 1}, false);
+  EXPECT_EQ(end.outcome, RemovalOutcome::Declined);
+  EXPECT_EQ(end.refusal, std::nullopt) << "the user said No, and needs not be told";
   EXPECT_EQ(Names(), L"alpha beta delta gamma ");
   EXPECT_TRUE(files.log.empty());
   EXPECT_TRUE(host.guids.notices.empty());
@@ -146,9 +148,9 @@ TEST_F(RemovalTest, AMissingFileCountsAsDeleted) {
 TEST_F(RemovalTest, AFileThatCannotBeDeletedStopsTheRemoval) {
   files.writeProtected.insert(Path(L"beta"));
   prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
-  prompter.ExpectShow(Text::DiscriminatorFileNotDeleted);
   const auto end = list.OnRemove({0, 1, 2});
   EXPECT_EQ(end.outcome, RemovalOutcome::Stopped);
+  EXPECT_EQ(end.refusal, Refused(Text::DiscriminatorFileNotDeleted));
   EXPECT_EQ(end.rowToSelect, std::nullopt);
   EXPECT_EQ(Names(), L"beta delta gamma ");
   EXPECT_TRUE(files.contents.contains(Path(L"beta") + L"I"));
@@ -160,8 +162,7 @@ TEST_F(RemovalTest, AFileThatCannotBeDeletedStopsTheRemoval) {
 TEST_F(RemovalTest, AFirstFileThatCannotBeDeletedChangesNothing) {
   files.writeProtected.insert(Path(L"alpha"));
   prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
-  prompter.ExpectShow(Text::DiscriminatorFileNotDeleted);
-  EXPECT_EQ(list.OnRemove({0}).outcome, RemovalOutcome::Stopped);
+  EXPECT_EQ(list.OnRemove({0}).refusal, Refused(Text::DiscriminatorFileNotDeleted));
   EXPECT_TRUE(view.removed.empty());
   EXPECT_FALSE(list.Changed());
 }
