@@ -9,30 +9,30 @@
 namespace qvdisc {
 namespace {
 
-void TellErrors(const Outcome& outcome, const Surroundings& surroundings) {
+void TellErrors(const Outcome& outcome, const Terminal& terminal) {
   for (const std::wstring& error : outcome.errors) {
     const std::string line = ErrorLine(Utf8(OneLine(error)));
-    surroundings.err << (surroundings.coloursErrors ? "\033[31m" + line + "\033[0m" : line);
+    terminal.err << (terminal.coloursErrors ? "\033[31m" + line + "\033[0m" : line);
   }
 }
 
 }  // namespace
 
-int Run(const Arguments& arguments, const Surroundings& surroundings) {
+int Run(const Arguments& arguments, const Terminal& terminal, const System& system) {
   Outcome outcome;
-  Session session(arguments, surroundings, outcome);
+  Session session(arguments, terminal, system, outcome);
   if (session.Open()) {
     Perform(session);
     session.Close();
   }
-  surroundings.out << (arguments.json ? JsonReport(arguments, outcome)
-                                      : TextReport(arguments, outcome, session.Language(),
-                                                   surroundings.coloursOutput))
-                   << std::flush;
-  if (!surroundings.out) {
+  terminal.out << (arguments.json
+                       ? JsonReport(arguments, outcome)
+                       : TextReport(arguments, outcome, session.Language(), terminal.coloursOutput))
+               << std::flush;
+  if (!terminal.out) {
     outcome.Fail(Words(Word::OutputFailed, session.Language()));
   }
-  TellErrors(outcome, surroundings);
+  TellErrors(outcome, terminal);
   return outcome.status;
 }
 

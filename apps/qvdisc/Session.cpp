@@ -47,17 +47,19 @@ class ProgressLine : public qv::Progress {
 
 }  // namespace
 
-Session::Session(const Arguments& arguments, const Surroundings& surroundings, Outcome& outcome)
+Session::Session(const Arguments& arguments, const Terminal& terminal, const System& system,
+                 Outcome& outcome)
     : m_arguments(arguments),
-      m_surroundings(surroundings),
+      m_terminal(terminal),
+      m_system(system),
       m_outcome(outcome),
-      m_language(arguments.language.value_or(surroundings.language)),
+      m_language(arguments.language.value_or(system.language)),
       m_setup(arguments.installation, L"", 0),
-      m_configuration(m_mainCfg, surroundings.files),
+      m_configuration(m_mainCfg, system.files),
       m_notices([&outcome](int id) { outcome.notices.push_back(id); }),
-      m_indexFiles(surroundings.files),
-      m_clipboard(surroundings.in),
-      m_prompter(surroundings, m_texts, arguments.answer, m_language, outcome) {}
+      m_indexFiles(system.files),
+      m_clipboard(terminal.in),
+      m_prompter(terminal, m_texts, arguments.answer, m_language, outcome) {}
 
 bool Session::Open() {
   if (!LoadLanguage() || !LoadConfiguration()) {
@@ -72,7 +74,7 @@ bool Session::Open() {
 bool Session::LoadLanguage() {
   const std::string code = qv::NameOf(m_language).code;
   const std::wstring file =
-      m_surroundings.languages + std::wstring(code.begin(), code.end()) + L".txt";
+      m_system.languageDirectory + std::wstring(code.begin(), code.end()) + L".txt";
   const bool loaded = m_texts.Load(file);
   if (!loaded) {
     m_outcome.Fail(Words(Word::LanguageFileMissing, m_language, {file.c_str()}));
@@ -106,8 +108,7 @@ qv::Host Session::Services() {
 }
 
 std::unique_ptr<qv::Progress> Session::NewProgress() {
-  return std::make_unique<ProgressLine>(m_surroundings.err, m_language,
-                                        m_surroundings.showsProgress);
+  return std::make_unique<ProgressLine>(m_terminal.err, m_language, m_terminal.showsProgress);
 }
 
 void Session::Refresh() { m_list->Refresh(); }

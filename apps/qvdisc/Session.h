@@ -9,7 +9,8 @@
 #include "apps/qvdisc/Arguments.h"
 #include "apps/qvdisc/Outcome.h"
 #include "apps/qvdisc/StreamClipboard.h"
-#include "apps/qvdisc/Surroundings.h"
+#include "apps/qvdisc/System.h"
+#include "apps/qvdisc/Terminal.h"
 #include "apps/qvdisc/UserPrompter.h"
 #include "hostkit/Configuration.h"
 #include "hostkit/DirectorySetup.h"
@@ -25,7 +26,8 @@ namespace qvdisc {
 class Session : public qv::DiscriminatorListView {
  public:
   /// All references outlive the session.
-  Session(const Arguments& arguments, const Surroundings& surroundings, Outcome& outcome);
+  Session(const Arguments& arguments, const Terminal& terminal, const System& system,
+          Outcome& outcome);
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
@@ -50,7 +52,7 @@ class Session : public qv::DiscriminatorListView {
   Outcome& Result() { return m_outcome; }
   qv::Host Services();
   qv::Prompter& Prompter() { return m_prompter; }
-  qv::Files& Files() { return m_surroundings.files; }
+  qv::Files& Files() { return m_system.files; }
   qv::DiscriminatorList& List() { return *m_list; }
   qv::Configuration& Config() { return m_configuration; }
   qv::Configuration::Loaded ConfigLoaded() const { return m_loaded; }
@@ -65,7 +67,8 @@ class Session : public qv::DiscriminatorListView {
   std::vector<int> RowsWhere(const std::function<bool(const qv::DiscriminatorSummary&)>& matches);
 
   const Arguments& m_arguments;
-  const Surroundings& m_surroundings;
+  const Terminal& m_terminal;
+  const System& m_system;
   Outcome& m_outcome;
   qv::Language m_language;
   qv::DirectorySetup m_setup;

@@ -10,9 +10,9 @@
 
 namespace qvdisc {
 
-UserPrompter::UserPrompter(const Surroundings& surroundings, const QVLoadString& texts,
+UserPrompter::UserPrompter(const Terminal& terminal, const QVLoadString& texts,
                            std::optional<bool> answer, qv::Language language, Outcome& outcome)
-    : m_surroundings(surroundings),
+    : m_terminal(terminal),
       m_texts(texts),
       m_answer(answer),
       m_language(language),
@@ -26,34 +26,34 @@ void UserPrompter::ShowText(std::wstring_view text) { Tell(0, std::wstring(text)
 
 void UserPrompter::Tell(unsigned number, const std::wstring& text) {
   m_outcome.texts.push_back({number, text, false, std::nullopt});
-  m_surroundings.err << Utf8(text) << '\n';
+  m_terminal.err << Utf8(text) << '\n';
 }
 
 bool UserPrompter::Ask(Text text, const Arguments& arguments) {
   const std::wstring question = Worded(text, arguments);
-  m_surroundings.err << Utf8(question) << ' ';
+  m_terminal.err << Utf8(question) << ' ';
   const auto answer = AnswerTo(question);
   m_outcome.texts.push_back({Number(text), question, true, answer});
   if (!answer) {
-    m_surroundings.err << '\n';
+    m_terminal.err << '\n';
     m_outcome.Fail(Words(Word::AnswerNeeded, m_language));
   }
   return answer.value_or(false);
 }
 
 std::optional<bool> UserPrompter::AnswerTo(const std::wstring& question) const {
-  std::ostream& err = m_surroundings.err;
+  std::ostream& err = m_terminal.err;
   if (m_answer) {
     const std::wstring word = Words(*m_answer ? Word::Yes : Word::No, m_language);
     err << NarrowWords(Word::Answer, m_language, {word.c_str()}) << '\n';
     return m_answer;
   }
-  if (!m_surroundings.canAsk) {
+  if (!m_terminal.canAsk) {
     return std::nullopt;
   }
   // Yes begins with y or s, in one of the languages; the end of the input is No.
   for (std::string line; err << NarrowWords(Word::YesOrNo, m_language) << ' ' << std::flush,
-                         std::getline(m_surroundings.in, line);
+                         std::getline(m_terminal.in, line);
        err << Utf8(question) << ' ') {
     const char letter = line.empty() ? ' ' : line.front();
     if (std::string_view("yYsSnN").find(letter) != std::string_view::npos) {

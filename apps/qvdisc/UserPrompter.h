@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "apps/qvdisc/Outcome.h"
-#include "apps/qvdisc/Surroundings.h"
+#include "apps/qvdisc/Terminal.h"
 #include "host/Prompter.h"
 #include "host/QVLoadString.h"
 
@@ -16,8 +16,8 @@ namespace qvdisc {
 class UserPrompter : public qv::Prompter {
  public:
   /// All references outlive the prompter.
-  UserPrompter(const Surroundings& surroundings, const QVLoadString& texts,
-               std::optional<bool> answer, qv::Language language, Outcome& outcome);
+  UserPrompter(const Terminal& terminal, const QVLoadString& texts, std::optional<bool> answer,
+               qv::Language language, Outcome& outcome);
 
   void Show(Text text, const Arguments& arguments = {}) override;
   bool Ask(Text text, const Arguments& arguments = {}) override;
@@ -28,7 +28,7 @@ class UserPrompter : public qv::Prompter {
   void Tell(unsigned number, const std::wstring& text);
   std::optional<bool> AnswerTo(const std::wstring& question) const;
 
-  const Surroundings& m_surroundings;
+  const Terminal& m_terminal;
   const QVLoadString& m_texts;
   std::optional<bool> m_answer;
   qv::Language m_language;

@@ -72,7 +72,7 @@ int main(int count, char** arguments) {
   constexpr int output = 1;
   constexpr int errors = 2;
   const bool colours = WantsColours();
-  const qvdisc::Surroundings surroundings{
+  const qvdisc::Terminal terminal{
       .in = std::cin,
       .out = std::cout,
       .err = std::cerr,
@@ -80,8 +80,8 @@ int main(int count, char** arguments) {
       .showsProgress = IsTerminal(errors),
       .coloursOutput = IsTerminal(output) && colours,
       .coloursErrors = IsTerminal(errors) && colours,
-      .language = SystemLanguage(),
-      .languages = LanguageDirectory(arguments[0]),
   };
-  return qvdisc::Run(std::get<qvdisc::Arguments>(call), surroundings);
+  const qvdisc::System system{.language = SystemLanguage(),
+                              .languageDirectory = LanguageDirectory(arguments[0])};
+  return qvdisc::Run(std::get<qvdisc::Arguments>(call), terminal, system);
 }

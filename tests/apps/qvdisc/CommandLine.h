@@ -37,16 +37,16 @@ inline Ended Call(const std::vector<std::string>& arguments, const std::string& 
   std::ostringstream out;
   std::ostringstream err;
   const std::filesystem::path languages = LANGUAGES_FOLDER;
-  const Surroundings surroundings{.in = in,
-                                  .out = out,
-                                  .err = err,
-                                  .canAsk = atTerminal,
-                                  .showsProgress = atTerminal,
-                                  .coloursOutput = atTerminal,
-                                  .coloursErrors = false,
-                                  .language = qv::Language::English,
-                                  .languages = (languages / "").wstring()};
-  const int status = Run(std::get<Arguments>(call), surroundings);
+  const Terminal terminal{.in = in,
+                          .out = out,
+                          .err = err,
+                          .canAsk = atTerminal,
+                          .showsProgress = atTerminal,
+                          .coloursOutput = atTerminal,
+                          .coloursErrors = false};
+  const System system{.language = qv::Language::English,
+                      .languageDirectory = (languages / "").wstring()};
+  const int status = Run(std::get<Arguments>(call), terminal, system);
   return {status, out.str(), err.str()};
 }
 
