@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "apps/qvdisc/Finding.h"
+#include "apps/qvdisc/Words.h"
 #include "discriminator/DiscriminatorFile.h"
 #include "host/Text.h"
 #include "tools/XmlDocument.h"
@@ -31,6 +33,7 @@ struct IndexEnd {
 
 /// What a call did, as both forms of output tell it.
 struct Outcome {
+  qv::Language language = qv::Language::English;  ///< in which it is told
   int status = 0;
   std::vector<qv::DiscriminatorSummary> rows;  ///< of the list, after all was done
   std::vector<SpokenText> texts;
@@ -54,8 +57,9 @@ struct Outcome {
     });
   }
 
-  void Fail(std::wstring reason) {
-    errors.push_back(std::move(reason));
+  /// The call ends as refused, for one more reason.
+  void Fail(Word reason, std::initializer_list<qv::FormatArgument> arguments = {}) {
+    errors.push_back(Words(reason, language, arguments));
     status = 1;
   }
 };

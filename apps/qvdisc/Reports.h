@@ -11,7 +11,6 @@ namespace qvdisc {
 std::string JsonReport(const Arguments& arguments, const Outcome& outcome);
 
 /// The outcome for people: aligned columns, headings in bold where the terminal shows them.
-std::string TextReport(const Arguments& arguments, const Outcome& outcome, qv::Language language,
-                       bool isTerminal);
+std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool isTerminal);
 
 }  // namespace qvdisc

@@ -4,10 +4,18 @@
 
 #include "apps/qvdisc/Reports.h"
 #include "apps/qvdisc/Session.h"
-#include "apps/qvdisc/Verbs.h"
 
 namespace qvdisc {
 namespace {
+
+void Perform(const Arguments& arguments, const Terminal& terminal, const System& system,
+             Outcome& outcome) {
+  Session session(arguments, terminal, system, outcome);
+  if (session.Open()) {
+    session.Perform();
+    session.Close();
+  }
+}
 
 void TellErrors(const Outcome& outcome, const Terminal& terminal) {
   for (const std::wstring& error : outcome.errors) {
@@ -20,17 +28,13 @@ void TellErrors(const Outcome& outcome, const Terminal& terminal) {
 
 int Run(const Arguments& arguments, const Terminal& terminal, const System& system) {
   Outcome outcome;
-  Session session(arguments, terminal, system, outcome);
-  if (session.Open()) {
-    Perform(session);
-    session.Close();
-  }
-  terminal.out << (arguments.json
-                       ? JsonReport(arguments, outcome)
-                       : TextReport(arguments, outcome, session.Language(), terminal.coloursOutput))
+  outcome.language = arguments.language.value_or(system.language);
+  Perform(arguments, terminal, system, outcome);
+  terminal.out << (arguments.json ? JsonReport(arguments, outcome)
+                                  : TextReport(arguments, outcome, terminal.coloursOutput))
                << std::flush;
   if (!terminal.out) {
-    outcome.Fail(Words(Word::OutputFailed, session.Language()));
+    outcome.Fail(Word::OutputFailed);
   }
   TellErrors(outcome, terminal);
   return outcome.status;

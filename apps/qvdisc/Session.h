@@ -1,9 +1,6 @@
 #pragma once
 
-#include <functional>
-#include <memory>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "apps/qvdisc/Arguments.h"
@@ -11,6 +8,7 @@
 #include "apps/qvdisc/StreamClipboard.h"
 #include "apps/qvdisc/System.h"
 #include "apps/qvdisc/Terminal.h"
+#include "apps/qvdisc/TerminalView.h"
 #include "apps/qvdisc/UserPrompter.h"
 #include "hostkit/Configuration.h"
 #include "hostkit/DirectorySetup.h"
@@ -23,7 +21,7 @@ namespace qvdisc {
 
 /// One call of the program on one installation: the services that the rules ask of a host, and the
 /// list of discriminators, as the manager dialog has them.
-class Session : public qv::DiscriminatorListView {
+class Session {
  public:
   /// All references outlive the session.
   Session(const Arguments& arguments, const Terminal& terminal, const System& system,
@@ -33,44 +31,24 @@ class Session : public qv::DiscriminatorListView {
 
   /// Reads language, configuration and list. False, and the outcome tells why, if that isn't
   /// possible; a check also works without a good configuration.
-  bool Open();
+  [[nodiscard]] bool Open();
 
-  /// Reads the list, with a line that tells how far it is if a user sees it.
-  void Refresh();
-  /// Tells how far a reading is, on a line that goes with it, if a user sees it.
-  std::unique_ptr<qv::Progress> NewProgress() override;
-
-  /// The rows that the call names, in ascending order and each once; nothing, and the outcome tells
-  /// why, if one of the names is of no row or of several.
-  std::optional<std::vector<int>> NamedRows();
+  /// Does what the call asks for; the outcome tells how that ended.
+  void Perform();
 
   /// Does what a host does after the manager dialog: saves the configuration if something changed.
   void Close();
 
-  const Arguments& Call() const { return m_arguments; }
-  qv::Language Language() const { return m_language; }
-  Outcome& Result() { return m_outcome; }
-  qv::Host Services();
-  qv::Prompter& Prompter() { return m_prompter; }
-  qv::Files& Files() { return m_system.files; }
-  qv::DiscriminatorList& List() { return *m_list; }
-  qv::Configuration& Config() { return m_configuration; }
-  qv::Configuration::Loaded ConfigLoaded() const { return m_loaded; }
-  const StreamClipboard& Clipboard() const { return m_clipboard; }
-  const QVWideString& Directory() const { return m_setup.CfgPath(); }
-
  private:
   bool LoadLanguage();
   bool LoadConfiguration();
+  /// Does what the call asks for, with the rows that it names.
+  void PerformOn(const std::vector<int>& rows);
   void Save();
-  std::optional<int> NamedRow(const std::wstring& text);
-  std::vector<int> RowsWhere(const std::function<bool(const qv::DiscriminatorSummary&)>& matches);
 
   const Arguments& m_arguments;
-  const Terminal& m_terminal;
   const System& m_system;
   Outcome& m_outcome;
-  qv::Language m_language;
   qv::DirectorySetup m_setup;
   QVMainCfg m_mainCfg;
   qv::Configuration m_configuration;
@@ -80,6 +58,8 @@ class Session : public qv::DiscriminatorListView {
   qv::IndexFiles m_indexFiles;
   StreamClipboard m_clipboard;
   UserPrompter m_prompter;
+  TerminalView m_view;
+  qv::Host m_host;
   std::optional<qv::DiscriminatorList> m_list;
 };
 

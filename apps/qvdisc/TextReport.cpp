@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <initializer_list>
 #include <map>
 #include <vector>
 
@@ -23,7 +24,9 @@ class Writer {
  public:
   Writer(qv::Language language, bool isTerminal) : m_language(language), m_bold(isTerminal) {}
 
-  std::wstring Said(Word word) const { return Words(word, m_language); }
+  std::wstring Said(Word word, std::initializer_list<qv::FormatArgument> arguments = {}) const {
+    return Words(word, m_language, arguments);
+  }
 
   void Write(const std::wstring& text) { m_text += text + L"\n"; }
 
@@ -137,11 +140,11 @@ int DatesIn(const XmlNode& year) {
   return dates;
 }
 
-void WriteCalendar(Writer& writer, const XmlNode& root, qv::Language language) {
+void WriteCalendar(Writer& writer, const XmlNode& root) {
   for (const XmlNode& year :
        Section(writer, root, qv::tag::Calendar, qv::tag::Year, Word::Calendar)) {
     const std::wstring name = Line(year, qv::tag::Year);
-    writer.Write(L"  " + Words(Word::DatesOfYear, language, {name.c_str(), DatesIn(year)}));
+    writer.Write(L"  " + writer.Said(Word::DatesOfYear, {name.c_str(), DatesIn(year)}));
   }
 }
 
@@ -153,58 +156,57 @@ void WriteConditions(Writer& writer, const XmlNode& root) {
   }
 }
 
-void WriteDocument(Writer& writer, const XmlNode& root, qv::Language language) {
+void WriteDocument(Writer& writer, const XmlNode& root) {
   WriteFields(writer, root);
   const NamesById hours = WriteHourTypes(writer, root);
   WriteDayTypes(writer, root, hours);
-  WriteCalendar(writer, root, language);
+  WriteCalendar(writer, root);
   WriteConditions(writer, root);
 }
 
-void WriteIndexes(Writer& writer, const Outcome& outcome, qv::Language language) {
+void WriteIndexes(Writer& writer, const Outcome& outcome) {
   for (const IndexEnd& index : outcome.indexes) {
     if (!index.needed || index.written) {
       const Word word = index.needed ? Word::IndexWritten : Word::IndexNotNeeded;
-      writer.Write(OneLine(Words(word, language, {index.stem.c_str()})));
+      writer.Write(OneLine(writer.Said(word, {index.stem.c_str()})));
     }
   }
 }
 
-void WriteFindings(Writer& writer, const Outcome& outcome, qv::Language language) {
+void WriteFindings(Writer& writer, const Outcome& outcome) {
   for (const std::wstring& file : outcome.checkedFiles) {
     if (outcome.IsListed(file)) {
-      writer.Write(OneLine(Words(Word::Listed, language, {file.c_str()})));
+      writer.Write(OneLine(writer.Said(Word::Listed, {file.c_str()})));
     }
   }
   for (const Finding& finding : outcome.findings) {
-    writer.Write(OneLine(finding.file + L": " + Sentence(finding, language)));
+    writer.Write(OneLine(finding.file + L": " + Sentence(finding, outcome.language)));
   }
   const auto files = static_cast<unsigned>(outcome.checkedFiles.size());
   const auto faults = static_cast<unsigned>(
       std::count_if(outcome.findings.begin(), outcome.findings.end(),
                     [](const Finding& finding) { return finding.IsFault(); }));
-  writer.Write(faults == 0 ? Words(Word::NothingFound, language, {files})
-                           : Words(Word::Found, language, {faults, files}));
+  writer.Write(faults == 0 ? writer.Said(Word::NothingFound, {files})
+                           : writer.Said(Word::Found, {faults, files}));
 }
 
 }  // namespace
 
-std::string TextReport(const Arguments& arguments, const Outcome& outcome, qv::Language language,
-                       bool isTerminal) {
-  Writer writer(language, isTerminal);
+std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool isTerminal) {
+  Writer writer(outcome.language, isTerminal);
   for (const auto* text : {&outcome.payload, &outcome.unsaved, &outcome.unsavedConfiguration}) {
     if (*text) {
       return **text + "\n";
     }
   }
   if (outcome.document) {
-    WriteDocument(writer, *outcome.document->Root(), language);
+    WriteDocument(writer, *outcome.document->Root());
   } else if (arguments.verb == Verb::List && outcome.errors.empty()) {
     WriteRows(writer, outcome);
   } else if (arguments.verb == Verb::Check && outcome.errors.empty()) {
-    WriteFindings(writer, outcome, language);
+    WriteFindings(writer, outcome);
   }
-  WriteIndexes(writer, outcome, language);
+  WriteIndexes(writer, outcome);
   return writer.Text();
 }
 

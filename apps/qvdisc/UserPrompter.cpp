@@ -11,12 +11,8 @@
 namespace qvdisc {
 
 UserPrompter::UserPrompter(const Terminal& terminal, const QVLoadString& texts,
-                           std::optional<bool> answer, qv::Language language, Outcome& outcome)
-    : m_terminal(terminal),
-      m_texts(texts),
-      m_answer(answer),
-      m_language(language),
-      m_outcome(outcome) {}
+                           std::optional<bool> answer, Outcome& outcome)
+    : m_terminal(terminal), m_texts(texts), m_answer(answer), m_outcome(outcome) {}
 
 void UserPrompter::Show(Text text, const Arguments& arguments) {
   Tell(Number(text), Worded(text, arguments));
@@ -36,7 +32,7 @@ bool UserPrompter::Ask(Text text, const Arguments& arguments) {
   m_outcome.texts.push_back({Number(text), question, true, answer});
   if (!answer) {
     m_terminal.err << '\n';
-    m_outcome.Fail(Words(Word::AnswerNeeded, m_language));
+    m_outcome.Fail(Word::AnswerNeeded);
   }
   return answer.value_or(false);
 }
@@ -44,15 +40,15 @@ bool UserPrompter::Ask(Text text, const Arguments& arguments) {
 std::optional<bool> UserPrompter::AnswerTo(const std::wstring& question) const {
   std::ostream& err = m_terminal.err;
   if (m_answer) {
-    const std::wstring word = Words(*m_answer ? Word::Yes : Word::No, m_language);
-    err << NarrowWords(Word::Answer, m_language, {word.c_str()}) << '\n';
+    const std::wstring word = Words(*m_answer ? Word::Yes : Word::No, m_outcome.language);
+    err << NarrowWords(Word::Answer, m_outcome.language, {word.c_str()}) << '\n';
     return m_answer;
   }
   if (!m_terminal.canAsk) {
     return std::nullopt;
   }
   // Yes begins with y or s, in one of the languages; the end of the input is No.
-  for (std::string line; err << NarrowWords(Word::YesOrNo, m_language) << ' ' << std::flush,
+  for (std::string line; err << NarrowWords(Word::YesOrNo, m_outcome.language) << ' ' << std::flush,
                          std::getline(m_terminal.in, line);
        err << Utf8(question) << ' ') {
     const char letter = line.empty() ? ' ' : line.front();

@@ -17,7 +17,7 @@ class UserPrompter : public qv::Prompter {
  public:
   /// All references outlive the prompter.
   UserPrompter(const Terminal& terminal, const QVLoadString& texts, std::optional<bool> answer,
-               qv::Language language, Outcome& outcome);
+               Outcome& outcome);
 
   void Show(Text text, const Arguments& arguments = {}) override;
   bool Ask(Text text, const Arguments& arguments = {}) override;
@@ -31,7 +31,6 @@ class UserPrompter : public qv::Prompter {
   const Terminal& m_terminal;
   const QVLoadString& m_texts;
   std::optional<bool> m_answer;
-  qv::Language m_language;
   Outcome& m_outcome;
 };
 

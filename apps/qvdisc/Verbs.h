@@ -1,10 +1,58 @@
 #pragma once
 
-#include "apps/qvdisc/Session.h"
+#include <string>
+#include <vector>
 
+#include "apps/qvdisc/Arguments.h"
+#include "apps/qvdisc/InstallationCheck.h"
+#include "apps/qvdisc/Outcome.h"
+#include "apps/qvdisc/StreamClipboard.h"
+#include "discriminator/DiscriminatorDirectory.h"
+#include "host/Host.h"
+#include "host/Progress.h"
+#include "host/Prompter.h"
+#include "manager/DiscriminatorClipboard.h"
+#include "manager/DiscriminatorList.h"
+#include "tools/Files.h"
+
+/// What the verbs of the program do, each in its own file. The outcome tells how one ended.
 namespace qvdisc {
 
-/// Does what the call asks for in an open session; its outcome tells how that ended.
-void Perform(Session& session);
+/// Takes the document of the discriminator with this stem into the outcome.
+void Show(const qv::DiscriminatorDirectory& directory, const QVWideString& stem, Outcome& outcome);
+
+/// Makes the index files of the discriminators with these stems anew.
+void Index(const qv::DiscriminatorDirectory& directory, const std::vector<QVWideString>& stems,
+           qv::Progress& progress, Outcome& outcome);
+
+/// Takes the payload of the rows into the outcome; `clipboard` puts it into `stream`.
+void Copy(const qv::DiscriminatorClipboard& clipboard, const std::vector<int>& rows,
+          const StreamClipboard& stream, Outcome& outcome);
+
+/// Makes new discriminators of what is on the clipboard.
+void Paste(qv::DiscriminatorClipboard& clipboard, Outcome& outcome);
+
+/// What the editor of a discriminator works with when nobody sits at it.
+struct Editing {
+  const qv::Host& host;
+  qv::Files& files;
+  qv::Prompter& prompter;
+  const Arguments& call;
+};
+
+/// Makes a new discriminator with the fields of the call.
+void Add(qv::DiscriminatorList& list, const Editing& editing, Outcome& outcome);
+
+/// Changes the fields that the call gives, of the first of the rows.
+void Modify(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
+            Outcome& outcome);
+
+/// Removes the discriminators of the rows, after the question of the rules.
+void Remove(qv::DiscriminatorList& list, const std::vector<int>& rows, qv::Prompter& prompter,
+            Outcome& outcome);
+
+/// Tells what is wrong with the installation, or with those of its files that `names` are of.
+void Check(const Checked& checked, const std::vector<std::wstring>& names, qv::Files& files,
+           qv::Progress& progress, Outcome& outcome);
 
 }  // namespace qvdisc

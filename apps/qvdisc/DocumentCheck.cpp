@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "apps/qvdisc/Check.h"
+#include "apps/qvdisc/InstallationCheck.h"
 #include "discriminator/DayMinutes.h"
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
