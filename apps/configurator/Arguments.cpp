@@ -3,15 +3,17 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
-#include <functional>
-#include <iterator>
 #include <utility>
 #include <vector>
 
-#include "tools/Utf8.h"
+#include "apps/commandline/CommandLine.h"
 
 namespace configurator {
 namespace {
+
+using commandline::AddText;
+using commandline::Check;
+using commandline::Restrict;
 
 constexpr const char* program = "configurator";
 constexpr const char* description =
@@ -29,8 +31,6 @@ Of an option that is given more than once, the last one counts.
 
 Exit status: 0 if all went well, 1 if something could not be done, 2 if the call is wrong.)";
 
-constexpr int badCall = 2;
-
 /// The options as their texts, to be turned into values once all of them are known to be good.
 struct Texts {
   std::string installation;
@@ -42,12 +42,7 @@ struct Texts {
   bool list = false;
 };
 
-std::string NotUtf8(std::string& text) {
-  const bool isUtf8 = qv::ToUtf8(qv::FromUtf8(text)) == text;
-  return isUtf8 ? std::string() : "This name is not UTF-8: " + text;
-}
-
-std::string NoName(std::string& text) {
+std::string NoName(const std::string& text) {
   return text.empty() ? "The name of the file is empty" : std::string();
 }
 
@@ -66,7 +61,7 @@ std::optional<WindowSize> ReadSize(const std::string& text) {
   return read && inRange ? std::optional(size) : std::nullopt;
 }
 
-std::string NoSize(std::string& text) {
+std::string NoSize(const std::string& text) {
   return ReadSize(text) ? std::string()
                         : "Write width x height in pixels, as in 900x600, not " + text;
 }
@@ -76,29 +71,8 @@ const WindowName& NamedWindow(const std::string& name) {
                        [&](const WindowName& known) { return known.name == name; });
 }
 
-std::string Joined(const std::vector<std::string>& texts, const std::string& separator) {
-  std::string joined;
-  for (const std::string& text : texts) {
-    joined += (joined.empty() ? std::string() : separator) + text;
-  }
-  return joined;
-}
-
-/// One field of each line of a table.
-template <class Table, class Field>
-std::vector<std::string> Column(const Table& table, Field field) {
-  std::vector<std::string> texts;
-  std::transform(table.begin(), table.end(), std::back_inserter(texts), std::mem_fn(field));
-  return texts;
-}
-
-/// Lets `option` be one of `choices` and nothing else.
-void Restrict(CLI::Option* option, const std::vector<std::string>& choices) {
-  const auto check = [choices](std::string& text) {
-    const bool known = std::find(choices.begin(), choices.end(), text) != choices.end();
-    return known ? std::string() : text + " is none of: " + Joined(choices, ", ");
-  };
-  option->type_name(Joined(choices, "|"))->check(CLI::Validator(check, ""));
+std::string NoneOf(const std::string& value, const std::vector<std::string>& choices) {
+  return value + " is none of: " + commandline::Joined(choices, ", ");
 }
 
 std::string ShowHelp() {
@@ -110,42 +84,43 @@ std::string ShowHelp() {
 }
 
 void AddInstallationOptions(CLI::App& app, Texts& texts) {
-  app.add_option("--installation", texts.installation,
-                 "Directory of the installation: its configuration.xml, which is made\n"
-                 "at the first saving if there is none, and its discriminators")
-      ->type_name("DIR")
-      ->required()
-      ->check(CLI::Validator(CLI::ExistingDirectory).description(""))
-      ->check(CLI::Validator(NotUtf8, ""));
-  Restrict(app.add_option("--language", texts.language,
-                          "Language of all texts: that of the system if this is not given,\n"
-                          "and English if the system's is neither"),
-           Column(qv::languageNames, &qv::LanguageName::code));
+  auto* installation =
+      AddText(app, "--installation", texts.installation,
+              "Directory of the installation: its configuration.xml, which is made\n"
+              "at the first saving if there is none, and its discriminators")
+          ->type_name("DIR")
+          ->required()
+          ->check(CLI::Validator(CLI::ExistingDirectory).description(""));
+  Check(installation, [](const std::string& text) { return commandline::NotUtf8("name", text); });
+  Restrict(AddText(app, "--language", texts.language,
+                   "Language of all texts: that of the system if this is not given,\n"
+                   "and English if the system's is neither"),
+           commandline::LanguageCodes(), NoneOf);
 }
 
 void AddWindowOptions(CLI::App& app, Texts& texts) {
-  auto* show = app.add_option("--show", texts.show, ShowHelp());
-  Restrict(show, Column(windowNames, &WindowName::name));
+  auto* show = AddText(app, "--show", texts.show, ShowHelp());
+  Restrict(show, commandline::Column(windowNames, &WindowName::name), NoneOf);
   app.add_flag("--list", texts.list,
                "With --show discriminators: print the rows that the dialog lists,\n"
                "in aligned columns, and end")
       ->needs(show);
-  app.add_option("--picture", texts.picture,
-                 "Save a picture of the window as this PNG file, and end")
-      ->type_name("FILE")
-      ->check(CLI::Validator(NoName, ""));
-  app.add_option("--size", texts.size, "Give the window this size first, as far as it can have it")
-      ->type_name("WxH")
-      ->check(CLI::Validator(NoSize, ""));
-  Restrict(app.add_option("--theme", texts.theme, "Draw in these colours instead of the system's"),
-           {"light", "dark"});
+  Check(AddText(app, "--picture", texts.picture,
+                "Save a picture of the window as this PNG file, and end")
+            ->type_name("FILE"),
+        NoName);
+  Check(AddText(app, "--size", texts.size,
+                "Give the window this size first, as far as it can have it")
+            ->type_name("WxH"),
+        NoSize);
+  Restrict(AddText(app, "--theme", texts.theme, "Draw in these colours instead of the system's"),
+           {"light", "dark"}, NoneOf);
 }
 
 void AddOptions(CLI::App& app, Texts& texts) {
   app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-  app.set_help_flag("--help", "Print this help, and end");
-  app.set_version_flag("--version", std::string(program) + " " + CONFIGURATOR_VERSION,
-                       "Print the version, and end");
+  commandline::AddHelp(app);
+  commandline::AddVersion(app, CONFIGURATOR_VERSION);
   app.footer(examples);
   AddInstallationOptions(app, texts);
   AddWindowOptions(app, texts);
@@ -178,26 +153,19 @@ Arguments ReadTexts(Texts texts) {
 
 }  // namespace
 
-std::variant<Arguments, EarlyEnd> ReadArguments(int count, const char* const* arguments) {
+std::variant<Arguments, commandline::EarlyEnd> ReadArguments(int count,
+                                                             const char* const* arguments) {
   CLI::App app(description, program);
   Texts texts;
   AddOptions(app, texts);
-  try {
-    app.parse(count, arguments);
-    return ReadTexts(std::move(texts));
-  } catch (const CLI::CallForHelp&) {
-    return EarlyEnd{.status = 0, .output = app.help(), .error = {}};
-  } catch (const CLI::CallForVersion& version) {
-    return EarlyEnd{.status = 0, .output = std::string(version.what()) + "\n", .error = {}};
-  } catch (const CLI::ParseError& error) {
-    return EarlyEnd{.status = badCall,
-                    .output = {},
-                    .error = ErrorLine(error.what()) + "Try configurator --help.\n"};
+  Arguments read;
+  app.callback([&] { read = ReadTexts(std::move(texts)); });
+  if (auto end = commandline::Read(app, count, arguments, ErrorLine)) {
+    return *std::move(end);
   }
+  return read;
 }
 
-std::string ErrorLine(std::string_view reason) {
-  return std::string(program) + ": " + std::string(reason) + "\n";
-}
+std::string ErrorLine(std::string_view reason) { return commandline::ErrorLine(program, reason); }
 
 }  // namespace configurator

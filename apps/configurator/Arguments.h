@@ -6,6 +6,7 @@
 #include <string_view>
 #include <variant>
 
+#include "apps/commandline/CommandLine.h"
 #include "hostkit/Language.h"
 
 namespace configurator {
@@ -52,16 +53,10 @@ struct Arguments {
   bool EndsByItself() const { return picture.has_value() || list; }
 };
 
-/// The program ends before it begins: with help, the version, or the reason why not.
-struct EarlyEnd {
-  int status = 0;
-  std::string output;  ///< for standard output
-  std::string error;   ///< for standard error
-};
-
 /// Reads the command line, of which the first is the program's name. A call that can't be carried
 /// out gives the status 2 and the reason in words.
-std::variant<Arguments, EarlyEnd> ReadArguments(int count, const char* const* arguments);
+std::variant<Arguments, commandline::EarlyEnd> ReadArguments(int count,
+                                                             const char* const* arguments);
 
 /// The line that the program puts on standard error for `reason`.
 std::string ErrorLine(std::string_view reason);

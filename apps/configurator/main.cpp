@@ -6,7 +6,7 @@
 
 int main(int count, char** arguments) {
   const auto call = configurator::ReadArguments(count, arguments);
-  if (const auto* end = std::get_if<configurator::EarlyEnd>(&call)) {
+  if (const auto* end = std::get_if<commandline::EarlyEnd>(&call)) {
     std::fputs(end->output.c_str(), stdout);
     std::fputs(end->error.c_str(), stderr);
     return end->status;

@@ -9,6 +9,7 @@
 #include <optional>
 #include <utility>
 
+#include "apps/commandline/CommandLine.h"
 #include "apps/qvdisc/Pages.h"
 #include "apps/qvdisc/Words.h"
 #include "editor/DiscriminatorForm.h"
@@ -17,6 +18,10 @@
 
 namespace qvdisc {
 namespace {
+
+using commandline::AddText;
+using commandline::Check;
+using commandline::Restrict;
 
 constexpr const char* program = "qvdisc";
 
@@ -81,97 +86,69 @@ struct Texts {
   bool no = false;
 };
 
-/// The parser takes "[a,b]" for a list of two. This character in front keeps it from doing so.
-constexpr char guard = '\x1f';
+std::string NoText(const std::string& text) { return commandline::NotUtf8("text", text); }
 
-std::string Guarded(const std::string& argument) {
-  const bool needsIt = !argument.empty() && (argument[0] == '[' || argument[0] == guard);
-  return needsIt ? guard + argument : argument;
-}
-
-std::string Unguarded(const std::string& text) {
-  return !text.empty() && text[0] == guard ? text.substr(1) : text;
-}
-
-std::string NotUtf8(const std::string& text) {
-  return qv::ToUtf8(qv::FromUtf8(text)) == text ? std::string() : "This text is not UTF-8: " + text;
-}
-
-std::string NoDirectory(std::string& guarded) {
-  const std::string text = Unguarded(guarded);
+std::string NoDirectory(const std::string& text) {
   std::error_code error;
   const std::filesystem::directory_iterator content(text, error);
-  return error ? "This directory can't be read: " + text : NotUtf8(text);
+  return error ? "This directory can't be read: " + text : NoText(text);
 }
 
-std::string NoStem(std::string& guarded) { return NotUtf8(Unguarded(guarded)); }
-
-std::string NoFieldText(std::string& guarded) {
-  const std::string text = Unguarded(guarded);
+std::string NoFieldText(const std::string& text) {
   const bool fits = qv::IsXmlText(qv::FromUtf8(text));
-  return fits ? NotUtf8(text) : "A file can't hold every character of: " + text;
+  return fits ? NoText(text) : "A file can't hold every character of: " + text;
 }
 
-std::string NoName(std::string& guarded) {
+std::string NoName(const std::string& text) {
   const std::size_t most = qv::DiscriminatorForm::longestTypedName;
-  const std::string text = Unguarded(guarded);
   return qv::FromUtf8(text).size() > most
              ? "A name has at most " + std::to_string(most) + " characters: " + text
-             : NoFieldText(guarded);
+             : NoFieldText(text);
 }
 
-/// Lets `option` be one of `choices` and nothing else; the pages read them from its type.
-void Restrict(CLI::Option* option, const std::vector<std::string>& choices) {
-  std::string joined;
-  for (const std::string& choice : choices) {
-    joined += (joined.empty() ? "" : "|") + choice;
-  }
-  const auto check = [choices, joined](std::string& text) {
-    const bool known = std::find(choices.begin(), choices.end(), text) != choices.end();
-    return known ? std::string() : "'" + text + "' is none of " + joined;
-  };
-  option->type_name(joined)->check(CLI::Validator(check, ""));
+std::string NoneOf(const std::string& value, const std::vector<std::string>& choices) {
+  return "'" + value + "' is none of " + commandline::Joined(choices, "|");
 }
 
 void AddCommonOptions(CLI::App& app, Texts& texts) {
   app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-  app.set_help_flag("--help", "Print this help, and end");
-  app.add_option("--installation", texts.installation,
-                 "Directory of the installation: its configuration.xml and its discriminators")
-      ->type_name("DIR")
-      ->required()
-      ->check(CLI::Validator(NoDirectory, ""));
-  Restrict(app.add_option("--language", texts.language,
-                          "Language of what is told; that of the system if not given"),
-           {qv::languageNames[0].code, qv::languageNames[1].code});
+  commandline::AddHelp(app);
+  Check(AddText(app, "--installation", texts.installation,
+                "Directory of the installation: its configuration.xml and its discriminators")
+            ->type_name("DIR")
+            ->required(),
+        NoDirectory);
+  Restrict(AddText(app, "--language", texts.language,
+                   "Language of what is told; that of the system if not given"),
+           commandline::LanguageCodes(), NoneOf);
   app.add_flag("--json", texts.json, "Print one JSON document instead of text for people");
   app.footer(footer);
 }
 
 void AddStems(CLI::App& app, const Stems& stems, Texts& texts) {
   if (stems.most > 0) {
-    app.add_option("STEM", texts.stems, "Which discriminators")
-        ->type_name("")
-        ->check(CLI::Validator(NoStem, ""))
-        ->multi_option_policy(CLI::MultiOptionPolicy::Throw)
-        ->expected(stems.least, stems.most)
-        ->required(stems.least > 0);
+    Check(commandline::AddTexts(app, "STEM", texts.stems, "Which discriminators")
+              ->type_name("")
+              ->multi_option_policy(CLI::MultiOptionPolicy::Throw)
+              ->expected(stems.least, stems.most)
+              ->required(stems.least > 0),
+          NoText);
   }
 }
 
 void AddFields(CLI::App& app, bool nameNeeded, Texts& texts) {
-  app.add_option("--name", texts.name, "Name, of at most 80 characters")
-      ->type_name("NAME")
-      ->required(nameNeeded)
-      ->check(CLI::Validator(NoName, ""));
-  app.add_option("--description", texts.description, "Description, without double quotes")
-      ->type_name("TEXT")
-      ->check(CLI::Validator(NoFieldText, ""));
-  Restrict(app.add_option("--type", texts.type, "Time slots or conditions"),
-           {"SLOTS", "CONDITIONS"});
-  Restrict(app.add_option("--zero-outside", texts.zero,
-                          "Whether variables are set to zero outside their slots"),
-           {"yes", "no"});
+  Check(AddText(app, "--name", texts.name, "Name, of at most 80 characters")
+            ->type_name("NAME")
+            ->required(nameNeeded),
+        NoName);
+  Check(AddText(app, "--description", texts.description, "Description, without double quotes")
+            ->type_name("TEXT"),
+        NoFieldText);
+  Restrict(AddText(app, "--type", texts.type, "Time slots or conditions"), {"SLOTS", "CONDITIONS"},
+           NoneOf);
+  Restrict(AddText(app, "--zero-outside", texts.zero,
+                   "Whether variables are set to zero outside their slots"),
+           {"yes", "no"}, NoneOf);
 }
 
 void AddVerb(CLI::App& app, const VerbName& known, Texts& texts) {
@@ -188,14 +165,13 @@ void AddVerb(CLI::App& app, const VerbName& known, Texts& texts) {
 }
 
 void Describe(CLI::App& app, Texts& texts) {
-  app.set_help_flag("--help", "Print this help, and end");
-  app.set_version_flag("--version", std::string(program) + " " + QVDISC_VERSION,
-                       "Print the version, and end");
-  app.add_flag_callback(
-      "--manual-page", [&app] { throw Page(ManualPage(app)); },
+  commandline::AddHelp(app);
+  commandline::AddVersion(app, QVDISC_VERSION);
+  commandline::AddPage(
+      app, "--manual-page", [&app] { return ManualPage(app); },
       "Print the manual page, for man, and end");
-  app.add_flag_callback(
-      "--bash-completion", [&app] { throw Page(BashCompletion(app)); },
+  commandline::AddPage(
+      app, "--bash-completion", [&app] { return BashCompletion(app); },
       "Print what bash has to source to complete calls of this program, and end");
   app.require_subcommand(1);
   app.footer(footer);
@@ -204,12 +180,10 @@ void Describe(CLI::App& app, Texts& texts) {
   }
 }
 
-std::wstring Wide(const std::string& guarded) { return qv::FromUtf8(Unguarded(guarded)); }
-
 std::optional<std::wstring> Given(const CLI::App& verb, const char* option,
                                   const std::string& text) {
   const CLI::Option* found = verb.get_option_no_throw(option);
-  return found && found->count() > 0 ? std::optional(Wide(text)) : std::nullopt;
+  return found && found->count() > 0 ? std::optional(qv::FromUtf8(text)) : std::nullopt;
 }
 
 /// Whether the option has the first of its two values; nothing if it isn't given.
@@ -225,13 +199,14 @@ Arguments ReadTexts(const CLI::App& app, const Texts& texts) {
   Arguments arguments;
   arguments.verb = known->verb;
   arguments.verbName = known->name;
-  arguments.installation = Wide(texts.installation);
+  arguments.installation = qv::FromUtf8(texts.installation);
   arguments.language = qv::LanguageOf(texts.language);
   arguments.json = texts.json;
   if (texts.yes || texts.no) {
     arguments.answer = texts.yes;
   }
-  std::transform(texts.stems.begin(), texts.stems.end(), std::back_inserter(arguments.stems), Wide);
+  std::transform(texts.stems.begin(), texts.stems.end(), std::back_inserter(arguments.stems),
+                 [](const std::string& stem) { return qv::FromUtf8(stem); });
   arguments.changes = {Given(verb, "--name", texts.name),
                        Given(verb, "--description", texts.description),
                        IsFirst(texts.type, "SLOTS"), IsFirst(texts.zero, "yes")};
@@ -240,33 +215,21 @@ Arguments ReadTexts(const CLI::App& app, const Texts& texts) {
 
 }  // namespace
 
-std::variant<Arguments, EarlyEnd> ReadArguments(int count, const char* const* arguments) {
+std::variant<Arguments, commandline::EarlyEnd> ReadArguments(int count,
+                                                             const char* const* arguments) {
   CLI::App app("Lists, shows, changes and checks the discriminators of an installation.", program);
   Texts texts;
   Describe(app, texts);
-  // The parser takes the arguments from the last to the first, without the program's name.
-  std::vector<std::string> guarded(arguments + std::min(count, 1), arguments + count);
-  std::reverse(guarded.begin(), guarded.end());
-  std::transform(guarded.begin(), guarded.end(), guarded.begin(), Guarded);
-  try {
-    app.parse(guarded);
-    return ReadTexts(app, texts);
-  } catch (const Page& page) {
-    return EarlyEnd{.status = 0, .output = page.text, .error = {}};
-  } catch (const CLI::CallForHelp&) {
-    return EarlyEnd{.status = 0, .output = app.help(), .error = {}};
-  } catch (const CLI::CallForVersion& version) {
-    return EarlyEnd{.status = 0, .output = std::string(version.what()) + "\n", .error = {}};
-  } catch (const CLI::ParseError& error) {
-    return EarlyEnd{
-        .status = badCall,
-        .output = {},
-        .error = ErrorLine(Utf8(OneLine(qv::FromUtf8(error.what())))) + "Try qvdisc --help.\n"};
+  Arguments read;
+  app.callback([&] { read = ReadTexts(app, texts); });
+  if (auto end = commandline::Read(app, count, arguments, ErrorLine)) {
+    return *std::move(end);
   }
+  return read;
 }
 
-std::string ErrorLine(const std::string& reason) {
-  return std::string(program) + ": " + reason + "\n";
+std::string ErrorLine(std::string_view reason) {
+  return commandline::ErrorLine(program, Utf8(OneLine(qv::FromUtf8(reason))));
 }
 
 }  // namespace qvdisc

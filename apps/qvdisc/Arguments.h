@@ -2,14 +2,12 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
+#include "apps/commandline/CommandLine.h"
 #include "hostkit/Language.h"
-
-namespace CLI {
-class App;
-}
 
 namespace qvdisc {
 
@@ -37,21 +35,12 @@ struct Arguments {
   FieldChanges changes;
 };
 
-/// The program ends before it begins: with help, the version, a page, or the reason why not.
-struct EarlyEnd {
-  int status = 0;
-  std::string output;  ///< for standard output
-  std::string error;   ///< for standard error
-};
-
-/// The exit status of a call that can't be carried out.
-inline constexpr int badCall = 2;
-
 /// Reads the command line, of which the first is the program's name. A call that can't be carried
 /// out gives the status 2 and the reason in words. Arguments may hold any bytes.
-std::variant<Arguments, EarlyEnd> ReadArguments(int count, const char* const* arguments);
+std::variant<Arguments, commandline::EarlyEnd> ReadArguments(int count,
+                                                             const char* const* arguments);
 
-/// The line that the program puts on standard error for `reason`.
-std::string ErrorLine(const std::string& reason);
+/// The one line that the program puts on standard error for `reason`, which may hold any bytes.
+std::string ErrorLine(std::string_view reason);
 
 }  // namespace qvdisc

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "apps/commandline/CommandLine.h"
+
 namespace qvdisc {
 namespace {
 
@@ -40,14 +42,6 @@ std::vector<const CLI::App*> VerbsOf(const CLI::App& app) {
   return app.get_subcommands([](const CLI::App*) { return true; });
 }
 
-std::string Joined(const std::vector<std::string>& words) {
-  std::string joined;
-  for (const std::string& word : words) {
-    joined += (joined.empty() ? "" : " ") + word;
-  }
-  return joined;
-}
-
 std::string OptionNames(const CLI::App& app) {
   std::vector<std::string> names;
   for (const CLI::Option* option : app.get_options()) {
@@ -55,7 +49,7 @@ std::string OptionNames(const CLI::App& app) {
       names.push_back("--" + name);
     }
   }
-  return Joined(names);
+  return commandline::Joined(names, " ");
 }
 
 /// The values that an option is restricted to, with blanks between them; empty for any other.
@@ -188,8 +182,8 @@ std::string BashCompletion(const CLI::App& app) {
     verbs.push_back(verb->get_name());
   }
   return completionStart + ValueCases(app) + "  esac\n  case $verb in\n    '') _qvdisc_words \"" +
-         Joined(verbs) + " " + OptionNames(app) + "\"; return ;;\n" + VerbCases(app) +
-         completionEnd;
+         commandline::Joined(verbs, " ") + " " + OptionNames(app) + "\"; return ;;\n" +
+         VerbCases(app) + completionEnd;
 }
 
 }  // namespace qvdisc

@@ -1,21 +1,12 @@
 #pragma once
 
 #include <string>
-#include <utility>
 
 namespace CLI {
 class App;
 }
 
 namespace qvdisc {
-
-/// The description of the command line, of which help, pages and completion are all made, asks for
-/// this text in place of any work.
-struct Page {
-  explicit Page(std::string content) : text(std::move(content)) {}
-
-  std::string text;
-};
 
 /// The manual page of `app` and its verbs, as input for man.
 std::string ManualPage(const CLI::App& app);

@@ -19,7 +19,7 @@ void Perform(const Arguments& arguments, const Terminal& terminal, const System&
 
 void TellErrors(const Outcome& outcome, const Terminal& terminal) {
   for (const std::wstring& error : outcome.errors) {
-    const std::string line = ErrorLine(Utf8(OneLine(error)));
+    const std::string line = ErrorLine(Utf8(error));
     terminal.err << (terminal.coloursErrors ? "\033[31m" + line + "\033[0m" : line);
   }
 }

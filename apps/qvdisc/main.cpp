@@ -63,7 +63,7 @@ int main(int count, char** arguments) {
   std::signal(SIGXFSZ, SIG_IGN);
 #endif
   const auto call = qvdisc::ReadArguments(count, arguments);
-  if (const auto* end = std::get_if<qvdisc::EarlyEnd>(&call)) {
+  if (const auto* end = std::get_if<commandline::EarlyEnd>(&call)) {
     std::cout << end->output << std::flush;
     std::cerr << end->error;
     return std::cout ? end->status : notWritten;

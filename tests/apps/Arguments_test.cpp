@@ -13,6 +13,7 @@
 namespace configurator {
 namespace {
 
+using commandline::EarlyEnd;
 using testing::HasSubstr;
 
 std::variant<Arguments, EarlyEnd> Read(const std::vector<std::string>& words) {
@@ -172,6 +173,17 @@ INSTANTIATE_TEST_SUITE_P(
         BadCall{"UnknownOption", {"--installation", ".", "--colour"}, "not expected: --colour"},
         BadCall{"StrayWord", {"--installation", ".", "stray"}, "not expected: stray"}),
     [](const auto& call) { return std::string(call.param.name); });
+
+TEST(Arguments, WhatLooksLikeAListIsOneName) {
+  const qv::TemporaryDirectory directory;
+  const std::string list = (directory.Path() / "[a,b]").string();
+  std::filesystem::create_directory(list);
+  EXPECT_EQ(Good({"--installation", list, "--picture", "[a,b]"}).picture, "[a,b]");
+  EXPECT_EQ(Good({"--installation", list}).installation, list);
+  EXPECT_THAT(Ended({"--installation", "[a,b]"}).error, HasSubstr("does not exist: [a,b]\n"));
+  EXPECT_THAT(Ended({"--installation", ".", "--theme", "[light]"}).error,
+              HasSubstr("--theme: [light] is none of: light, dark\n"));
+}
 
 TEST(Arguments, AFileIsNoInstallation) {
   const qv::TemporaryDirectory directory;

@@ -47,8 +47,9 @@ const std::map<std::string, Folders>& AllowedFolders() {
     add("manager/ui", {"manager", "editor/ui", "toolkit"});
     add("hostkit/ui", {"hostkit"});
     add("library", {"manager/ui", "calendar/ui", "variables/ui", "timestructure/ui"});
-    add("apps/configurator", {"library", "hostkit/ui"});
-    add("apps/qvdisc", {"manager", "hostkit"});
+    add("apps/commandline", {"hostkit"});
+    add("apps/configurator", {"library", "hostkit/ui", "apps/commandline"});
+    add("apps/qvdisc", {"manager", "hostkit", "apps/commandline"});
     return table;
   }();
   return allowed;

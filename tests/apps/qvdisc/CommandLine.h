@@ -30,7 +30,7 @@ inline Ended Call(const std::vector<std::string>& arguments, const std::string& 
     words.push_back(argument.c_str());
   }
   const auto call = ReadArguments(static_cast<int>(words.size()), words.data());
-  if (const auto* end = std::get_if<EarlyEnd>(&call)) {
+  if (const auto* end = std::get_if<commandline::EarlyEnd>(&call)) {
     return {end->status, end->output, end->error};
   }
   std::istringstream in(input);
