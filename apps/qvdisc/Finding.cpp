@@ -1,18 +1,19 @@
 #include "apps/qvdisc/Finding.h"
 
 #include <array>
-#include <cstddef>
+
+#include "hostkit/EnumTable.h"
 
 namespace qvdisc {
 namespace {
 
 struct KindRow {
-  FindingKind kind;
+  FindingKind key;
   const char* name;
   Word word;
 };
 
-constexpr std::array kinds = {
+constexpr qv::EnumTable kinds(std::array{
     KindRow{FindingKind::Unreadable, "unreadable", Word::Unreadable},
     KindRow{FindingKind::HiddenType, "hidden-type", Word::HiddenType},
     KindRow{FindingKind::FileName, "file-name", Word::FileNameForm},
@@ -38,26 +39,14 @@ constexpr std::array kinds = {
     KindRow{FindingKind::StartAfterEnd, "start-after-end", Word::StartAfterEnd},
     KindRow{FindingKind::SlotsOverlap, "slots-overlap", Word::SlotsOverlap},
     KindRow{FindingKind::DayGaps, "day-gaps", Word::DayGaps},
-};
-
-constexpr bool EachRowStandsAtItsKind() {
-  for (std::size_t i = 0; i < kinds.size(); ++i) {
-    if (kinds[i].kind != static_cast<FindingKind>(i)) {
-      return false;
-    }
-  }
-  return kinds.size() == static_cast<std::size_t>(FindingKind::Count);
-}
-static_assert(EachRowStandsAtItsKind());
-
-const KindRow& RowOf(FindingKind kind) { return kinds.at(static_cast<std::size_t>(kind)); }
+});
 
 }  // namespace
 
-const char* KindName(FindingKind kind) { return RowOf(kind).name; }
+const char* KindName(FindingKind kind) { return kinds[kind].name; }
 
 std::wstring Sentence(const Finding& finding, qv::Language language) {
-  const Word word = RowOf(finding.kind).word;
+  const Word word = kinds[finding.kind].word;
   switch (finding.kind) {
     case FindingKind::Unreadable:
       return finding.line == 0 ? Words(word, language, {finding.value.c_str()})
