@@ -45,31 +45,28 @@ std::optional<std::set<std::wstring>> AllNamed(const std::vector<std::wstring>& 
 }
 
 /// Leaves what was found in these files and in their index files.
-void Keep(const std::set<std::wstring>& files, CheckedInstallation& checked) {
+void Keep(const std::set<std::wstring>& files, qv::CheckedInstallation& checked) {
   checked.files.assign(files.begin(), files.end());
-  std::erase_if(checked.findings, [&](const Finding& finding) {
-    const bool isIndex = finding.kind == FindingKind::IndexWithoutUse;
+  std::erase_if(checked.findings, [&](const qv::Finding& finding) {
+    const bool isIndex = finding.kind == qv::FindingKind::IndexWithoutUse;
     return files.count(finding.file.substr(0, finding.file.size() - (isIndex ? 1 : 0))) == 0;
   });
 }
 
 }  // namespace
 
-void Check(const Checked& checked, const std::vector<std::wstring>& names, qv::Files& files,
+void Check(const qv::InstallationToCheck& installation, const std::vector<std::wstring>& names,
            qv::Progress& progress, Outcome& outcome) {
-  auto result = CheckInstallation(checked, files, progress);
+  auto checked = qv::CheckInstallation(installation, progress);
   if (!names.empty()) {
-    const auto named = AllNamed(result.files, names, outcome);
+    const auto named = AllNamed(checked.files, names, outcome);
     if (!named) {
       return;
     }
-    Keep(*named, result);
+    Keep(*named, checked);
   }
-  outcome.checkedFiles = std::move(result.files);
-  outcome.findings = std::move(result.findings);
-  const bool isFaulty = std::any_of(outcome.findings.begin(), outcome.findings.end(),
-                                    [](const Finding& finding) { return finding.IsFault(); });
-  outcome.status = isFaulty ? 1 : 0;
+  outcome.checked = std::move(checked);
+  outcome.status = outcome.checked.IsFaulty() ? 1 : 0;
 }
 
 }  // namespace qvdisc

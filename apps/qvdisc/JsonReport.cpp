@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "apps/qvdisc/FindingWords.h"
 #include "apps/qvdisc/Reports.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
@@ -35,7 +36,7 @@ Json Spoken(const SpokenText& spoken) {
   return json;
 }
 
-Json Found(const Finding& finding) {
+Json Found(const qv::Finding& finding) {
   return {{"kind", KindName(finding.kind)}, {"fault", finding.IsFault()},
           {"file", Utf8(finding.file)},     {"place", Utf8(finding.place)},
           {"value", Utf8(finding.value)},   {"expected", Utf8(finding.expected)},
@@ -95,10 +96,10 @@ void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome)
     json["unsavedConfiguration"] = *outcome.unsavedConfiguration;
   }
   if (arguments.verb == Verb::Check) {
-    json["files"] = List(outcome.checkedFiles, [&](const std::wstring& file) {
-      return Json{{"file", Utf8(file)}, {"listed", outcome.IsListed(file)}};
+    json["files"] = List(outcome.checked.files, [&](const std::wstring& file) {
+      return Json{{"file", Utf8(file)}, {"listed", outcome.checked.IsListed(file)}};
     });
-    json["findings"] = List(outcome.findings, Found);
+    json["findings"] = List(outcome.checked.findings, Found);
   }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -8,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "apps/qvdisc/Finding.h"
 #include "apps/qvdisc/Words.h"
+#include "checks/InstallationCheck.h"
 #include "discriminator/DiscriminatorFile.h"
 #include "host/Text.h"
 #include "tools/XmlDocument.h"
@@ -47,15 +46,7 @@ struct Outcome {
   std::optional<std::string> unsaved;     ///< a discriminator that could not be saved, as payload
   std::optional<std::string> unsavedConfiguration;  ///< the text of its file
   std::vector<IndexEnd> indexes;
-  std::vector<std::wstring> checkedFiles;
-  std::vector<Finding> findings;
-
-  /// Whether nothing was found that makes the list leave the file out.
-  bool IsListed(const std::wstring& file) const {
-    return std::none_of(findings.begin(), findings.end(), [&](const Finding& finding) {
-      return finding.file == file && finding.LeavesOut();
-    });
-  }
+  qv::CheckedInstallation checked;  ///< what `check` found
 
   /// The call ends as refused, for one more reason.
   void Fail(Word reason, std::initializer_list<qv::FormatArgument> arguments = {}) {

@@ -12,6 +12,19 @@ namespace {
 
 using Loaded = qv::Configuration::Loaded;
 
+qv::ConfigurationState StateAfter(Loaded loaded) {
+  switch (loaded) {
+    case Loaded::Unreadable:
+      return qv::ConfigurationState::Unreadable;
+    case Loaded::Foreign:
+      return qv::ConfigurationState::Foreign;
+    case Loaded::FromFile:
+    case Loaded::New:
+      break;
+  }
+  return qv::ConfigurationState::Good;
+}
+
 /// The stems of the rows that a call names, or of all rows where it names none.
 std::vector<QVWideString> StemsOf(const std::vector<qv::STagDiscriminatorRow>& rows,
                                   const std::vector<int>& named) {
@@ -73,10 +86,17 @@ bool Session::LoadConfiguration() {
   return false;
 }
 
+qv::InstallationToCheck Session::ToCheck() const {
+  return {.directory = m_setup.CfgPath(),
+          .files = m_system.files,
+          .configuration = StateAfter(m_loaded),
+          .isEmbedded = m_configuration.IsEmbedded(),
+          .deviceGroups = m_configuration.DeviceGroups()};
+}
+
 void Session::Perform() {
   if (m_arguments.verb == Verb::Check) {
-    Check({m_setup.CfgPath(), m_configuration, m_loaded}, m_arguments.stems, m_system.files,
-          *m_view.NewProgress(), m_outcome);
+    Check(ToCheck(), m_arguments.stems, *m_view.NewProgress(), m_outcome);
   } else if (const auto rows = NamedRows(m_list->Rows(), m_arguments.stems, m_outcome)) {
     PerformOn(*rows);
   }

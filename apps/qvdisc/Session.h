@@ -42,6 +42,7 @@ class Session {
  private:
   bool LoadLanguage();
   bool LoadConfiguration();
+  qv::InstallationToCheck ToCheck() const;
   /// Does what the call asks for, with the rows that it names.
   void PerformOn(const std::vector<int>& rows);
   void Save();

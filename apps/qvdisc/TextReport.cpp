@@ -3,6 +3,7 @@
 #include <map>
 #include <vector>
 
+#include "apps/qvdisc/FindingWords.h"
 #include "apps/qvdisc/Reports.h"
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
@@ -174,18 +175,18 @@ void WriteIndexes(Writer& writer, const Outcome& outcome) {
 }
 
 void WriteFindings(Writer& writer, const Outcome& outcome) {
-  for (const std::wstring& file : outcome.checkedFiles) {
-    if (outcome.IsListed(file)) {
+  for (const std::wstring& file : outcome.checked.files) {
+    if (outcome.checked.IsListed(file)) {
       writer.Write(OneLine(writer.Said(Word::Listed, {file.c_str()})));
     }
   }
-  for (const Finding& finding : outcome.findings) {
+  for (const qv::Finding& finding : outcome.checked.findings) {
     writer.Write(OneLine(finding.file + L": " + Sentence(finding, outcome.language)));
   }
-  const auto files = static_cast<unsigned>(outcome.checkedFiles.size());
+  const auto files = static_cast<unsigned>(outcome.checked.files.size());
   const auto faults = static_cast<unsigned>(
-      std::count_if(outcome.findings.begin(), outcome.findings.end(),
-                    [](const Finding& finding) { return finding.IsFault(); }));
+      std::count_if(outcome.checked.findings.begin(), outcome.checked.findings.end(),
+                    [](const qv::Finding& finding) { return finding.IsFault(); }));
   writer.Write(faults == 0 ? writer.Said(Word::NothingFound, {files})
                            : writer.Said(Word::Found, {faults, files}));
 }

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "apps/qvdisc/Arguments.h"
-#include "apps/qvdisc/InstallationCheck.h"
 #include "apps/qvdisc/Outcome.h"
 #include "apps/qvdisc/StreamClipboard.h"
+#include "checks/InstallationCheck.h"
 #include "discriminator/DiscriminatorDirectory.h"
 #include "host/Host.h"
 #include "host/Progress.h"
@@ -52,7 +52,7 @@ void Remove(qv::DiscriminatorList& list, const std::vector<int>& rows, qv::Promp
             Outcome& outcome);
 
 /// Tells what is wrong with the installation, or with those of its files that `names` are of.
-void Check(const Checked& checked, const std::vector<std::wstring>& names, qv::Files& files,
+void Check(const qv::InstallationToCheck& installation, const std::vector<std::wstring>& names,
            qv::Progress& progress, Outcome& outcome);
 
 }  // namespace qvdisc

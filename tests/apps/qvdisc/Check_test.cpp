@@ -5,12 +5,15 @@
 #include <set>
 #include <tuple>
 
+#include "apps/qvdisc/FindingWords.h"
 #include "tests/apps/qvdisc/CommandLine.h"
 
 namespace qvdisc {
 namespace {
 
 using Json = nlohmann::json;
+using qv::Finding;
+using qv::FindingKind;
 using testing::ElementsAre;
 using testing::HasSubstr;
 

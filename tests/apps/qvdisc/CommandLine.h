@@ -10,7 +10,6 @@
 #include <variant>
 #include <vector>
 
-#include "apps/qvdisc/Finding.h"
 #include "apps/qvdisc/Run.h"
 #include "tests/support/TemporaryDirectory.h"
 

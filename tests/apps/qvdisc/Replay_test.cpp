@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <random>
 
+#include "apps/qvdisc/Words.h"
 #include "discriminator/FileNames.h"
 #include "editor/DiscriminatorForm.h"
 #include "hostkit/Configuration.h"

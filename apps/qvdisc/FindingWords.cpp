@@ -1,11 +1,15 @@
-#include "apps/qvdisc/Finding.h"
+#include "apps/qvdisc/FindingWords.h"
 
 #include <array>
 
+#include "apps/qvdisc/Words.h"
 #include "hostkit/EnumTable.h"
 
 namespace qvdisc {
 namespace {
+
+using qv::Finding;
+using qv::FindingKind;
 
 struct KindRow {
   FindingKind key;

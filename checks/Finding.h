@@ -1,10 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
-#include "apps/qvdisc/Words.h"
-
-namespace qvdisc {
+namespace qv {
 
 /// What a check can find.
 enum class FindingKind {
@@ -53,10 +52,6 @@ struct Finding {
   friend bool operator==(const Finding&, const Finding&) = default;
 };
 
-/// What JSON calls this kind of finding.
-const char* KindName(FindingKind kind);
+using Findings = std::vector<Finding>;
 
-/// The finding as a sentence, without its file.
-std::wstring Sentence(const Finding& finding, qv::Language language);
-
-}  // namespace qvdisc
+}  // namespace qv
