@@ -55,8 +55,8 @@ struct Arguments {
 
 /// Reads the command line, of which the first is the program's name. A call that can't be carried
 /// out gives the status 2 and the reason in words.
-std::variant<Arguments, commandline::EarlyEnd> ReadArguments(int count,
-                                                             const char* const* arguments);
+[[nodiscard]] std::variant<Arguments, commandline::EarlyEnd> ReadArguments(
+    int count, const char* const* arguments);
 
 /// The line that the program puts on standard error for `reason`.
 std::string ErrorLine(std::string_view reason);

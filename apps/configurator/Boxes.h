@@ -14,7 +14,8 @@ void ShowProblem(const QString& problem, const Workspace& workspace, QWidget* pa
 
 /// Asks the user, in a box over `parent`, what is to become of unsaved changes: to save or to
 /// discard them, or to go back, which is `QMessageBox::Cancel`.
-QMessageBox::StandardButton AskAboutChanges(const QString& question, const Workspace& workspace,
-                                            QWidget* parent);
+[[nodiscard]] QMessageBox::StandardButton AskAboutChanges(const QString& question,
+                                                          const Workspace& workspace,
+                                                          QWidget* parent);
 
 }  // namespace configurator

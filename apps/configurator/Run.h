@@ -6,6 +6,6 @@ namespace configurator {
 
 /// Runs the program as the command line asks, and returns its exit status. There is a QApplication
 /// already.
-int Run(const Arguments& arguments);
+[[nodiscard]] int Run(const Arguments& arguments);
 
 }  // namespace configurator

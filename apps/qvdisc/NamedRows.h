@@ -12,7 +12,8 @@ namespace qvdisc {
 /// The rows that a call names, in ascending order and each once; a name is a stem, or the id or the
 /// name of a discriminator alone. Nothing, and `outcome` tells why, if one of the names is of no
 /// row or of several.
-std::optional<std::vector<int>> NamedRows(const std::vector<qv::STagDiscriminatorRow>& rows,
-                                          const std::vector<std::wstring>& names, Outcome& outcome);
+[[nodiscard]] std::optional<std::vector<int>> NamedRows(
+    const std::vector<qv::STagDiscriminatorRow>& rows, const std::vector<std::wstring>& names,
+    Outcome& outcome);
 
 }  // namespace qvdisc

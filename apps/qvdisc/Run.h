@@ -8,6 +8,6 @@ namespace qvdisc {
 
 /// Does what the call asks for and returns the exit status: 0 done, 1 refused or something found.
 /// What was done goes to the output as text or JSON, the reasons of a refusal to the error stream.
-int Run(const Arguments& arguments, const Terminal& terminal, const System& system);
+[[nodiscard]] int Run(const Arguments& arguments, const Terminal& terminal, const System& system);
 
 }  // namespace qvdisc

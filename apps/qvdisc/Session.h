@@ -40,8 +40,8 @@ class Session {
   void Close();
 
  private:
-  bool LoadLanguage();
-  bool LoadConfiguration();
+  [[nodiscard]] bool LoadLanguage();
+  [[nodiscard]] bool LoadConfiguration();
   qv::InstallationToCheck ToCheck() const;
   /// Does what the call asks for, with the rows that it names.
   void PerformOn(const std::vector<int>& rows);
