@@ -13,7 +13,6 @@
 
 #include "apps/configurator/MainWindow.h"
 #include "apps/configurator/StatusLine.h"
-#include "host/Text.h"
 #include "library/QVDiscriminator.h"
 #include "tests/apps/ExampleCopy.h"
 #include "tests/support/DialogDriver.h"
@@ -74,7 +73,7 @@ class MainWindowTest : public testing::Test {
           auto* rows = qv::TopWindow()->findChild<QAbstractItemView*>();
           rows->selectionModel()->select(rows->model()->index(0, 0),
                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
-          qv::AnswerNextBox(Number(Text::RemoveDiscriminatorsQuestion), QMessageBox::Yes);
+          qv::AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
           qv::Click(removeButton);
           leave();
         });

@@ -5,7 +5,6 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
@@ -14,7 +13,6 @@
 #include <memory>
 
 #include "apps/configurator/MainWindow.h"
-#include "host/Text.h"
 #include "tests/apps/ExampleCopy.h"
 #include "tests/support/DialogDriver.h"
 #include "tools/XmlDocument.h"
@@ -143,7 +141,7 @@ TEST_P(ManagerFlow, AddChangeRenameSwitchAndCancel) {
 
     qv::WhenNextWindow([] {
       TypeInto(nameEdit, "dear HOURS");
-      qv::AnswerNextBox(Number(Text::DiscriminatorNameTaken), QMessageBox::Ok);
+      qv::AnswerNextBox(Text::DiscriminatorNameTaken, QMessageBox::Ok);
       qv::Click(ok);
       QTest::keyClick(qv::TopWindow(), Qt::Key_Escape);
     });

@@ -35,7 +35,7 @@ TEST(FakeHost, TextsShowTheirNumber) {
   FakeHost fake;
   EXPECT_EQ(fake.Services().loadString.Load(Text::DiscriminatorListTitle), L"[32367]");
   EXPECT_FALSE(fake.loadString.Has(60000));
-  fake.loadString.additions.insert(60000);
+  fake.loadString.additions.insert(Text::ReadingDiscriminators);
   EXPECT_TRUE(fake.loadString.Has(60000));
 }
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "hostkit/LanguageFile.h"
+#include "tests/hostkit/TextHeader.h"
 #include "tests/support/TemporaryDirectory.h"
 #include "tools/Utf8.h"
 
@@ -18,53 +19,6 @@ namespace qv {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path ProjectFile(const char* name) { return fs::path(QV_PROJECT_DIR) / name; }
-
-/// The placeholders of a text, in order, as in "%d".
-std::vector<std::string> Placeholders(const std::string& text) {
-  static const std::regex placeholder("%[0-9]*[sduX%]");
-  return {std::sregex_token_iterator(text.begin(), text.end(), placeholder),
-          std::sregex_token_iterator()};
-}
-
-/// An enumerator of `Text` as the header writes it.
-struct Enumerator {
-  std::string name;
-  std::string comment;
-};
-
-/// The lines between the braces of `enum class Text`.
-std::vector<std::string> EnumLines() {
-  const std::string header = FileBytes(ProjectFile("host/Text.h"));
-  const std::size_t head = header.find("enum class Text");
-  const std::size_t begin = header.find("{\n", head) + 2;
-  const std::size_t end = header.find("\n};", begin);
-  std::istringstream body(header.substr(begin, end - begin));
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(body, line);) {
-    lines.push_back(line);
-  }
-  return lines;
-}
-
-/// The enumerators by number. A line that is neither an enumerator with its number and comment nor
-/// a heading fails the test, so that none is passed over.
-std::map<unsigned, Enumerator> ReadEnum() {
-  static const std::regex enumerator(R"(\s*(\w+)\s*=\s*(\d+),\s*///<\s*(\S.*))");
-  static const std::regex heading(R"(\s*(//.*)?)");
-  std::map<unsigned, Enumerator> found;
-  for (const std::string& line : EnumLines()) {
-    std::smatch parts;
-    if (std::regex_match(line, parts, enumerator)) {
-      const auto number = static_cast<unsigned>(std::stoul(parts[2]));
-      EXPECT_TRUE(found.insert({number, {parts[1], parts[3]}}).second) << "twice: " << line;
-    } else {
-      EXPECT_TRUE(std::regex_match(line, heading)) << "not understood: " << line;
-    }
-  }
-  return found;
-}
 
 /// The lines of a language file that aren't empty and no comment.
 std::vector<std::string> EntryLines(const std::string& content) {
@@ -76,15 +30,6 @@ std::vector<std::string> EntryLines(const std::string& content) {
     }
   }
   return lines;
-}
-
-TEST(TextNumbers, HeaderIsReadWhole) {
-  const auto texts = ReadEnum();
-  EXPECT_GT(texts.size(), 100U);
-  EXPECT_TRUE(texts.contains(Number(Text::Name)));
-  EXPECT_TRUE(texts.contains(Number(Text::MessageOk)));
-  EXPECT_EQ(Placeholders(texts.at(Number(Text::ReadingProgress)).comment),
-            (std::vector<std::string>{"%d", "%d"}));
 }
 
 /// A language by the name of its file.

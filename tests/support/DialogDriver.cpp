@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+
+#include "host/QVLoadString.h"
+#include "toolkit/Strings.h"
 
 namespace qv {
 namespace {
@@ -66,16 +68,20 @@ int Drive(const std::function<int()>& run, const std::function<void()>& script) 
 
 void WhenNextWindow(std::function<void()> script) { WatchForNextWindow(std::move(script)); }
 
-void AnswerNextBox(unsigned textNumber, int standardButton) {
-  WhenNextWindow([=] {
-    auto* box = qobject_cast<QMessageBox*>(TopWindow());
-    ASSERT_TRUE(box) << "a message box was expected";
-    EXPECT_EQ(box->property("textNumber").toUInt(), textNumber);
-    auto* button = box->button(static_cast<QMessageBox::StandardButton>(standardButton));
-    ASSERT_TRUE(button);
-    button->click();
-  });
+void AnswerBox(Text text, QMessageBox::StandardButton button) {
+  auto* box = qobject_cast<QMessageBox*>(TopWindow());
+  ASSERT_TRUE(box) << "a message box was expected";
+  EXPECT_EQ(box->property("textNumber").toUInt(), Number(text));
+  auto* found = box->button(button);
+  ASSERT_TRUE(found);
+  found->click();
 }
+
+void AnswerNextBox(Text text, QMessageBox::StandardButton button) {
+  WhenNextWindow([=] { AnswerBox(text, button); });
+}
+
+QString TitleOf(Text text) { return ToQString(QVLoadString::Get()->Load(text)); }
 
 QWidget* TopWindow() { return QApplication::activeModalWidget(); }
 

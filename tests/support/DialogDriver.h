@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QMessageBox>
 #include <QString>
 #include <QWidget>
 #include <functional>
+
+#include "host/Text.h"
 
 namespace qv {
 
@@ -15,9 +18,14 @@ int Drive(const std::function<int()>& run, const std::function<void()>& script);
 /// that the next click opens, since that click returns only when the window is closed again.
 void WhenNextWindow(std::function<void()> script);
 
-/// Presses the button with this role in the message box that the next click opens, after checking
-/// the number of its text.
-void AnswerNextBox(unsigned textNumber, int standardButton);
+/// Presses a button of the message box on top, after checking that it says this text.
+void AnswerBox(Text text, QMessageBox::StandardButton button);
+
+/// Does that as soon as a box comes up that isn't on top now: for one that the next click opens.
+void AnswerNextBox(Text text, QMessageBox::StandardButton button);
+
+/// How the installed host words a text, in a title or wherever else it is shown.
+QString TitleOf(Text text);
 
 /// The modal window that is on top, or null.
 QWidget* TopWindow();

@@ -36,10 +36,10 @@ class RecordingGuids : public QVVornelGuids {
 class NumberTexts : public QVLoadString {
  public:
   /// The additions that the host's language has.
-  std::set<unsigned> additions;
+  std::set<Text> additions;
 
   QVWideString& operator()(unsigned id, QVWideString& text) const override;
-  bool Has(unsigned id) const override { return additions.contains(id); }
+  bool Has(unsigned id) const override { return additions.contains(static_cast<Text>(id)); }
 
   using QVLoadString::Load;
 };

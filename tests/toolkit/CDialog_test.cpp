@@ -208,10 +208,10 @@ TEST_F(CDialogTest, TextsComeByNumberAndImagesFromTheHostsDirectory) {
   ASSERT_TRUE(picture.save(images.filePath("OK-16.png")));
   host->setup.imagePath = ToWide(images.path() + QLatin1Char('/'));
   Run(dialog, [] {
-    EXPECT_EQ(TopWindow()->windowTitle(), "[32370]");
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(label))->text(), "[355]");
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::Discriminators));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(label))->text(), TitleOf(Text::Name));
     EXPECT_EQ(qobject_cast<QLabel*>(TopControl(label))->textFormat(), Qt::PlainText);
-    EXPECT_EQ(TopControl(edit)->accessibleName(), "[355]");
+    EXPECT_EQ(TopControl(edit)->accessibleName(), TitleOf(Text::Name));
     EXPECT_FALSE(qobject_cast<CImageButton*>(TopControl(IDOK))->icon().isNull());
     Click(IDOK);
   });

@@ -105,7 +105,7 @@ TEST_F(EditingDialogTest, ARefusalIsToldAndTheFocusStays) {
   editor.initial.end = {SaveOutcome::Refused, Refused(Text::NoHourType)};
   RunWith(editor, [&] {
     editor.Control(expressionEdit)->setFocus();
-    AnswerNextBox(Number(Text::NoHourType), QMessageBox::Ok);
+    AnswerNextBox(Text::NoHourType, QMessageBox::Ok);
     QTest::keyClick(editor.Control(expressionEdit), Qt::Key_Return);
     EXPECT_EQ(editor.focusWidget(), editor.Control(expressionEdit));
     Click(IDCANCEL);
@@ -122,7 +122,7 @@ TEST_F(EditingDialogTest, ARefusalOfAFieldGivesItTheFocus) {
       auto* edit = qobject_cast<QLineEdit*>(editor.Control(expressionEdit));
       editor.Control(nameEdit)->setFocus();
       edit->setText("a + ");
-      AnswerNextBox(Number(Text::ExpressionInvalid), QMessageBox::Ok);
+      AnswerNextBox(Text::ExpressionInvalid, QMessageBox::Ok);
       Click(IDOK);
       EXPECT_EQ(editor.focusWidget(), edit);
       EXPECT_EQ(edit->selectedText(), selectsAll ? "a + " : "");

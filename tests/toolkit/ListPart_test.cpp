@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "tests/support/FakeHost.h"
+#include "toolkit/Texts.h"
 
 namespace qv {
 namespace {
@@ -84,11 +85,11 @@ TEST_F(ListPartTest, ModifyNeedsOneRowAndRemoveAtLeastOne) {
 }
 
 TEST_F(ListPartTest, HeadingsAndButtonsHaveTheHostsTexts) {
-  EXPECT_EQ(view.headerItem()->text(0), "[355]");
-  EXPECT_EQ(view.headerItem()->text(1), "[284]");
-  EXPECT_EQ(add.text(), "[415]");
-  EXPECT_EQ(modify.text(), "[416]");
-  EXPECT_EQ(remove.text(), "[420]");
+  EXPECT_EQ(view.headerItem()->text(0), HostText(host.loadString, Text::Name));
+  EXPECT_EQ(view.headerItem()->text(1), HostText(host.loadString, Text::Description));
+  EXPECT_EQ(add.text(), HostText(host.loadString, Text::Add));
+  EXPECT_EQ(modify.text(), HostText(host.loadString, Text::Modify));
+  EXPECT_EQ(remove.text(), HostText(host.loadString, Text::Remove));
 }
 
 TEST_F(ListPartTest, ShowReplacesTheRowsAndSelectsOneOrNone) {

@@ -8,6 +8,7 @@
 
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FakeHost.h"
+#include "toolkit/Texts.h"
 
 namespace qv {
 namespace {
@@ -16,10 +17,10 @@ namespace {
 class Wordings : public NumberTexts {
  public:
   QVWideString& operator()(unsigned id, QVWideString& text) const override {
-    const auto found = wordings.find(id);
+    const auto found = wordings.find(static_cast<Text>(id));
     return found == wordings.end() ? NumberTexts::operator()(id, text) : text = found->second;
   }
-  std::map<unsigned, const wchar_t*> wordings;
+  std::map<Text, const wchar_t*> wordings;
 };
 
 class MessageBoxesTest : public testing::Test {
@@ -41,15 +42,15 @@ class MessageBoxesTest : public testing::Test {
 };
 
 TEST_F(MessageBoxesTest, ABoxShowsItsTextAndCarriesItsNumber) {
-  ShowAnd(Text::DiscriminatorNameMissing, {}, [] {
-    EXPECT_EQ(Box()->text(), "[32363]");
-    EXPECT_EQ(Box()->property("textNumber").toUInt(), 32363U);
+  ShowAnd(Text::DiscriminatorNameMissing, {}, [this] {
+    EXPECT_EQ(Box()->text(), HostText(texts, Text::DiscriminatorNameMissing));
+    EXPECT_EQ(Box()->property("textNumber").toUInt(), Number(Text::DiscriminatorNameMissing));
     QTest::keyClick(Box(), Qt::Key_Return);
   });
 }
 
 TEST_F(MessageBoxesTest, PlaceholdersAreFilledIn) {
-  texts.wordings[32363] = L"%d of %s";
+  texts.wordings[Text::DiscriminatorNameMissing] = L"%d of %s";
   ShowAnd(Text::DiscriminatorNameMissing, {3, L"many"}, [] {
     EXPECT_EQ(Box()->text(), "3 of many");
     Box()->close();
@@ -57,7 +58,7 @@ TEST_F(MessageBoxesTest, PlaceholdersAreFilledIn) {
 }
 
 TEST_F(MessageBoxesTest, WithoutArgumentsAPerCentSignStandsForItself) {
-  texts.wordings[32363] = L"100 %s <b>";
+  texts.wordings[Text::DiscriminatorNameMissing] = L"100 %s <b>";
   ShowAnd(Text::DiscriminatorNameMissing, {}, [] {
     EXPECT_EQ(Box()->text(), "100 %s <b>");
     EXPECT_EQ(Box()->textFormat(), Qt::PlainText);
@@ -73,14 +74,14 @@ TEST_F(MessageBoxesTest, OnlyYesIsYes) {
 }
 
 TEST_F(MessageBoxesTest, ButtonsTakeTheHostsCaptionsIfItHasThem) {
-  AskAnd([] {
-    EXPECT_NE(Box()->button(QMessageBox::Yes)->text(), "[60001]");
+  AskAnd([this] {
+    EXPECT_NE(Box()->button(QMessageBox::Yes)->text(), HostText(texts, Text::MessageYes));
     Box()->close();
   });
-  texts.additions = {60001, 60002};
-  AskAnd([] {
-    EXPECT_EQ(Box()->button(QMessageBox::Yes)->text(), "[60001]");
-    EXPECT_EQ(Box()->button(QMessageBox::No)->text(), "[60002]");
+  texts.additions = {Text::MessageYes, Text::MessageNo};
+  AskAnd([this] {
+    EXPECT_EQ(Box()->button(QMessageBox::Yes)->text(), HostText(texts, Text::MessageYes));
+    EXPECT_EQ(Box()->button(QMessageBox::No)->text(), HostText(texts, Text::MessageNo));
     Box()->close();
   });
 }

@@ -17,7 +17,7 @@ namespace {
 
 class ProgressWindowTest : public testing::Test {
  protected:
-  ProgressWindowTest() { texts.additions = {60000, 60004}; }
+  ProgressWindowTest() { texts.additions = {Text::ReadingDiscriminators, Text::ReadingProgress}; }
 
   static ProgressDialog* Shown() { return qobject_cast<ProgressDialog*>(TopWindow()); }
 

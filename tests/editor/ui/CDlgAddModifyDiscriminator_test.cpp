@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QMessageBox>
 #include <QWheelEvent>
 
 #include "tests/editor/ui/EditorFixture.h"
@@ -12,13 +11,13 @@ namespace {
 
 TEST_F(Editor, ANewDiscriminatorOpensBlank) {
   Add([] {
-    EXPECT_EQ(TopWindow()->windowTitle(), "[32359]");
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::AddDiscriminatorTitle));
     EXPECT_EQ(Edit(nameEdit)->text(), "");
     EXPECT_EQ(Edit(descriptionEdit)->text(), "");
     EXPECT_TRUE(IsTicked());
     EXPECT_EQ(Combo()->currentIndex(), 0);
-    EXPECT_EQ(Combo()->itemText(0), "[461]");
-    EXPECT_EQ(Combo()->itemText(1), "[36424]");
+    EXPECT_EQ(Combo()->itemText(0), TitleOf(Text::TimeSlots));
+    EXPECT_EQ(Combo()->itemText(1), TitleOf(Text::Conditions));
     EXPECT_TRUE(Edit(nameEdit)->hasFocus());
     ExpectSlots();
     Click(IDCANCEL);
@@ -28,7 +27,7 @@ TEST_F(Editor, ANewDiscriminatorOpensBlank) {
 
 TEST_F(Editor, AnExistingOneShowsWhatItHolds) {
   Modify(AddFile("1.old.xdct", oldFile), [] {
-    EXPECT_EQ(TopWindow()->windowTitle(), "[32360]");
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifyDiscriminatorTitle));
     EXPECT_EQ(Edit(nameEdit)->text(), "old");
     EXPECT_EQ(Edit(descriptionEdit)->text(), "about");
     EXPECT_FALSE(IsTicked());
@@ -38,21 +37,24 @@ TEST_F(Editor, AnExistingOneShowsWhatItHolds) {
 
 TEST_F(Editor, LabelsNameTheirControls) {
   Add([] {
-    for (const auto& [id, name] :
-         {std::pair(nameEdit, "[355]"), std::pair(descriptionEdit, "[284]"),
-          std::pair(typeCombo, "[544]"), std::pair(setZeroCheck, "")}) {
-      EXPECT_EQ(TopControl(id)->accessibleName(), name) << id;
+    const std::pair<int, Text> labels[] = {{nameEdit, Text::Name},
+                                           {descriptionEdit, Text::Description},
+                                           {typeCombo, Text::DiscriminatorType}};
+    for (const auto& [id, text] : labels) {
+      EXPECT_EQ(TopControl(id)->accessibleName(), TitleOf(text)) << id;
     }
-    EXPECT_EQ(qobject_cast<QAbstractButton*>(TopControl(setZeroCheck))->text(), "[35235]");
+    EXPECT_EQ(TopControl(setZeroCheck)->accessibleName(), "");
+    EXPECT_EQ(qobject_cast<QAbstractButton*>(TopControl(setZeroCheck))->text(),
+              TitleOf(Text::SetZeroOutsideSlot));
     Click(IDCANCEL);
   });
 }
 
 TEST_F(Editor, LinksThatCannotBeOpenedYetSayWhy) {
-  host->loadString.additions = {60005};
+  host->loadString.additions = {Text::LinkNotReady};
   Add([] {
     EXPECT_FALSE(TopControl(calendarLink)->isEnabled());
-    EXPECT_EQ(TopControl(calendarLink)->toolTip(), "<p>[60005]</p>");
+    EXPECT_EQ(TopControl(calendarLink)->toolTip(), "<p>" + TitleOf(Text::LinkNotReady) + "</p>");
     Click(IDCANCEL);
   });
 }
@@ -89,17 +91,17 @@ TEST_F(Editor, TypingANameAndReturnWritesTheFile) {
 TEST_F(Editor, ARefusalIsToldAndTheDialogStaysWithItsState) {
   Add([] {
     TopControl(descriptionEdit)->setFocus();
-    AnswerNextBox(32363, QMessageBox::Ok);
+    AnswerNextBox(Text::DiscriminatorNameMissing, QMessageBox::Ok);
     QTest::keyClick(TopControl(descriptionEdit), Qt::Key_Return);
     EXPECT_EQ(TopWindow()->focusWidget(), TopControl(descriptionEdit));
     Type(nameEdit, "a.b");
-    AnswerNextBox(32764, QMessageBox::Ok);
+    AnswerNextBox(Text::NameNotAllowed, QMessageBox::Ok);
     Click(IDOK);
     EXPECT_EQ(Edit(nameEdit)->text(), "a.b");
     Edit(nameEdit)->clear();
     Type(nameEdit, "ab");
     Type(descriptionEdit, "\"");
-    AnswerNextBox(32366, QMessageBox::Ok);
+    AnswerNextBox(Text::DescriptionWithQuote, QMessageBox::Ok);
     Click(IDOK);
     EXPECT_TRUE(TopWindow()->isVisible());
     Click(IDCANCEL);
@@ -111,7 +113,7 @@ TEST_F(Editor, ATakenNameIsRefused) {
   AddFile("1.old.xdct", oldFile);
   Add([] {
     Type(nameEdit, "OLD");
-    AnswerNextBox(32365, QMessageBox::Ok);
+    AnswerNextBox(Text::DiscriminatorNameTaken, QMessageBox::Ok);
     Click(IDOK);
     Click(IDCANCEL);
   });
@@ -124,7 +126,7 @@ TEST_F(Editor, AFailedSaveIsToldAndCanBeTriedAgain) {
   ASSERT_TRUE(QDir(directory.path()).mkdir("1.OLD.xdct"));
   const int result = Modify(path, [this] {
     Edit(nameEdit)->setText("OLD");
-    AnswerNextBox(32362, QMessageBox::Ok);
+    AnswerNextBox(Text::DiscriminatorNotSaved, QMessageBox::Ok);
     Click(IDOK);
     EXPECT_TRUE(Files().isEmpty());
     EXPECT_TRUE(QDir(directory.path()).rmdir("1.OLD.xdct"));

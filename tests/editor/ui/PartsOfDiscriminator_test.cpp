@@ -1,5 +1,4 @@
 // The dialogs of a discriminator's parts, opened from its editor, down to the file.
-#include <QMessageBox>
 
 #include "tests/editor/ui/EditorFixture.h"
 
@@ -13,7 +12,7 @@ constexpr int addHourType = 5348;
 /// Adds an hour type in the dialog that the next click opens, and ends that dialog by `end`.
 void AddHourTypeNext(int end) {
   WhenNextWindow([=] {
-    EXPECT_EQ(TopWindow()->windowTitle(), "[478]");
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::HourTypeListTitle));
     WhenNextWindow([] {
       QTest::keyClicks(TopControl(hourTypeName), "peak");
       Click(IDOK);
@@ -118,7 +117,7 @@ void MakeDayType(int daysEnd, int dayEnd, int slotEnd, int hourEnd) {
       });
       Click(5348);
       if (dayEnd == IDOK) {
-        AnswerNextBox(471, QMessageBox::Yes);
+        AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
       }
       Click(dayEnd);
     });

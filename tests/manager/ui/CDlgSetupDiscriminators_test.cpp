@@ -45,14 +45,14 @@ TEST_F(SetupDiscriminators, RowsShowNameDescriptionAndPictureSortedByName) {
 
 TEST_F(SetupDiscriminators, TextsComeByNumber) {
   Run([] {
-    EXPECT_EQ(TopWindow()->windowTitle(), "[32367]");
-    EXPECT_EQ(TopControl(addButton)->accessibleName(), "[415]");
-    EXPECT_EQ(TopControl(modifyButton)->accessibleName(), "[416]");
-    EXPECT_EQ(TopControl(removeButton)->accessibleName(), "[420]");
-    EXPECT_EQ(TopControl(exitButton)->accessibleName(), "[419]");
-    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(box))->title(), "[32370]");
-    EXPECT_EQ(List()->headerItem()->text(0), "[355]");
-    EXPECT_EQ(List()->headerItem()->text(1), "[284]");
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::DiscriminatorListTitle));
+    EXPECT_EQ(TopControl(addButton)->accessibleName(), TitleOf(Text::Add));
+    EXPECT_EQ(TopControl(modifyButton)->accessibleName(), TitleOf(Text::Modify));
+    EXPECT_EQ(TopControl(removeButton)->accessibleName(), TitleOf(Text::Remove));
+    EXPECT_EQ(TopControl(exitButton)->accessibleName(), TitleOf(Text::Exit));
+    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(box))->title(), TitleOf(Text::Discriminators));
+    EXPECT_EQ(List()->headerItem()->text(0), TitleOf(Text::Name));
+    EXPECT_EQ(List()->headerItem()->text(1), TitleOf(Text::Description));
     Click(exitButton);
   });
 }

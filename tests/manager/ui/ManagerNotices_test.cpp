@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QMessageBox>
 #include <utility>
 #include <vector>
 
@@ -32,7 +31,7 @@ TEST_F(SetupDiscriminators, ANoticeFindsOnTheScreenWhatTheListHolds) {
     Click(addButton);
     ClickRow(0);
     ClickRow(1, Qt::ShiftModifier);
-    AnswerNextBox(32368, QMessageBox::Yes);
+    AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
     Click(removeButton);
     Click(exitButton);
   });

@@ -3,7 +3,6 @@
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 #include <map>
@@ -183,14 +182,14 @@ TEST_F(SetupDiscriminators, RemovingAsksOnceAndSelectsTheRowThatMovedUp) {
   }
   EXPECT_EQ(Run([] {
               ClickRow(1);
-              AnswerNextBox(32368, QMessageBox::Yes);
+              AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
               Click(removeButton);
               EXPECT_EQ(Names(), QStringList({"alpha", "gamma"}));
               EXPECT_TRUE(List()->topLevelItem(1)->isSelected());
               ExpectButtons(true, true, true);
               ClickRow(0);
               QTest::keyClick(List(), Qt::Key_Down, Qt::ShiftModifier);
-              AnswerNextBox(32368, QMessageBox::Yes);
+              AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
               QTest::keyClick(List(), Qt::Key_Delete, Qt::ControlModifier);
               EXPECT_TRUE(Names().isEmpty());
               ExpectButtons(true, false, false);
@@ -206,7 +205,7 @@ TEST_F(SetupDiscriminators, AnsweringNoKeepsRowsAndSelection) {
   AddFile("2", "beta", "");
   EXPECT_EQ(Run([] {
               ClickRow(1);
-              AnswerNextBox(32368, QMessageBox::No);
+              AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::No);
               Click(removeButton);
               EXPECT_EQ(Names().size(), 2);
               EXPECT_TRUE(List()->topLevelItem(1)->isSelected());
@@ -225,8 +224,8 @@ TEST_F(SetupDiscriminators, AFileThatCannotBeDeletedStopsTheRemovalAndStaysSelec
               ClickRow(2, Qt::ShiftModifier);
               // The question and the message come one after the other.
               WhenNextWindow([] {
-                qobject_cast<QMessageBox*>(TopWindow())->button(QMessageBox::Yes)->click();
-                AnswerNextBox(32369, QMessageBox::Ok);
+                AnswerBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
+                AnswerNextBox(Text::DiscriminatorFileNotDeleted, QMessageBox::Ok);
               });
               Click(removeButton);
               EXPECT_EQ(Names(), QStringList({"beta", "gamma"}));
@@ -245,8 +244,8 @@ TEST_F(SetupDiscriminators, ARemovalThatStoppedLeavesTheButtonsAsTheyWere) {
     ClickRow(1, Qt::ShiftModifier);
     EXPECT_FALSE(TopControl(modifyButton)->isEnabled());
     WhenNextWindow([] {
-      qobject_cast<QMessageBox*>(TopWindow())->button(QMessageBox::Yes)->click();
-      AnswerNextBox(32369, QMessageBox::Ok);
+      AnswerBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
+      AnswerNextBox(Text::DiscriminatorFileNotDeleted, QMessageBox::Ok);
     });
     Click(removeButton);
     EXPECT_EQ(List()->selectedItems().size(), 1);
@@ -312,9 +311,9 @@ TEST_F(SetupDiscriminators, TheMenuCopiesAndPastes) {
   AddFile("1", "alpha", "a");
   Run([this] {
     ClickRow(0);
-    ChooseInMenu(List()->viewport(), "[732]\tCtrl+C");
+    ChooseInMenu(List()->viewport(), TitleOf(Text::Copy) + "\tCtrl+C");
     EXPECT_TRUE(host->clipboard.text.has_value());
-    ChooseInMenu(List()->viewport(), "[742]\tCtrl+V");
+    ChooseInMenu(List()->viewport(), TitleOf(Text::Paste) + "\tCtrl+V");
     EXPECT_EQ(Names(), QStringList({"alpha", "alpha_1"}));
     Click(exitButton);
   });
@@ -369,11 +368,12 @@ TEST_F(SetupDiscriminators, TheMenuOffersCopyAndPasteAsFarAsTheyCanBeDone) {
   Run([this] {
     EXPECT_EQ(MenuAt(List()->viewport()), QStringList());
     ClickRow(0);
-    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({"[732]\tCtrl+C"}));
+    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({TitleOf(Text::Copy) + "\tCtrl+C"}));
     host->clipboard.text = "<discriminatorClipboard/>";
-    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({"[732]\tCtrl+C", "[742]\tCtrl+V"}));
+    EXPECT_EQ(MenuAt(List()->viewport()),
+              QStringList({TitleOf(Text::Copy) + "\tCtrl+C", TitleOf(Text::Paste) + "\tCtrl+V"}));
     List()->clearSelection();
-    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({"[742]\tCtrl+V"}));
+    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({TitleOf(Text::Paste) + "\tCtrl+V"}));
     host->clipboard.text = "<main/>";
     EXPECT_EQ(MenuAt(List()->viewport()), QStringList());
     Click(exitButton);

@@ -38,15 +38,15 @@ class DayTypeEditor : public DayTypesFixture {
 
 TEST_F(DayTypeEditor, ShowsNameSlotsAndDial) {
   const int result = Run(Day(L"work"), [] {
-    EXPECT_EQ(TopWindow()->windowTitle(), "[460]");
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifyDayTypeTitle));
     EXPECT_EQ(Edit(dayName)->text(), "work");
     EXPECT_EQ(Rows(), QStringList({"peak 00:00-12:00", "valley 12:00-24:00"}));
     EXPECT_EQ(DialAt(0.25, 0.45), QColor(Qt::red));
     EXPECT_EQ(DialAt(0.75, 0.45), QColor(Qt::blue));
     EXPECT_FALSE(TopControl(modifyButton)->isEnabled());
-    EXPECT_EQ(List()->headerItem()->text(1), "[462]");
-    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(gridBox))->title(), "[339]");
-    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(5300))->title(), "[461]");
+    EXPECT_EQ(List()->headerItem()->text(1), TitleOf(Text::From));
+    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(gridBox))->title(), TitleOf(Text::Diagram));
+    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(5300))->title(), TitleOf(Text::TimeSlots));
     Click(IDOK);
   });
   EXPECT_EQ(result, IDOK);
@@ -72,7 +72,7 @@ TEST_F(DayTypeEditor, SlotsAreAddedChangedAndRemoved) {
     QTest::keyClick(List(), Qt::Key_Delete);
     EXPECT_EQ(Rows(), QStringList("peak 06:00-23:00"));
     EXPECT_EQ(List()->SelectedRows(), std::vector<int>{0});
-    AnswerNextBox(471, QMessageBox::Yes);
+    AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
     Click(IDOK);
   });
   EXPECT_TRUE(modified);
@@ -99,19 +99,16 @@ TEST_F(DayTypeEditor, FaultsAreToldBeforeTheWindowShowsAndGapsOnlyAtOk) {
   CDlgAddModifyDayType editor(nullptr, &Day(L"work"), days.get(), hours.get());
   Drive([&] { return editor.DoModal(); },
         [&] {
-          auto* box = qobject_cast<QMessageBox*>(TopWindow());
-          ASSERT_TRUE(box);
-          EXPECT_EQ(box->property("textNumber").toUInt(), 470U);
           EXPECT_FALSE(editor.isVisible());
           WhenNextWindow([] { Click(IDCANCEL); });
-          box->button(QMessageBox::Ok)->click();
+          AnswerBox(Text::SlotsOverlap, QMessageBox::Ok);
         });
   EXPECT_FALSE(editor.m_modified);
   Run(Day(L"feast"), [] {
     EXPECT_TRUE(Rows().isEmpty());
-    AnswerNextBox(471, QMessageBox::No);
+    AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::No);
     Click(IDOK);
-    AnswerNextBox(471, QMessageBox::Yes);
+    AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
     Click(IDOK);
   });
   EXPECT_FALSE(modified);
@@ -144,7 +141,7 @@ TEST_F(DayTypeEditor, AColourIsChosenForSwatchAndDial) {
     });
     Click(daySwatch);
     EXPECT_EQ(DialAt(0.25, 0.5), QColor(1, 2, 3));
-    AnswerNextBox(471, QMessageBox::Yes);
+    AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
     Click(IDOK);
   });
   EXPECT_EQ(Day(L"feast").Value(L"color"), L"030201");
@@ -154,11 +151,11 @@ TEST_F(DayTypeEditor, AColourIsChosenForSwatchAndDial) {
 TEST_F(DayTypeEditor, ARefusedNameStaysInTheEditor) {
   Run(Day(L"work"), [] {
     Type(dayName, "feast");
-    AnswerNextBox(466, QMessageBox::Ok);
+    AnswerNextBox(Text::TypeNameTaken, QMessageBox::Ok);
     Click(IDOK);
     Type(dayName, "");
     Edit(dayName)->clear();
-    AnswerNextBox(464, QMessageBox::Ok);
+    AnswerNextBox(Text::DayTypeNameMissing, QMessageBox::Ok);
     Click(IDOK);
     Click(IDCANCEL);
   });
@@ -199,15 +196,12 @@ TEST_F(DayTypeEditor, ThousandsOfSlotsOfAnyTextOpen) {
         return editor.DoModal();
       },
       [] {
-        auto* told = qobject_cast<QMessageBox*>(TopWindow());
-        ASSERT_TRUE(told);
-        EXPECT_EQ(told->property("textNumber").toUInt(), 467U);
         WhenNextWindow([] {
           EXPECT_EQ(Rows().size(), 3000);
           Settle();
           Click(IDCANCEL);
         });
-        told->button(QMessageBox::Ok)->click();
+        AnswerBox(Text::SlotHourOutOfRange, QMessageBox::Ok);
       });
 }
 
@@ -242,8 +236,9 @@ class DayTypeList : public DayTypesFixture {
 
 TEST_F(DayTypeList, ListsAndRemovesDayTypesAndLeavesTheCalendar) {
   EXPECT_EQ(Run([] {
-              EXPECT_EQ(TopWindow()->windowTitle(), "[479]");
-              EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(5319))->title(), "[431]");
+              EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::DayTypeListTitle));
+              EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(5319))->title(),
+                        TitleOf(Text::DayTypes));
               EXPECT_EQ(Rows(), QStringList({"feast", "work"}));
               EXPECT_EQ(TopWindow()->minimumSize(), QSize(200, 300));
               ClickRow(1);
@@ -259,7 +254,7 @@ TEST_F(DayTypeList, ListsAndRemovesDayTypesAndLeavesTheCalendar) {
 TEST_F(DayTypeList, ACancelledNewDayTypeTakesItsSlotsAlong) {
   Run([] {
     WhenNextWindow([] {
-      EXPECT_EQ(TopWindow()->windowTitle(), "[459]");
+      EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::AddDayTypeTitle));
       WhenNextWindow([] { Click(IDOK); });
       Click(addButton);
       EXPECT_EQ(Rows().size(), 1);
@@ -278,7 +273,7 @@ TEST_F(DayTypeList, ChangesToACopyComeBackAfterOk) {
     WhenNextWindow([] {
       ClickRow(0);
       Click(removeButton);
-      AnswerNextBox(471, QMessageBox::Yes);
+      AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
       Click(IDOK);
     });
     Click(modifyButton);
@@ -300,7 +295,7 @@ TEST_F(DayTypeList, ANewDayTypeHasWhatWasEntered) {
   Run([] {
     WhenNextWindow([] {
       Type(dayName, "new");
-      AnswerNextBox(471, QMessageBox::Yes);
+      AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
       Click(IDOK);
     });
     QTest::keyClick(List(), Qt::Key_Insert);

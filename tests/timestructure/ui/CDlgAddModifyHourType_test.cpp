@@ -23,9 +23,9 @@ TEST_F(HourTypeEditor, ShowsNameColourAndTexts) {
     EXPECT_EQ(Edit(nameEdit)->text(), "day");
     EXPECT_EQ(Edit(valueEdit)->text(), "7");
     EXPECT_EQ(Swatch()->ShownColour(), 0x0000FFU);
-    EXPECT_EQ(TopWindow()->windowTitle(), TextOf(475));
-    EXPECT_EQ(Swatch()->accessibleName(), TextOf(411));
-    EXPECT_EQ(Edit(nameEdit)->accessibleName(), TextOf(355));
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifyHourTypeTitle));
+    EXPECT_EQ(Swatch()->accessibleName(), TitleOf(Text::Colour));
+    EXPECT_EQ(Edit(nameEdit)->accessibleName(), TitleOf(Text::Name));
     QTest::keyClick(TopWindow(), Qt::Key_Escape);
   });
   EXPECT_EQ(result, IDCANCEL);
@@ -36,7 +36,7 @@ TEST_F(HourTypeEditor, ShowsNameColourAndTexts) {
 TEST_F(HourTypeEditor, AnHourTypeWithoutANameIsANewOne) {
   XmlNode hour(L"hour");
   Run(hour, [&] {
-    EXPECT_EQ(TopWindow()->windowTitle(), TextOf(476));
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::AddHourTypeTitle));
     Click(IDCANCEL);
   });
 }
@@ -87,11 +87,11 @@ TEST_F(HourTypeEditor, AHiddenValueOfAnyTextComesBackUnchanged) {
 
 TEST_F(HourTypeEditor, EachControlHasItsTextAndItsPicture) {
   Run(Hour(L"day"), [&] {
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5268))->text(), TextOf(355));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(valueLabel))->text(), TextOf(38293));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5302))->text(), TextOf(411));
-    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(IDOK))->text(), TextOf(428));
-    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(IDCANCEL))->text(), TextOf(429));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5268))->text(), TitleOf(Text::Name));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(valueLabel))->text(), TitleOf(Text::HourTypeValue));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5302))->text(), TitleOf(Text::Colour));
+    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(IDOK))->text(), TitleOf(Text::Ok));
+    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(IDCANCEL))->text(), TitleOf(Text::Cancel));
     Click(IDCANCEL);
   });
 }
@@ -155,7 +155,7 @@ TEST_F(HourTypeEditor, TheColourDialogOpensWithTheColourInForce) {
 TEST_F(HourTypeEditor, ARefusedNameLeavesTheEditorOpenAndTheFocusWhereItWas) {
   Run(Hour(L"day"), [&] {
     Type(nameEdit, "night");
-    AnswerNextBox(466, QMessageBox::Ok);
+    AnswerNextBox(Text::TypeNameTaken, QMessageBox::Ok);
     QTest::keyClick(Edit(nameEdit), Qt::Key_Return);
     EXPECT_EQ(TopWindow()->focusWidget(), Edit(nameEdit));
     EXPECT_EQ(Edit(nameEdit)->text(), "night");
@@ -168,10 +168,10 @@ TEST_F(HourTypeEditor, AnotherOnesColourIsAskedAboutAndNoKeepsIt) {
   const int result = Run(Hour(L"day"), [&] {
     ChooseNextColour(Qt::blue);
     Click(swatch);
-    AnswerNextBox(465, QMessageBox::No);
+    AnswerNextBox(Text::TypeColourTaken, QMessageBox::No);
     Click(IDOK);
     EXPECT_EQ(Swatch()->ShownColour(), 0xFF0000U);
-    AnswerNextBox(465, QMessageBox::Yes);
+    AnswerNextBox(Text::TypeColourTaken, QMessageBox::Yes);
     Click(IDOK);
   });
   EXPECT_EQ(result, IDOK);

@@ -80,7 +80,7 @@ class SlotEditor : public DayTypesFixture {
 TEST_F(SlotEditor, ANewSlotIsStoredAsItOpens) {
   EXPECT_EQ(Run("", "00:00", "00:00",
                 [] {
-                  EXPECT_EQ(TopWindow()->windowTitle(), "[473]");
+                  EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::AddSlotTitle));
                   EXPECT_EQ(Shown(), "0:0-0:0");
                   EXPECT_EQ(Combo()->currentText(), "peak");
                   EXPECT_EQ(Combo()->count(), 2);
@@ -93,12 +93,12 @@ TEST_F(SlotEditor, ANewSlotIsStoredAsItOpens) {
 
 TEST_F(SlotEditor, EachControlHasItsText) {
   Run("v", "01:00", "24:00", [] {
-    EXPECT_EQ(TopWindow()->windowTitle(), "[474]");
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5304))->text(), "[472]");
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5306))->text(), "[462]");
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5308))->text(), "[463]");
-    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(addButton))->text(), "[415]");
-    EXPECT_EQ(Edit(fromHours)->accessibleName(), "[462]");
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifySlotTitle));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5304))->text(), TitleOf(Text::HourTypes));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5306))->text(), TitleOf(Text::From));
+    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5308))->text(), TitleOf(Text::To));
+    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(addButton))->text(), TitleOf(Text::Add));
+    EXPECT_EQ(Edit(fromHours)->accessibleName(), TitleOf(Text::From));
     EXPECT_EQ(Combo()->currentText(), "valley");
     EXPECT_FALSE(TopControl(toMinutesSpin)->isEnabled());
     EXPECT_TRUE(Edit(toMinutes)->isEnabled()) << "only the spin is locked";
@@ -107,11 +107,14 @@ TEST_F(SlotEditor, EachControlHasItsText) {
 }
 
 TEST_F(SlotEditor, ItsFieldsAreCalledByEdgeAndUnitWhereTheLanguageHasThem) {
-  host->loadString.additions = {60009, 60010};
+  host->loadString.additions = {Text::SlotHours, Text::SlotMinutes};
   Run("p", "01:00", "02:00", [] {
-    EXPECT_EQ(Edit(fromHours)->accessibleName(), "[462], [60009]");
-    EXPECT_EQ(Edit(toMinutes)->accessibleName(), "[463], [60010]");
-    EXPECT_EQ(TopControl(toMinutesSpin)->accessibleName(), "[463], [60010]");
+    EXPECT_EQ(Edit(fromHours)->accessibleName(),
+              TitleOf(Text::From) + ", " + TitleOf(Text::SlotHours));
+    EXPECT_EQ(Edit(toMinutes)->accessibleName(),
+              TitleOf(Text::To) + ", " + TitleOf(Text::SlotMinutes));
+    EXPECT_EQ(TopControl(toMinutesSpin)->accessibleName(),
+              TitleOf(Text::To) + ", " + TitleOf(Text::SlotMinutes));
     Click(IDCANCEL);
   });
 }
@@ -178,7 +181,7 @@ TEST_F(SlotEditor, ArrowsKeysAndWheelStep) {
 
 TEST_F(SlotEditor, AStartAfterItsEndIsToldAndTheEditorStays) {
   Run("p", "09:00", "08:00", [] {
-    AnswerNextBox(469, QMessageBox::Ok);
+    AnswerNextBox(Text::SlotStartAfterEnd, QMessageBox::Ok);
     Click(IDOK);
     EXPECT_EQ(Shown(), "9:0-8:0");
     Click(IDCANCEL);
@@ -192,7 +195,7 @@ TEST_F(SlotEditor, WithoutHourTypesOnlyTheirButtonWorks) {
                          toHoursSpin, toMinutesSpin}) {
       EXPECT_FALSE(TopControl(id)->isEnabled()) << id;
     }
-    AnswerNextBox(480, QMessageBox::Ok);
+    AnswerNextBox(Text::NoHourType, QMessageBox::Ok);
     Click(IDOK);
     WhenNextWindow([] { Click(IDCANCEL); });
     Click(addButton);

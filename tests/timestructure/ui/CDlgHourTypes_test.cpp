@@ -75,9 +75,9 @@ TEST_F(HourTypeList, ShowsNamesWithTheirColours) {
     EXPECT_EQ(Names(), QStringList({"day", "night"}));
     EXPECT_EQ(IconColour(0), QColor(Qt::red));
     EXPECT_EQ(IconColour(1), QColor(Qt::blue));
-    EXPECT_EQ(TopWindow()->windowTitle(), TextOf(478));
-    EXPECT_EQ(List()->accessibleName(), TextOf(472));
-    EXPECT_EQ(List()->headerItem()->text(0), TextOf(355));
+    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::HourTypeListTitle));
+    EXPECT_EQ(List()->accessibleName(), TitleOf(Text::HourTypes));
+    EXPECT_EQ(List()->headerItem()->text(0), TitleOf(Text::Name));
     EXPECT_TRUE(Selected().empty());
     ExpectButtons(false);
     Click(IDOK);
@@ -192,12 +192,15 @@ TEST_F(HourTypeList, RemoveTakesARowWithoutAsking) {
 
 TEST_F(HourTypeList, EachControlHasItsText) {
   Run([&] {
-    const std::vector<std::pair<int, unsigned>> texts = {
-        {addButton, 415}, {modifyButton, 416}, {removeButton, 420}, {IDOK, 428}, {IDCANCEL, 429}};
-    for (const auto& [id, number] : texts) {
-      EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(id))->text(), TextOf(number));
+    const std::pair<int, Text> texts[] = {{addButton, Text::Add},
+                                          {modifyButton, Text::Modify},
+                                          {removeButton, Text::Remove},
+                                          {IDOK, Text::Ok},
+                                          {IDCANCEL, Text::Cancel}};
+    for (const auto& [id, text] : texts) {
+      EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(id))->text(), TitleOf(text));
     }
-    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(box))->title(), TextOf(472));
+    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(box))->title(), TitleOf(Text::HourTypes));
     Click(IDCANCEL);
   });
 }
@@ -208,7 +211,7 @@ TEST_F(HourTypeList, AddingWithAnothersColourCanBeGivenUp) {
       Type(nameEdit, "new");
       ChooseNextColour(Qt::red);
       Click(swatch);
-      AnswerNextBox(465, QMessageBox::No);
+      AnswerNextBox(Text::TypeColourTaken, QMessageBox::No);
       Click(IDOK);
       EXPECT_EQ(Swatch()->ShownColour(), 0x0000FFU);
       Click(IDCANCEL);
@@ -269,7 +272,7 @@ TEST_F(HourTypeList, TheEditorSeesTheNewHourTypeInTheList) {
   Run([&] {
     WhenNextWindow([] {
       Type(nameEdit, "day");
-      AnswerNextBox(466, QMessageBox::Ok);
+      AnswerNextBox(Text::TypeNameTaken, QMessageBox::Ok);
       Click(IDOK);
       Click(IDCANCEL);
     });

@@ -6,7 +6,6 @@
 #include <QColorDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <memory>
@@ -40,12 +39,6 @@ class HourTypesFixture : public testing::Test {
   XmlNode& Hour(const wchar_t* name) { return *Hours().NodeV(L"hour?name=%s?", name); }
 
   void MakeEmbedded() { host->AddDevice(L"KORVAXEMBEDDED"); }
-
-  /// The host's text of this number.
-  QString TextOf(unsigned number) {
-    QVWideString text;
-    return ToQString(host->loadString(number, text));
-  }
 
   static QLineEdit* Edit(int id) { return qobject_cast<QLineEdit*>(TopControl(id)); }
   static ColourSwatch* Swatch() { return qobject_cast<ColourSwatch*>(TopControl(swatch)); }
