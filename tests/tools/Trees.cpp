@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <iterator>
 #include <ostream>
-#include <stdexcept>
 
 #include "tools/Utf8.h"
-#include "tools/XmlReader.h"
 
 namespace qv {
 namespace {
@@ -49,16 +47,6 @@ void Grow(XmlNode& node, int levels, std::mt19937& random) {
 }
 
 }  // namespace
-
-std::unique_ptr<XmlNode> Tree(std::string_view xml) {
-  XmlReader reader;
-  reader.Feed(xml);
-  auto root = reader.Finish();
-  if (!root) {
-    throw std::invalid_argument("no XML: " + reader.Error().reason);
-  }
-  return root;
-}
 
 std::string Outline(const XmlNode& node) {
   std::string outline = Shown(node.Tag());

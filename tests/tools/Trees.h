@@ -4,15 +4,12 @@
 #include <memory>
 #include <random>
 #include <string>
-#include <string_view>
 
+#include "tests/support/Parsed.h"
 #include "tools/QVBasicString.h"
 #include "tools/XmlNode.h"
 
 namespace qv {
-
-/// The tree that `xml` writes; throws if it is no XML.
-std::unique_ptr<XmlNode> Tree(std::string_view xml);
 
 /// The tree on one line, values in quotes and children in brackets, as in `a="1"[b c="x"]`. Line
 /// feed, carriage return and tab stand as `\n`, `\r` and `\t`.

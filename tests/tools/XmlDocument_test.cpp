@@ -81,7 +81,7 @@ TEST(XmlDocument, ResetEmptiesIt) {
 }
 
 TEST(XmlDocument, ACopyOfANodeSharesNothingWithIt) {
-  auto source = Tree("<main><hourTypes>v<hour><id>1</id></hour></hourTypes></main>");
+  auto source = Parsed("<main><hourTypes>v<hour><id>1</id></hour></hourTypes></main>");
   XmlDocument copy(*source->Node(L"hourTypes"));
   source->Node(L"hourTypes")->EraseTag(L"hour");
   EXPECT_EQ(Content(copy), R"(hourTypes="v"[hour[id="1"]])");
@@ -91,7 +91,7 @@ TEST(XmlDocument, ACopyOfANodeSharesNothingWithIt) {
 }
 
 TEST(XmlDocument, TakesARootAsItIs) {
-  auto root = Tree("<main><id>1</id></main>");
+  auto root = Parsed("<main><id>1</id></main>");
   const XmlNode* place = root.get();
   const XmlDocument document(std::move(root));
   EXPECT_EQ(document.Root(), place);
@@ -100,7 +100,7 @@ TEST(XmlDocument, TakesARootAsItIs) {
 }
 
 TEST(XmlDocument, CopiesMayBeNestedAndTakenBackLevelByLevel) {
-  const auto host = Tree("<main><days><day><slot/></day></days></main>");
+  const auto host = Parsed("<main><days><day><slot/></day></days></main>");
   XmlNode* days = host->Node(L"days");
   XmlDocument list(*days);
   XmlNode* day = list.Root()->Node(L"day");
@@ -245,7 +245,7 @@ TEST_F(XmlDocumentFiles, SaveWithoutAFileIsRefused) {
     EXPECT_EQ(files.log, Log{}) << name;
   }
   EXPECT_FALSE(XmlDocument().Save(files));
-  EXPECT_FALSE(XmlDocument(*Tree("<main/>")).Save(files));
+  EXPECT_FALSE(XmlDocument(*Parsed("<main/>")).Save(files));
 }
 
 TEST_F(XmlDocumentFiles, SaveFollowsTheLastLoadAndNotSaveAs) {

@@ -122,7 +122,7 @@ const XmlNode* Child(const XmlNode& node, int number) {
 
 class XmlNodePath : public testing::TestWithParam<Lookup> {
  protected:
-  std::unique_ptr<XmlNode> root = Tree(installation);
+  std::unique_ptr<XmlNode> root = Parsed(installation);
   const XmlNode* receiver = Receiver(root.get(), GetParam().receiver);
   const XmlNode* expected = Child(*receiver, GetParam().found);
 };
@@ -147,7 +147,7 @@ TEST_P(XmlNodePath, GivesTheValueOrTheDefault) {
 INSTANTIATE_TEST_SUITE_P(Patterns, XmlNodePath, testing::ValuesIn(lookups));
 
 TEST(XmlNodePath, AMalformedPathNamesNothing) {
-  const auto root = Tree("<m><hour><id>1</id><name/></hour></m>");
+  const auto root = Parsed("<m><hour><id>1</id><name/></hour></m>");
   root->Node(L"hour")->SetValue(L"id?", L"1");
   root->Node(L"hour")->SetValue(L"id", L"id");
   root->Node(L"hour")->SetValue(L"", L"1");
@@ -159,39 +159,39 @@ TEST(XmlNodePath, AMalformedPathNamesNothing) {
 }
 
 TEST(XmlNodePath, EndsAtTheClosingQuestionMark) {
-  const auto root = Tree("<m><hour><id>1</id></hour></m>");
+  const auto root = Parsed("<m><hour><id>1</id></hour></m>");
   EXPECT_EQ(root->Node(L"hour?id=1?more"), *root->ChildsBegin());
 }
 
 TEST(XmlNodePath, PartsFieldAndValueAtTheFirstEqualsSign) {
-  const auto root = Tree("<m><a><b>x=y</b></a></m>");
+  const auto root = Parsed("<m><a><b>x=y</b></a></m>");
   EXPECT_EQ(root->Node(L"a?b=x=y?"), *root->ChildsBegin());
 }
 
 TEST(XmlNodePath, AnEmptyPredicateValueAsksForAnEmptyField) {
-  const auto root = Tree("<m><a/><a><b>x</b></a><a><b/></a></m>");
+  const auto root = Parsed("<m><a/><a><b>x</b></a><a><b/></a></m>");
   EXPECT_EQ(root->Node(L"a?b=?"), Child(*root, 2));
 }
 
 TEST(XmlNodePath, AChildWithoutThePredicatesFieldNeverMatches) {
-  const auto root = Tree("<m><a>x</a><a><c>x</c></a></m>");
+  const auto root = Parsed("<m><a>x</a><a><c>x</c></a></m>");
   EXPECT_EQ(root->Node(L"a?b=x?"), nullptr);
   EXPECT_EQ(root->Node(L"a?b=?"), nullptr);
 }
 
 TEST(XmlNodePath, APredicateLooksAtEveryFieldOfTheTag) {
-  const auto root = Tree("<m><a><b>1</b><b>2</b></a></m>");
+  const auto root = Parsed("<m><a><b>1</b><b>2</b></a></m>");
   EXPECT_EQ(root->Node(L"a?b=2?"), Child(*root, 0));
 }
 
 TEST(XmlNodePath, APredicateComparesTheWholeTextWithItsBlanks) {
-  const auto root = Tree("<m><a><b> x </b></a><a><b>x</b></a><a><b>xy</b></a></m>");
+  const auto root = Parsed("<m><a><b> x </b></a><a><b>x</b></a><a><b>xy</b></a></m>");
   EXPECT_EQ(root->Node(L"a?b=x?"), Child(*root, 1));
   EXPECT_EQ(root->Node(L"a?b= x ?"), Child(*root, 0));
 }
 
 TEST(XmlNodePath, NodeVFormatsEachKindOfArgument) {
-  const auto root = Tree("<m><a1B><c>00000A-x%</c></a1B></m>");
+  const auto root = Parsed("<m><a1B><c>00000A-x%</c></a1B></m>");
   const QVWideString text(L"x");
   EXPECT_EQ(root->NodeV(L"a%d%s?c=%06X-%s%%?", 1, L"B", 10, text), Child(*root, 0));
   EXPECT_EQ(
@@ -206,12 +206,12 @@ TEST(XmlNodePath, NodeVFindsWhatSetValueMade) {
 }
 
 TEST(XmlNodePath, NodeVNeverReadsTheArgumentAsAFormat) {
-  const auto root = Tree("<m><a><b>%d %s</b></a></m>");
+  const auto root = Parsed("<m><a><b>%d %s</b></a></m>");
   EXPECT_EQ(root->NodeV(L"a?b=%s?", L"%d %s"), Child(*root, 0));
 }
 
 TEST(XmlNodePath, TheDefaultIsForAMissingFieldOnly) {
-  const auto root = Tree("<m><present/></m>");
+  const auto root = Parsed("<m><present/></m>");
   EXPECT_EQ(root->Value(L"missing", L"T"), L"T");
   EXPECT_EQ(root->Value(L"missing"), L"");
   EXPECT_EQ(root->Value(L"present", L"T"), L"");
@@ -219,7 +219,7 @@ TEST(XmlNodePath, TheDefaultIsForAMissingFieldOnly) {
 }
 
 TEST(XmlNodePath, TheValueOutlivesTheNode) {
-  auto root = Tree("<m><a>text</a></m>");
+  auto root = Parsed("<m><a>text</a></m>");
   wchar_t otherwise[] = L"default";
   const QVWideString found = root->Value(L"a");
   const QVWideString missing = root->Value(L"b", otherwise);

@@ -38,7 +38,7 @@ TEST(XmlNode, StartsWithItsTagAlone) {
 }
 
 TEST(XmlNode, SetValueMakesAChildAtTheEnd) {
-  const auto root = Tree("<main><first/></main>");
+  const auto root = Parsed("<main><first/></main>");
   root->SetValue(L"name", L"Peak");
   EXPECT_EQ(Outline(*root), R"(main[first name="Peak"])");
 }
@@ -63,26 +63,26 @@ TEST(XmlNode, SetValueFillsTheChildThatNewChildMade) {
 }
 
 TEST(XmlNode, SetValueFillsTheFirstOfSeveral) {
-  const auto root = Tree("<m><a/><b/><b>2</b></m>");
+  const auto root = Parsed("<m><a/><b/><b>2</b></m>");
   root->SetValue(L"b", L"1");
   EXPECT_EQ(Outline(*root), R"(m[a b="1" b="2"])");
 }
 
 TEST(XmlNode, SetValueKeepsTheChildrenOfTheField) {
-  const auto root = Tree("<m><a><b/></a></m>");
+  const auto root = Parsed("<m><a><b/></a></m>");
   root->SetValue(L"a", L"x");
   EXPECT_EQ(Outline(*root), R"(m[a="x"[b]])");
 }
 
 TEST(XmlNode, SetValueTakesANullTextForAnEmptyOne) {
-  const auto root = Tree("<m><a>x</a></m>");
+  const auto root = Parsed("<m><a>x</a></m>");
   const wchar_t* null = nullptr;
   root->SetValue(L"a", null);
   EXPECT_EQ(Outline(*root), "m[a]");
 }
 
 TEST(XmlNode, SetValueMayBeGivenAPieceOfTheOldValue) {
-  const auto root = Tree("<m><a>abcdef</a></m>");
+  const auto root = Parsed("<m><a>abcdef</a></m>");
   root->SetValue(L"a", root->Node(L"a")->Value());
   EXPECT_EQ(root->Value(L"a"), L"abcdef");
   root->SetValue(L"a", root->Node(L"a")->Value() + 2);
@@ -116,13 +116,13 @@ TEST(XmlNode, NewChildDoesNotLookAtItsReservedArgument) {
 }
 
 TEST(XmlNode, RemoveChildTakesOutThatChildWithAllBelow) {
-  const auto root = Tree("<m><a>1</a><a>2<b><c/></b></a><a>3</a></m>");
+  const auto root = Parsed("<m><a>1</a><a>2<b><c/></b></a><a>3</a></m>");
   root->RemoveChild(Children(*root)[1]);
   EXPECT_EQ(Outline(*root), R"(m[a="1" a="3"])");
 }
 
 TEST(XmlNode, RemoveChildLeavesAForeignNodeAlone) {
-  const auto root = Tree("<m><a><b/></a></m>");
+  const auto root = Parsed("<m><a><b/></a></m>");
   XmlNode foreign(L"a");
   root->RemoveChild(&foreign);
   root->RemoveChild(nullptr);
@@ -133,7 +133,7 @@ TEST(XmlNode, RemoveChildLeavesAForeignNodeAlone) {
 }
 
 TEST(XmlNode, EraseTagRemovesTheFirstOnly) {
-  const auto root = Tree("<m><a>1</a><b/><a>2</a></m>");
+  const auto root = Parsed("<m><a>1</a><b/><a>2</a></m>");
   EXPECT_TRUE(root->EraseTag(L"a"));
   EXPECT_EQ(Outline(*root), R"(m[b a="2"])");
   EXPECT_TRUE(root->EraseTag(L"a"));
@@ -142,7 +142,7 @@ TEST(XmlNode, EraseTagRemovesTheFirstOnly) {
 }
 
 TEST(XmlNode, EraseTagLooksAtChildrenOnly) {
-  const auto root = Tree("<m><a><m/><b/></a></m>");
+  const auto root = Parsed("<m><a><m/><b/></a></m>");
   EXPECT_FALSE(root->EraseTag(L"b"));
   EXPECT_FALSE(root->EraseTag(L"m"));
   EXPECT_FALSE(root->EraseTag(L"A"));
@@ -150,7 +150,7 @@ TEST(XmlNode, EraseTagLooksAtChildrenOnly) {
 }
 
 TEST(XmlNode, ResetClearsValueAndChildrenInPlace) {
-  const auto root = Tree("<m><a>x<b/></a><c/></m>");
+  const auto root = Parsed("<m><a>x<b/></a><c/></m>");
   XmlNode* node = root->Node(L"a");
   node->Reset();
   EXPECT_EQ(Outline(*root), "m[a c]");
@@ -158,7 +158,7 @@ TEST(XmlNode, ResetClearsValueAndChildrenInPlace) {
 }
 
 TEST(XmlNode, ACopyIsDeepAndLivesOnItsOwn) {
-  auto source = Tree("<m>v<a>1<b>2</b></a></m>");
+  auto source = Parsed("<m>v<a>1<b>2</b></a></m>");
   XmlNode copy(*source);
   EXPECT_EQ(copy, *source);
   EXPECT_NE(copy.Node(L"a"), source->Node(L"a"));
@@ -168,10 +168,10 @@ TEST(XmlNode, ACopyIsDeepAndLivesOnItsOwn) {
 }
 
 TEST(XmlNode, AssignmentKeepsAddressPlaceAndTag) {
-  const auto root = Tree("<m><a/><hour>old<id>1</id></hour><z/></m>");
+  const auto root = Parsed("<m><a/><hour>old<id>1</id></hour><z/></m>");
   XmlNode* target = root->Node(L"hour");
   const XmlNode* oldChild = target->Node(L"id");
-  const auto source = Tree("<day>new<id>2</id><name/></day>");
+  const auto source = Parsed("<day>new<id>2</id><name/></day>");
   *target = *source;
   EXPECT_EQ(Children(*root)[1], target);
   EXPECT_EQ(Outline(*root), R"(m[a hour="new"[id="2" name] z])");
@@ -180,7 +180,7 @@ TEST(XmlNode, AssignmentKeepsAddressPlaceAndTag) {
 
 TEST(XmlNode, AssignmentSharesNothingWithTheSource) {
   XmlNode target(L"m");
-  const auto source = Tree("<m>v<a>1</a></m>");
+  const auto source = Parsed("<m>v<a>1</a></m>");
   target = *source;
   source->Node(L"a")->SetValue(L"changed");
   source->Reset();
@@ -188,20 +188,20 @@ TEST(XmlNode, AssignmentSharesNothingWithTheSource) {
 }
 
 TEST(XmlNode, AssignmentFromBelowTakesTheWholeDescendant) {
-  const auto root = Tree("<m>v<a><b>x<c>1</c></b></a></m>");
+  const auto root = Parsed("<m>v<a><b>x<c>1</c></b></a></m>");
   *root = *root->Node(L"a")->Node(L"b");
   EXPECT_EQ(Outline(*root), R"(m="x"[c="1"])");
 }
 
 TEST(XmlNode, AssignmentFromAboveCopiesWhatWasThere) {
-  const auto root = Tree("<m>v<a><b/></a></m>");
+  const auto root = Parsed("<m>v<a><b/></a></m>");
   XmlNode& target = *root->Node(L"a");
   target = *root;
   EXPECT_EQ(Outline(*root), R"(m="v"[a="v"[a[b]]])");
 }
 
 TEST(XmlNode, AssignmentFromItselfChangesNothing) {
-  const auto root = Tree("<m>v<a><b/></a></m>");
+  const auto root = Parsed("<m>v<a><b/></a></m>");
   const XmlNode* child = root->Node(L"a");
   const XmlNode& same = *root;
   *root = same;
@@ -230,7 +230,7 @@ TEST(XmlNode, AddressesHoldWhileSiblingsComeAndGo) {
 }
 
 TEST(XmlNode, AWalkMayRemoveTheNodeBehindIt) {
-  const auto root = Tree("<m><a/><b/><a/><a/><c/></m>");
+  const auto root = Parsed("<m><a/><b/><a/><a/><c/></m>");
   for (auto child = root->ChildsBegin(); child != root->ChildsEnd();) {
     XmlNode* node = *child++;
     if (node->Tag() == L"a") {
@@ -241,7 +241,7 @@ TEST(XmlNode, AWalkMayRemoveTheNodeBehindIt) {
 }
 
 TEST(XmlNode, WalksAConstNodeInOrder) {
-  const auto root = Tree("<m><a/><b/><a/></m>");
+  const auto root = Parsed("<m><a/><b/><a/></m>");
   const XmlNode& constant = *root;
   std::string tags;
   for (auto child = constant.ChildsBegin(); child != constant.ChildsEnd(); ++child) {
@@ -251,12 +251,12 @@ TEST(XmlNode, WalksAConstNodeInOrder) {
 }
 
 TEST(XmlNode, EqualTreesAgreeInTagsValuesAndOrder) {
-  const auto tree = Tree("<m>v<a>1</a><b/></m>");
-  EXPECT_EQ(*tree, *Tree("<m>v<a>1</a><b/></m>"));
+  const auto tree = Parsed("<m>v<a>1</a><b/></m>");
+  EXPECT_EQ(*tree, *Parsed("<m>v<a>1</a><b/></m>"));
   for (const char* other : {"<n>v<a>1</a><b/></n>", "<m>w<a>1</a><b/></m>", "<m>v<a>2</a><b/></m>",
                             "<m>v<b/><a>1</a></m>", "<m>v<a>1</a></m>", "<m>v<a>1</a><b/><b/></m>",
                             "<m>v<a>1</a><b><c/></b></m>", "<M>v<a>1</a><b/></M>"}) {
-    EXPECT_FALSE(*tree == *Tree(other)) << other;
+    EXPECT_FALSE(*tree == *Parsed(other)) << other;
   }
 }
 

@@ -43,7 +43,7 @@ TEST(XmlRoundTrip, KeepsEachCharacterInALeafAndBesideChildren) {
     tree.SetValue(L"a", tree.Value());
     const auto text = WriteXml(tree, Declaration::No);
     ASSERT_TRUE(text) << static_cast<unsigned>(code);
-    ASSERT_EQ(*Tree(*text), tree) << static_cast<unsigned>(code);
+    ASSERT_EQ(*Parsed(*text), tree) << static_cast<unsigned>(code);
   }
 }
 
@@ -63,7 +63,7 @@ TEST(XmlRoundTrip, SettlesForeignTextsAtOnce) {
        {"<m>a<b/>c</m>", "<m>\n<!-- x -->\n<a c='1'> x </a>\r\n</m>", "<m>&#32; <a/></m>",
         "<?xml version='1.0' encoding='ISO-8859-1'?><m>\xF1</m>", "<m><![CDATA[<&>]]><a/></m>",
         "<!DOCTYPE m><m><a>\r\n</a></m>"}) {
-    ExpectRoundTrip(*Tree(text), Declaration::Yes);
+    ExpectRoundTrip(*Parsed(text), Declaration::Yes);
   }
 }
 

@@ -29,7 +29,7 @@ void PrintTo(const Layout& layout, std::ostream* out) { *out << layout.name; }
 
 class XmlWriterLayout : public testing::TestWithParam<Layout> {};
 
-TEST_P(XmlWriterLayout, IsExact) { EXPECT_EQ(Bare(*Tree(GetParam().tree)), GetParam().text); }
+TEST_P(XmlWriterLayout, IsExact) { EXPECT_EQ(Bare(*Parsed(GetParam().tree)), GetParam().text); }
 
 INSTANTIATE_TEST_SUITE_P(
     Trees, XmlWriterLayout,
@@ -78,7 +78,7 @@ TEST(XmlWriter, RefusesATagThatIsNoName) {
 }
 
 TEST(XmlWriter, RefusesATreeForOneTagBelow) {
-  const auto root = Tree("<m>v<a><b/><c>x</c></a></m>");
+  const auto root = Parsed("<m>v<a><b/><c>x</c></a></m>");
   root->Node(L"a")->NewChild(L"no name", nullptr);
   EXPECT_EQ(Bare(*root), "(nothing)");
   EXPECT_EQ(WriteXml(*root, Declaration::Yes), std::nullopt);
@@ -95,7 +95,7 @@ TEST(XmlWriter, TakesEveryTagThatIsAName) {
 TEST(XmlWriter, RefusesCharactersThatXmlCannotCarry) {
   for (const unsigned code : {0x0U, 0x1U, 0x8U, 0xBU, 0xCU, 0x1FU, 0xD800U, 0xDBFFU, 0xDFFFU,
                               0xFFFEU, 0xFFFFU, 0x110000U, 0xFFFFFFFFU}) {
-    const auto root = Tree("<m><a>x</a><b/></m>");
+    const auto root = Parsed("<m><a>x</a><b/></m>");
     const std::wstring value = L"x" + std::wstring(1, static_cast<wchar_t>(code));
     root->Node(L"b")->SetValue(QVWideString(std::wstring_view{value}));
     EXPECT_EQ(Bare(*root), "(nothing)") << code;
@@ -104,7 +104,7 @@ TEST(XmlWriter, RefusesCharactersThatXmlCannotCarry) {
 
 TEST(XmlWriter, WritesTheDeepestTreeThatCanBeRead) {
   const auto deepest = Chain(maxXmlDepth);
-  EXPECT_EQ(*Tree(Bare(*deepest)), *deepest);
+  EXPECT_EQ(*Parsed(Bare(*deepest)), *deepest);
 }
 
 TEST(XmlWriter, RefusesADeeperTree) { EXPECT_EQ(Bare(*Chain(maxXmlDepth + 1)), "(nothing)"); }
