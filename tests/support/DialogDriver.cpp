@@ -1,7 +1,5 @@
 #include "tests/support/DialogDriver.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QPointer>
 #include <QPushButton>

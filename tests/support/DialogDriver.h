@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QMessageBox>
 #include <QString>
 #include <QWidget>
@@ -32,6 +34,14 @@ QWidget* TopWindow();
 
 /// The control of the top window with this number; the test fails if there is none.
 QWidget* TopControl(int id);
+
+/// The same as a widget of some kind; the test also fails if it is of another.
+template <class Widget>
+Widget* TopControl(int id) {
+  auto* control = qobject_cast<Widget*>(TopControl(id));
+  EXPECT_TRUE(control) << "control " << id << " is of another kind";
+  return control;
+}
 
 /// Clicks a control of the top window with the left button.
 void Click(int id);

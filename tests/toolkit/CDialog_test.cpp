@@ -1,17 +1,12 @@
 #include "toolkit/CDialog.h"
 
-#include <gtest/gtest.h>
-
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include "tests/support/DialogDriver.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTest.h"
+#include "tests/toolkit/PictureFiles.h"
 #include "toolkit/CImageButton.h"
 #include "toolkit/Controls.h"
-#include "toolkit/Strings.h"
 
 namespace qv {
 namespace {
@@ -90,41 +85,40 @@ class TestDialog : public CDialog {
   void OnDestroy() override { calls << "destroy"; }
 };
 
-class CDialogTest : public testing::Test {
+class CDialogTest : public DialogTest {
  protected:
-  static int Run(TestDialog& dialog, const std::function<void()>& script) {
-    return Drive([&] { return dialog.DoModal(); }, script);
+  static QColor IconColour() {
+    return TopWindow()->windowIcon().pixmap(32, 32).toImage().pixelColor(3, 3);
   }
 
-  InstalledFakeHost host;
   TestDialog dialog;
 };
 
 TEST_F(CDialogTest, NothingIsShownByTheConstructor) { EXPECT_FALSE(dialog.isVisible()); }
 
 TEST_F(CDialogTest, ControlOneEndsWithOkAndControlTwoWithCancel) {
-  EXPECT_EQ(Run(dialog, [] { Click(IDOK); }), IDOK);
+  EXPECT_EQ(Play(dialog, [] { Click(IDOK); }), IDOK);
   EXPECT_EQ(dialog.calls, QStringList({"create", "init", "ok", "destroy"}));
   TestDialog second;
-  EXPECT_EQ(Run(second, [] { Click(IDCANCEL); }), IDCANCEL);
+  EXPECT_EQ(Play(second, [] { Click(IDCANCEL); }), IDCANCEL);
   EXPECT_EQ(second.calls, QStringList({"create", "init", "cancel", "destroy"}));
 }
 
 TEST_F(CDialogTest, ReturnIsControlOneWhereverTheFocusIs) {
-  EXPECT_EQ(Run(dialog, [] { QTest::keyClick(TopControl(edit), Qt::Key_Return); }), IDOK);
+  EXPECT_EQ(Play(dialog, [] { Press(edit, Qt::Key_Return); }), IDOK);
   TestDialog second;
-  EXPECT_EQ(Run(second,
-                [] {
-                  TopControl(edit)->setFocus();
-                  QTest::keyClick(TopWindow(), Qt::Key_Enter);
-                }),
+  EXPECT_EQ(Play(second,
+                 [] {
+                   TopControl(edit)->setFocus();
+                   QTest::keyClick(TopWindow(), Qt::Key_Enter);
+                 }),
             IDOK);
 }
 
 TEST_F(CDialogTest, EscapeAndTheCloseBoxCancel) {
-  EXPECT_EQ(Run(dialog, [] { QTest::keyClick(TopWindow(), Qt::Key_Escape); }), IDCANCEL);
+  EXPECT_EQ(Play(dialog, [] { QTest::keyClick(TopWindow(), Qt::Key_Escape); }), IDCANCEL);
   TestDialog second;
-  EXPECT_EQ(Run(second, [] { TopWindow()->close(); }), IDCANCEL);
+  EXPECT_EQ(Play(second, [] { TopWindow()->close(); }), IDCANCEL);
   EXPECT_EQ(second.calls, QStringList({"create", "init", "cancel", "destroy"}));
 }
 
@@ -150,16 +144,16 @@ TEST_F(CDialogTest, DestroyingTheParentEndsTheLoop) {
   auto* parent = new QWidget;
   auto* child = new TestDialog;
   child->setParent(parent, child->windowFlags());
-  EXPECT_EQ(Run(*child, [=] { delete parent; }), IDCANCEL);
+  EXPECT_EQ(Play(*child, [=] { delete parent; }), IDCANCEL);
 }
 
 TEST_F(CDialogTest, ADialogHasAFixedSizeUnlessItsTemplateIsSizable) {
-  Run(dialog, [] {
+  Play(dialog, [] {
     EXPECT_EQ(TopWindow()->minimumSize(), TopWindow()->maximumSize());
     Click(IDOK);
   });
   TestDialog sizable(BuildSizable);
-  Run(sizable, [] {
+  Play(sizable, [] {
     const QSize size = TopWindow()->size();
     TopWindow()->resize(size + QSize(50, 60));
     EXPECT_EQ(TopWindow()->size(), size + QSize(50, 60));
@@ -170,7 +164,7 @@ TEST_F(CDialogTest, ADialogHasAFixedSizeUnlessItsTemplateIsSizable) {
 
 TEST_F(CDialogTest, EachNewSizePlacesTheControlsAgain) {
   TestDialog sizable(BuildSizable);
-  Run(sizable, [&] {
+  Play(sizable, [&] {
     const int before = sizable.positionings;
     TopWindow()->resize(600, 400);
     Settle();
@@ -182,7 +176,7 @@ TEST_F(CDialogTest, EachNewSizePlacesTheControlsAgain) {
 TEST_F(CDialogTest, TheSizeThatIsKeptIsTheLeastOne) {
   TestDialog sizable(BuildSizable);
   sizable.keepSize = true;
-  Run(sizable, [] {
+  Play(sizable, [] {
     const QSize opening = TopWindow()->size();
     TopWindow()->resize(10, 10);
     EXPECT_EQ(TopWindow()->size(), opening);
@@ -202,43 +196,38 @@ TEST_F(CDialogTest, TemplateUnitsFollowTheFont) {
 }
 
 TEST_F(CDialogTest, TextsComeByNumberAndImagesFromTheHostsDirectory) {
-  const QTemporaryDir images;
-  QImage picture(16, 16, QImage::Format_RGB32);
-  picture.fill(Qt::green);
-  ASSERT_TRUE(picture.save(images.filePath("OK-16.png")));
-  host->setup.imagePath = ToWide(images.path() + QLatin1Char('/'));
-  Run(dialog, [] {
+  const PictureFiles images;
+  images.Write("OK-16.png", 16, Qt::green);
+  host->setup.imagePath = images.Directory();
+  Play(dialog, [] {
     EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::Discriminators));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(label))->text(), TitleOf(Text::Name));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(label))->textFormat(), Qt::PlainText);
+    EXPECT_EQ(Caption(label), TitleOf(Text::Name));
+    EXPECT_EQ(TopControl<QLabel>(label)->textFormat(), Qt::PlainText);
     EXPECT_EQ(TopControl(edit)->accessibleName(), TitleOf(Text::Name));
-    EXPECT_FALSE(qobject_cast<CImageButton*>(TopControl(IDOK))->icon().isNull());
+    EXPECT_FALSE(TopControl<CImageButton>(IDOK)->icon().isNull());
     Click(IDOK);
   });
 }
 
 TEST_F(CDialogTest, TheIconIsTheHostsPictureByTheLowSixteenBits) {
-  const QTemporaryDir images;
-  QImage picture(32, 32, QImage::Format_RGB32);
-  picture.fill(Qt::red);
-  ASSERT_TRUE(picture.save(images.filePath("PROGRAM-5.png")));
-  host->setup.imagePath = ToWide(images.path() + QLatin1Char('/'));
+  const PictureFiles images;
+  images.Write("PROGRAM-5.png", 32, Qt::red);
+  host->setup.imagePath = images.Directory();
   host->setup.programIcon = 0x70005;
-  Run(dialog, [] {
-    EXPECT_EQ(TopWindow()->windowIcon().pixmap(32, 32).toImage().pixelColor(3, 3), QColor(Qt::red));
+  Play(dialog, [] {
+    EXPECT_EQ(IconColour(), QColor(Qt::red));
     Click(IDOK);
   });
 }
 
 TEST_F(CDialogTest, WithoutThatPictureTheIconIsTheApplications) {
-  const QTemporaryDir images;
-  host->setup.imagePath = ToWide(images.path() + QLatin1Char('/'));
+  const PictureFiles images;
+  host->setup.imagePath = images.Directory();
   QPixmap picture(32, 32);
   picture.fill(Qt::blue);
   QApplication::setWindowIcon(picture);
-  Run(dialog, [] {
-    EXPECT_EQ(TopWindow()->windowIcon().pixmap(32, 32).toImage().pixelColor(3, 3),
-              QColor(Qt::blue));
+  Play(dialog, [] {
+    EXPECT_EQ(IconColour(), QColor(Qt::blue));
     Click(IDOK);
   });
   QApplication::setWindowIcon(QIcon());

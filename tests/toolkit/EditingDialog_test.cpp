@@ -1,13 +1,6 @@
 #include "toolkit/EditingDialog.h"
 
-#include <gtest/gtest.h>
-
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QTest>
-
-#include "tests/support/DialogDriver.h"
-#include "tests/support/FakeHost.h"
+#include "tests/support/DialogTest.h"
 #include "toolkit/CImageButton.h"
 #include "toolkit/Controls.h"
 #include "toolkit/RunDialog.h"
@@ -67,21 +60,13 @@ class TestEditor : public EditingDialog<TestForm> {
   }
 };
 
-/// Runs `editor` with a user.
-int RunWith(TestEditor& editor, const std::function<void()>& script) {
-  return Drive([&] { return editor.DoModal(); }, script);
-}
-
-class EditingDialogTest : public testing::Test {
- protected:
-  InstalledFakeHost host;
-};
+class EditingDialogTest : public DialogTest {};
 
 TEST_F(EditingDialogTest, ADoneSaveEndsItWithOk) {
   for (const SaveOutcome outcome : {SaveOutcome::Saved, SaveOutcome::Unchanged}) {
     TestEditor editor;
     editor.initial.end.outcome = outcome;
-    EXPECT_EQ(RunWith(editor, [] { Click(IDOK); }), IDOK);
+    EXPECT_EQ(Play(editor, [] { Click(IDOK); }), IDOK);
   }
 }
 
@@ -89,13 +74,13 @@ TEST_F(EditingDialogTest, ARefusedOrFailedSaveLeavesItOpen) {
   for (const SaveOutcome outcome : {SaveOutcome::Refused, SaveOutcome::NotWritten}) {
     TestEditor editor;
     editor.initial.end.outcome = outcome;
-    EXPECT_EQ(RunWith(editor,
-                      [&] {
-                        Click(IDOK);
-                        EXPECT_TRUE(editor.isVisible());
-                        EXPECT_EQ(editor.Form()->saves, 1);
-                        Click(IDCANCEL);
-                      }),
+    EXPECT_EQ(Play(editor,
+                   [&] {
+                     Click(IDOK);
+                     EXPECT_TRUE(editor.isVisible());
+                     EXPECT_EQ(editor.Form()->saves, 1);
+                     Click(IDCANCEL);
+                   }),
               IDCANCEL);
   }
 }
@@ -103,10 +88,10 @@ TEST_F(EditingDialogTest, ARefusedOrFailedSaveLeavesItOpen) {
 TEST_F(EditingDialogTest, ARefusalIsToldAndTheFocusStays) {
   TestEditor editor;
   editor.initial.end = {SaveOutcome::Refused, Refused(Text::NoHourType)};
-  RunWith(editor, [&] {
+  Play(editor, [&] {
     editor.Control(expressionEdit)->setFocus();
     AnswerNextBox(Text::NoHourType, QMessageBox::Ok);
-    QTest::keyClick(editor.Control(expressionEdit), Qt::Key_Return);
+    Press(expressionEdit, Qt::Key_Return);
     EXPECT_EQ(editor.focusWidget(), editor.Control(expressionEdit));
     Click(IDCANCEL);
   });
@@ -118,8 +103,8 @@ TEST_F(EditingDialogTest, ARefusalOfAFieldGivesItTheFocus) {
     editor.initial.end = {SaveOutcome::Refused, Refusal{.text = Text::ExpressionInvalid,
                                                         .field = Field::Expression,
                                                         .selectsAll = selectsAll}};
-    RunWith(editor, [&] {
-      auto* edit = qobject_cast<QLineEdit*>(editor.Control(expressionEdit));
+    Play(editor, [&] {
+      QLineEdit* edit = Edit(expressionEdit);
       editor.Control(nameEdit)->setFocus();
       edit->setText("a + ");
       AnswerNextBox(Text::ExpressionInvalid, QMessageBox::Ok);
@@ -133,7 +118,7 @@ TEST_F(EditingDialogTest, ARefusalOfAFieldGivesItTheFocus) {
 
 TEST_F(EditingDialogTest, WhetherSomethingChangedStaysReadable) {
   TestEditor editor;
-  RunWith(editor, [&] {
+  Play(editor, [&] {
     editor.Form()->modified = true;
     Click(IDCANCEL);
   });
@@ -156,9 +141,9 @@ TEST_F(EditingDialogTest, WithoutServicesItIsRefused) {
 }
 
 TEST_F(EditingDialogTest, RunDialogTellsConfirmationAndChange) {
-  const auto end = [](bool modified, int button) {
+  const auto end = [](bool isChanged, int button) {
     TestEditor editor;
-    editor.initial.modified = modified;
+    editor.initial.modified = isChanged;
     EditorEnd ended;
     Drive([&] { return ended = RunDialog(editor), 0; }, [&] { Click(button); });
     return ended;

@@ -28,6 +28,9 @@ class PictureFiles {
     return Path(name);
   }
 
+  /// The directory with a trailing separator, as a host gives it.
+  QVWideString Directory() const { return ToWide(m_directory.path() + QLatin1Char('/')); }
+
   QVWideString Path(const char* name) const {
     return ToWide(m_directory.filePath(QLatin1String(name)));
   }

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QWheelEvent>
+#include <QDir>
 
 #include "tests/editor/ui/EditorFixture.h"
 
@@ -12,13 +12,13 @@ namespace {
 TEST_F(Editor, ANewDiscriminatorOpensBlank) {
   Add([] {
     EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::AddDiscriminatorTitle));
-    EXPECT_EQ(Edit(nameEdit)->text(), "");
+    EXPECT_EQ(Edit(discriminatorName)->text(), "");
     EXPECT_EQ(Edit(descriptionEdit)->text(), "");
     EXPECT_TRUE(IsTicked());
-    EXPECT_EQ(Combo()->currentIndex(), 0);
-    EXPECT_EQ(Combo()->itemText(0), TitleOf(Text::TimeSlots));
-    EXPECT_EQ(Combo()->itemText(1), TitleOf(Text::Conditions));
-    EXPECT_TRUE(Edit(nameEdit)->hasFocus());
+    EXPECT_EQ(Combo(typeCombo)->currentIndex(), 0);
+    EXPECT_EQ(Combo(typeCombo)->itemText(0), TitleOf(Text::TimeSlots));
+    EXPECT_EQ(Combo(typeCombo)->itemText(1), TitleOf(Text::Conditions));
+    EXPECT_TRUE(Edit(discriminatorName)->hasFocus());
     ExpectSlots();
     Click(IDCANCEL);
   });
@@ -26,9 +26,9 @@ TEST_F(Editor, ANewDiscriminatorOpensBlank) {
 }
 
 TEST_F(Editor, AnExistingOneShowsWhatItHolds) {
-  Modify(AddFile("1.old.xdct", oldFile), [] {
+  Modify(PutOldFile(), [] {
     EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifyDiscriminatorTitle));
-    EXPECT_EQ(Edit(nameEdit)->text(), "old");
+    EXPECT_EQ(Edit(discriminatorName)->text(), "old");
     EXPECT_EQ(Edit(descriptionEdit)->text(), "about");
     EXPECT_FALSE(IsTicked());
     Click(IDCANCEL);
@@ -37,15 +37,14 @@ TEST_F(Editor, AnExistingOneShowsWhatItHolds) {
 
 TEST_F(Editor, LabelsNameTheirControls) {
   Add([] {
-    const std::pair<int, Text> labels[] = {{nameEdit, Text::Name},
+    const std::pair<int, Text> labels[] = {{discriminatorName, Text::Name},
                                            {descriptionEdit, Text::Description},
                                            {typeCombo, Text::DiscriminatorType}};
     for (const auto& [id, text] : labels) {
       EXPECT_EQ(TopControl(id)->accessibleName(), TitleOf(text)) << id;
     }
     EXPECT_EQ(TopControl(setZeroCheck)->accessibleName(), "");
-    EXPECT_EQ(qobject_cast<QAbstractButton*>(TopControl(setZeroCheck))->text(),
-              TitleOf(Text::SetZeroOutsideSlot));
+    EXPECT_EQ(Caption(setZeroCheck), TitleOf(Text::SetZeroOutsideSlot));
     Click(IDCANCEL);
   });
 }
@@ -62,24 +61,24 @@ TEST_F(Editor, LinksThatCannotBeOpenedYetSayWhy) {
 TEST_F(Editor, ALongDescriptionAndAnUndoneLongNameAreNotCut) {
   const QByteArray description(40000, 'd');
   const QString path =
-      AddFile("1.old.xdct", "<main><id>1</id><name>" + QByteArray(100, 'n') +
+      PutFile("1.old.xdct", "<main><id>1</id><name>" + QByteArray(100, 'n') +
                                 "</name><description>" + description + "</description></main>");
   Modify(path, [&] {
     EXPECT_EQ(Edit(descriptionEdit)->text().size(), description.size());
-    Edit(nameEdit)->setSelection(0, 50);
-    Edit(nameEdit)->del();
-    EXPECT_EQ(Edit(nameEdit)->text().size(), 50);
-    Edit(nameEdit)->undo();
-    EXPECT_EQ(Edit(nameEdit)->text().size(), 100);
+    Edit(discriminatorName)->setSelection(0, 50);
+    Edit(discriminatorName)->del();
+    EXPECT_EQ(Edit(discriminatorName)->text().size(), 50);
+    Edit(discriminatorName)->undo();
+    EXPECT_EQ(Edit(discriminatorName)->text().size(), 100);
     Click(IDCANCEL);
   });
 }
 
 TEST_F(Editor, TypingANameAndReturnWritesTheFile) {
   const int result = Add([] {
-    Type(nameEdit, "Peak");
+    Type(discriminatorName, "Peak");
     Type(descriptionEdit, "When it is dear");
-    QTest::keyClick(Edit(descriptionEdit), Qt::Key_Return);
+    Press(descriptionEdit, Qt::Key_Return);
   });
   EXPECT_EQ(result, IDOK);
   EXPECT_TRUE(modified);
@@ -92,14 +91,13 @@ TEST_F(Editor, ARefusalIsToldAndTheDialogStaysWithItsState) {
   Add([] {
     TopControl(descriptionEdit)->setFocus();
     AnswerNextBox(Text::DiscriminatorNameMissing, QMessageBox::Ok);
-    QTest::keyClick(TopControl(descriptionEdit), Qt::Key_Return);
+    Press(descriptionEdit, Qt::Key_Return);
     EXPECT_EQ(TopWindow()->focusWidget(), TopControl(descriptionEdit));
-    Type(nameEdit, "a.b");
+    Type(discriminatorName, "a.b");
     AnswerNextBox(Text::NameNotAllowed, QMessageBox::Ok);
     Click(IDOK);
-    EXPECT_EQ(Edit(nameEdit)->text(), "a.b");
-    Edit(nameEdit)->clear();
-    Type(nameEdit, "ab");
+    EXPECT_EQ(Edit(discriminatorName)->text(), "a.b");
+    Type(discriminatorName, "ab");
     Type(descriptionEdit, "\"");
     AnswerNextBox(Text::DescriptionWithQuote, QMessageBox::Ok);
     Click(IDOK);
@@ -110,9 +108,9 @@ TEST_F(Editor, ARefusalIsToldAndTheDialogStaysWithItsState) {
 }
 
 TEST_F(Editor, ATakenNameIsRefused) {
-  AddFile("1.old.xdct", oldFile);
+  PutOldFile();
   Add([] {
-    Type(nameEdit, "OLD");
+    Type(discriminatorName, "OLD");
     AnswerNextBox(Text::DiscriminatorNameTaken, QMessageBox::Ok);
     Click(IDOK);
     Click(IDCANCEL);
@@ -122,10 +120,10 @@ TEST_F(Editor, ATakenNameIsRefused) {
 TEST_F(Editor, AFailedSaveIsToldAndCanBeTriedAgain) {
   // A directory stands where the file should go; the name differs in case, so that it isn't
   // "taken".
-  const QString path = AddFile("1.old.xdct", oldFile);
+  const QString path = PutOldFile();
   ASSERT_TRUE(QDir(directory.path()).mkdir("1.OLD.xdct"));
   const int result = Modify(path, [this] {
-    Edit(nameEdit)->setText("OLD");
+    Edit(discriminatorName)->setText("OLD");
     AnswerNextBox(Text::DiscriminatorNotSaved, QMessageBox::Ok);
     Click(IDOK);
     EXPECT_TRUE(Files().isEmpty());
@@ -137,7 +135,7 @@ TEST_F(Editor, AFailedSaveIsToldAndCanBeTriedAgain) {
 }
 
 TEST_F(Editor, EscapeAndCancelAndTheCloseBoxWriteNothing) {
-  const QString path = AddFile("1.old.xdct", oldFile);
+  const QString path = PutOldFile();
   const std::vector<std::function<void()>> waysOut = {
       [] { Click(IDCANCEL); },
       [] { QTest::keyClick(TopWindow(), Qt::Key_Escape); },
@@ -146,9 +144,9 @@ TEST_F(Editor, EscapeAndCancelAndTheCloseBoxWriteNothing) {
   for (const auto& leave : waysOut) {
     EXPECT_EQ(Modify(path,
                      [&] {
-                       Type(nameEdit, "x");
-                       Combo()->setFocus();
-                       QTest::keyClick(Combo(), Qt::Key_Down);
+                       Type(discriminatorName, "x");
+                       Combo(typeCombo)->setFocus();
+                       Press(typeCombo, Qt::Key_Down);
                        leave();
                      }),
               IDCANCEL);
@@ -158,14 +156,14 @@ TEST_F(Editor, EscapeAndCancelAndTheCloseBoxWriteNothing) {
 
 TEST_F(Editor, TheTypeIsSwitchedByKeyboard) {
   Add([] {
-    Combo()->setFocus();
-    QTest::keyClick(Combo(), Qt::Key_Down);
-    EXPECT_EQ(Combo()->currentIndex(), 1);
+    Combo(typeCombo)->setFocus();
+    Press(typeCombo, Qt::Key_Down);
+    EXPECT_EQ(Combo(typeCombo)->currentIndex(), 1);
     ExpectConditions();
-    QTest::keyClick(Combo(), Qt::Key_Up);
+    Press(typeCombo, Qt::Key_Up);
     ExpectSlots();
-    QTest::keyClick(Combo(), Qt::Key_Down);
-    Type(nameEdit, "State");
+    Press(typeCombo, Qt::Key_Down);
+    Type(discriminatorName, "State");
     Click(IDOK);
   });
   ASSERT_EQ(Files().size(), 1);
@@ -176,21 +174,18 @@ TEST_F(Editor, TheTypeIsSwitchedByKeyboard) {
 
 TEST_F(Editor, TheWheelWithoutFocusLeavesTheType) {
   Add([] {
-    Edit(nameEdit)->setFocus();
-    const QPointF centre = Combo()->rect().center();
-    QWheelEvent wheel(centre, Combo()->mapToGlobal(centre), {}, QPoint(0, -120), Qt::NoButton, {},
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(Combo(), &wheel);
-    EXPECT_EQ(Combo()->currentIndex(), 0);
+    Edit(discriminatorName)->setFocus();
+    TurnWheel(typeCombo, -120);
+    EXPECT_EQ(Combo(typeCombo)->currentIndex(), 0);
     Click(IDCANCEL);
   });
 }
 
 TEST_F(Editor, AnUnknownTypeShowsConditionsAndKeepsItsWord) {
   const QString path =
-      AddFile("1.old.xdct", "<main><id>1</id><name>old</name><type>SEASONS</type></main>");
+      PutFile("1.old.xdct", "<main><id>1</id><name>old</name><type>SEASONS</type></main>");
   Modify(path, [] {
-    EXPECT_EQ(Combo()->currentIndex(), 1);
+    EXPECT_EQ(Combo(typeCombo)->currentIndex(), 1);
     ExpectConditions();
     Click(IDOK);
   });
@@ -198,14 +193,14 @@ TEST_F(Editor, AnUnknownTypeShowsConditionsAndKeepsItsWord) {
 }
 
 TEST_F(Editor, OnAnEmbeddedInstallationTheTypeIsNotOffered) {
-  host->AddDevice(L"KORVAXEMBEDDED");
+  host->AddDevice(embeddedDriver);
   Add([] {
     ExpectVisible({hourTypesLink}, {typeCombo, typeLabel});
-    EXPECT_EQ(Edit(descriptionEdit)->width(), Edit(nameEdit)->width());
+    EXPECT_EQ(Edit(descriptionEdit)->width(), Edit(discriminatorName)->width());
     Click(IDCANCEL);
   });
   const QString path =
-      AddFile("1.old.xdct", "<main><id>1</id><name>old</name><type>CONDITIONS</type></main>");
+      PutFile("1.old.xdct", "<main><id>1</id><name>old</name><type>CONDITIONS</type></main>");
   Modify(path, [] {
     ExpectConditions();
     Click(IDCANCEL);
@@ -214,13 +209,13 @@ TEST_F(Editor, OnAnEmbeddedInstallationTheTypeIsNotOffered) {
 
 TEST_F(Editor, NoMoreThanEightyCharactersCanBeTyped) {
   Add([] {
-    Type(nameEdit, std::string(90, 'n').c_str());
-    EXPECT_EQ(Edit(nameEdit)->text().size(), 80);
+    Type(discriminatorName, QString(90, 'n'));
+    EXPECT_EQ(Edit(discriminatorName)->text().size(), 80);
     QApplication::clipboard()->setText(QString(200, 'p'));
-    Edit(nameEdit)->clear();
-    Edit(nameEdit)->paste();
-    EXPECT_EQ(Edit(nameEdit)->text(), QString(80, 'p'));
-    Type(descriptionEdit, std::string(300, 'd').c_str());
+    Edit(discriminatorName)->clear();
+    Edit(discriminatorName)->paste();
+    EXPECT_EQ(Edit(discriminatorName)->text(), QString(80, 'p'));
+    Type(descriptionEdit, QString(300, 'd'));
     EXPECT_EQ(Edit(descriptionEdit)->text().size(), 300);
     Click(IDCANCEL);
   });
@@ -229,13 +224,13 @@ TEST_F(Editor, NoMoreThanEightyCharactersCanBeTyped) {
 TEST_F(Editor, ALongerNameThatWasLoadedIsNotCut) {
   const QByteArray name(100, 'n');
   const QString path =
-      AddFile("1." + name + ".xdct", "<main><id>1</id><name>" + name + "</name></main>");
+      PutFile("1." + name + ".xdct", "<main><id>1</id><name>" + name + "</name></main>");
   const int result = Modify(path, [] {
-    EXPECT_EQ(Edit(nameEdit)->text().size(), 100);
-    Type(nameEdit, "x");
-    EXPECT_EQ(Edit(nameEdit)->text().size(), 100);
-    QTest::keyClick(Edit(nameEdit), Qt::Key_Delete);
-    EXPECT_EQ(Edit(nameEdit)->text().size(), 99);
+    EXPECT_EQ(Edit(discriminatorName)->text().size(), 100);
+    QTest::keyClicks(Edit(discriminatorName), "x");
+    EXPECT_EQ(Edit(discriminatorName)->text().size(), 100);
+    Press(discriminatorName, Qt::Key_Delete);
+    EXPECT_EQ(Edit(discriminatorName)->text().size(), 99);
     Click(IDOK);
   });
   EXPECT_EQ(result, IDOK);
@@ -244,14 +239,14 @@ TEST_F(Editor, ALongerNameThatWasLoadedIsNotCut) {
 
 TEST_F(Editor, WhatADocumentCannotHoldIsNotAccepted) {
   Add([] {
-    Edit(nameEdit)->insert(QString(QChar(0xFFFF)));
-    EXPECT_EQ(Edit(nameEdit)->text(), "");
+    Edit(discriminatorName)->insert(QString(QChar(0xFFFF)));
+    EXPECT_EQ(Edit(discriminatorName)->text(), "");
     Click(IDCANCEL);
   });
 }
 
 TEST_F(Editor, AFileThatCannotBeLoadedCancelsAtOnce) {
-  const QVWideString path = ToWide(AddFile("1.old.xdct", "<main>"));
+  const QVWideString path = ToWide(PutFile("1.old.xdct", "<main>"));
   CDlgAddModifyDiscriminator editor(deviceGroups.Root(), nullptr, &path);
   EXPECT_EQ(editor.DoModal(), IDCANCEL);
   EXPECT_FALSE(editor.isVisible());
@@ -261,8 +256,13 @@ TEST_F(Editor, AFileThatCannotBeLoadedCancelsAtOnce) {
 
 TEST_F(Editor, ControlsStandInTheirOrderWithoutOverlap) {
   Add([] {
-    const QList<int> column = {
-        nameLabel, nameEdit, descriptionLabel, descriptionEdit, hourTypesLink, setZeroCheck, IDOK};
+    const QList<int> column = {discriminatorNameLabel,
+                               discriminatorName,
+                               descriptionLabel,
+                               descriptionEdit,
+                               hourTypesLink,
+                               setZeroCheck,
+                               IDOK};
     for (int i = 1; i < column.size(); ++i) {
       EXPECT_GE(TopControl(column[i])->y(), TopControl(column[i - 1])->geometry().bottom())
           << column[i];

@@ -1,157 +1,137 @@
 // The dialogs of a discriminator's parts, opened from its editor, down to the file.
-
 #include "tests/editor/ui/EditorFixture.h"
 
 namespace qv {
 namespace {
 
-/// Controls of the dialogs of hour types.
-constexpr int hourTypeName = 5350;
-constexpr int addHourType = 5348;
-
-/// Adds an hour type in the dialog that the next click opens, and ends that dialog by `end`.
-void AddHourTypeNext(int end) {
+/// Makes the hour type "peak" in the editor that the next click opens.
+void MakeNextHourType(int end) {
   WhenNextWindow([=] {
-    EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::HourTypeListTitle));
-    WhenNextWindow([] {
-      QTest::keyClicks(TopControl(hourTypeName), "peak");
-      Click(IDOK);
-    });
-    Click(addHourType);
+    Type(hourName, "peak");
     Click(end);
   });
 }
 
-TEST_F(Editor, HourTypesAreAddedThroughTheirButtonAndSaved) {
-  const QString path = AddFile("1.old.xdct", oldFile);
-  Modify(path, [&] {
-    AddHourTypeNext(IDOK);
-    Click(hourTypesLink);
-    EXPECT_EQ(Content("1.old.xdct"), oldFile) << "nothing reaches the disk before OK";
-    Click(IDOK);
-  });
-  EXPECT_TRUE(modified);
-  EXPECT_TRUE(Content("1.old.xdct").contains("<name>peak</name>"));
-  EXPECT_FALSE(Content("1.old.xdct").contains("<revision>r</revision>"));
+/// Adds that hour type to the list on top, and ends that.
+void AddHourType(int end) {
+  EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::HourTypeListTitle));
+  MakeNextHourType(IDOK);
+  Click(addButton);
+  Click(end);
 }
 
-TEST_F(Editor, HourTypesConfirmedWithoutAChangeKeepTheRevision) {
-  const QString path = AddFile("1.old.xdct", oldFile);
-  Modify(path, [&] {
-    WhenNextWindow([] { Click(IDOK); });
-    Click(hourTypesLink);
-    Click(IDOK);
-  });
-  EXPECT_FALSE(modified);
-  EXPECT_TRUE(Content("1.old.xdct").contains("<revision>r</revision>"));
-}
-
-TEST_F(Editor, CancelledHourTypesLeaveTheDiscriminatorAsItWas) {
-  const QString path = AddFile("1.old.xdct", oldFile);
-  Modify(path, [&] {
-    AddHourTypeNext(IDCANCEL);
-    Click(hourTypesLink);
-    Click(IDOK);
-  });
-  EXPECT_FALSE(modified);
-  EXPECT_FALSE(Content("1.old.xdct").contains("peak"));
-}
-
-TEST_F(Editor, CancellingTheEditorDropsConfirmedHourTypes) {
-  const QString path = AddFile("1.old.xdct", oldFile);
-  Modify(path, [&] {
-    AddHourTypeNext(IDOK);
-    Click(hourTypesLink);
-    Click(IDCANCEL);
-  });
-  EXPECT_EQ(Content("1.old.xdct"), oldFile);
-}
-
-TEST_F(Editor, ADayTypeWithASlotAndAnHourTypeIsMadeThroughAllEditors) {
-  const QString path = AddFile("1.old.xdct", oldFile);
-  Modify(path, [&] {
-    WhenNextWindow([] {    // the day types
-      WhenNextWindow([] {  // a day type
-        QTest::keyClicks(TopControl(5299), "whole");
-        WhenNextWindow([] {    // a slot
-          WhenNextWindow([] {  // an hour type
-            QTest::keyClicks(TopControl(hourTypeName), "peak");
-            Click(IDOK);
-          });
-          Click(addHourType);
-          auto* hours = qobject_cast<QLineEdit*>(TopControl(5320));
-          hours->setFocus();
-          hours->selectAll();
-          QTest::keyClicks(hours, "24");
-          Click(IDOK);
-        });
-        Click(5348);
-        Click(IDOK);
-      });
-      Click(5348);
-      Click(IDOK);
+class PartsOfDiscriminator : public Editor {
+ protected:
+  /// Modifies the discriminator "old": its button opens the hour types, in which `play` plays the
+  /// user, and then the editor ends.
+  void PlayInHourTypes(const std::function<void()>& play, int end) {
+    Modify(PutOldFile(), [&] {
+      WhenNextWindow(play);
+      Click(hourTypesLink);
+      EXPECT_EQ(Saved(), oldFile) << "nothing reaches the disk before OK";
+      Click(end);
     });
-    Click(dayTypesLink);
-    Click(IDOK);
-  });
+  }
+
+  QByteArray Saved() const { return Content("1.old.xdct"); }
+};
+
+TEST_F(PartsOfDiscriminator, HourTypesAreAddedThroughTheirButtonAndSaved) {
+  PlayInHourTypes([] { AddHourType(IDOK); }, IDOK);
   EXPECT_TRUE(modified);
-  const QByteArray content = Content("1.old.xdct");
-  EXPECT_TRUE(content.contains("<name>whole</name>"));
-  EXPECT_TRUE(content.contains("<name>peak</name>"));
-  EXPECT_TRUE(content.contains("<to>24:00</to>"));
+  EXPECT_TRUE(Saved().contains("<name>peak</name>"));
+  EXPECT_FALSE(Saved().contains("<revision>r</revision>"));
 }
 
-/// Makes a day type with a slot and an hour type, in which each editor ends as told.
-void MakeDayType(int daysEnd, int dayEnd, int slotEnd, int hourEnd) {
-  WhenNextWindow([=] {    // the day types
-    WhenNextWindow([=] {  // a day type
-      QTest::keyClicks(TopControl(5299), "whole");
-      WhenNextWindow([=] {    // a slot
-        WhenNextWindow([=] {  // an hour type
-          QTest::keyClicks(TopControl(hourTypeName), "peak");
-          Click(hourEnd);
-        });
-        Click(addHourType);
-        QTest::keyClick(TopControl(5320), Qt::Key_Up);
-        Click(slotEnd);
-      });
-      Click(5348);
-      if (dayEnd == IDOK) {
-        AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
-      }
-      Click(dayEnd);
-    });
-    Click(5348);
-    Click(daysEnd);
+TEST_F(PartsOfDiscriminator, HourTypesConfirmedWithoutAChangeKeepTheRevision) {
+  PlayInHourTypes([] { Click(IDOK); }, IDOK);
+  EXPECT_FALSE(modified);
+  EXPECT_TRUE(Saved().contains("<revision>r</revision>"));
+}
+
+TEST_F(PartsOfDiscriminator, CancelledHourTypesLeaveTheDiscriminatorAsItWas) {
+  PlayInHourTypes([] { AddHourType(IDCANCEL); }, IDOK);
+  EXPECT_FALSE(modified);
+  EXPECT_FALSE(Saved().contains("peak"));
+}
+
+TEST_F(PartsOfDiscriminator, CancellingTheEditorDropsConfirmedHourTypes) {
+  PlayInHourTypes([] { AddHourType(IDOK); }, IDCANCEL);
+  EXPECT_EQ(Saved(), oldFile);
+}
+
+/// A day type "whole" that is made of one slot of a new hour type: when the slot ends, and how each
+/// editor does.
+struct NewDayType {
+  QString toHour = "1";
+  int days = IDOK;
+  int day = IDOK;
+  int slot = IDOK;
+  int hour = IDOK;
+
+  /// Whether the user is asked about a rest of the day without slots.
+  bool IsAskedAbout() const { return day == IDOK && (slot != IDOK || toHour != "24"); }
+};
+
+void MakeNextSlot(const NewDayType& made) {
+  WhenNextWindow([=] {
+    MakeNextHourType(made.hour);
+    Click(addButton);
+    Type(toHours, made.toHour);
+    Click(made.slot);
+  });
+}
+
+void MakeNextDayType(const NewDayType& made) {
+  WhenNextWindow([=] {
+    Type(dayName, "whole");
+    MakeNextSlot(made);
+    Click(addButton);
+    if (made.IsAskedAbout()) {
+      AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
+    }
+    Click(made.day);
+  });
+}
+
+/// Makes the day type, from the editor of the discriminator on.
+void MakeDayType(const NewDayType& made) {
+  WhenNextWindow([=] {
+    MakeNextDayType(made);
+    Click(addButton);
+    Click(made.days);
   });
   Click(dayTypesLink);
+  Click(IDOK);
 }
 
-TEST_F(Editor, CancellingAtAnyLevelTakesBackWhatLiesBelowIt) {
-  struct Case {
-    int days, day, slot, hour;
-    const char* kept;  // of the names that were entered
-  };
-  Modify(AddFile("1.old.xdct", oldFile), [] { Click(IDOK); });
-  const QByteArray untouched = Content("1.old.xdct");
-  // An hour type that was made in the editor of a slot outlives a cancel of the day type.
-  for (const Case& ends :
-       {Case{IDCANCEL, IDOK, IDOK, IDOK, ""}, Case{IDOK, IDCANCEL, IDOK, IDOK, "peak"},
-        Case{IDOK, IDOK, IDCANCEL, IDOK, "whole"}, Case{IDOK, IDCANCEL, IDCANCEL, IDOK, ""},
-        Case{IDOK, IDOK, IDOK, IDOK, "whole peak"}}) {
-    const QString path = AddFile("1.old.xdct", oldFile);
-    Modify(path, [&] {
-      MakeDayType(ends.days, ends.day, ends.slot, ends.hour);
-      Click(IDOK);
-    });
-    const QByteArray content = Content("1.old.xdct");
-    const QByteArray kept = ends.kept;
-    EXPECT_EQ(content.contains("<name>whole</name>"), kept.contains("whole")) << ends.kept;
-    EXPECT_EQ(content.contains("<name>peak</name>"), kept.contains("peak")) << ends.kept;
+TEST_F(PartsOfDiscriminator, ADayTypeWithASlotAndAnHourTypeIsMadeThroughAllEditors) {
+  Modify(PutOldFile(), [] { MakeDayType({.toHour = "24"}); });
+  EXPECT_TRUE(modified);
+  EXPECT_TRUE(Saved().contains("<name>whole</name>"));
+  EXPECT_TRUE(Saved().contains("<name>peak</name>"));
+  EXPECT_TRUE(Saved().contains("<to>24:00</to>"));
+}
+
+TEST_F(PartsOfDiscriminator, CancellingAtAnyLevelTakesBackWhatLiesBelowIt) {
+  const std::pair<NewDayType, QByteArray> cases[] = {
+      {{.days = IDCANCEL}, ""},
+      // An hour type that was made in the editor of a slot outlives a cancel of the day type.
+      {{.day = IDCANCEL}, "peak"},
+      {{.slot = IDCANCEL}, "whole"},
+      {{.day = IDCANCEL, .slot = IDCANCEL}, ""},
+      {{}, "whole peak"}};
+  Modify(PutOldFile(), [] { Click(IDOK); });
+  const QByteArray untouched = Saved();
+  for (const auto& [made, kept] : cases) {
+    SCOPED_TRACE("kept: " + kept.toStdString());
+    Modify(PutOldFile(), [&made = made] { MakeDayType(made); });
+    EXPECT_EQ(Saved().contains("<name>whole</name>"), kept.contains("whole"));
+    EXPECT_EQ(Saved().contains("<name>peak</name>"), kept.contains("peak"));
     // The list of day types knows nothing of an hour type that was made on the way.
-    EXPECT_EQ(modified, kept.contains("whole")) << ends.kept;
-    EXPECT_EQ(content.contains("<revision>r</revision>"), !modified) << ends.kept;
-    EXPECT_EQ(content == untouched, kept.isEmpty()) << "the whole document";
+    EXPECT_EQ(modified, kept.contains("whole"));
+    EXPECT_EQ(Saved().contains("<revision>r</revision>"), !modified);
+    EXPECT_EQ(Saved() == untouched, kept.isEmpty()) << "the whole document";
   }
 }
 

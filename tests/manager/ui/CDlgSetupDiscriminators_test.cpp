@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <QFile>
-#include <QGroupBox>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPointer>
@@ -16,8 +13,8 @@ namespace {
 
 TEST_F(SetupDiscriminators, AnEmptyDirectoryGivesAnEmptyListWithAddAlone) {
   Run([] {
-    EXPECT_EQ(List()->topLevelItemCount(), 0);
-    ExpectButtons(true, false, false);
+    EXPECT_EQ(TheList()->topLevelItemCount(), 0);
+    ExpectNoneSelected();
     Click(exitButton);
   });
 }
@@ -25,7 +22,7 @@ TEST_F(SetupDiscriminators, AnEmptyDirectoryGivesAnEmptyListWithAddAlone) {
 TEST_F(SetupDiscriminators, AMissingDirectoryGivesAnEmptyList) {
   host->setup.cfgPath = L"/no/such/directory/";
   Run([] {
-    EXPECT_EQ(List()->topLevelItemCount(), 0);
+    EXPECT_EQ(TheList()->topLevelItemCount(), 0);
     Click(exitButton);
   });
 }
@@ -35,10 +32,10 @@ TEST_F(SetupDiscriminators, RowsShowNameDescriptionAndPictureSortedByName) {
   AddFile("2", "Alpha", "first");
   AddFile("3", "_gamma", "underscore stands before letters");
   Run([] {
-    EXPECT_EQ(Names(), QStringList({"_gamma", "Alpha", "beta"}));
-    EXPECT_EQ(List()->topLevelItem(1)->text(1), "first");
-    EXPECT_FALSE(List()->topLevelItem(0)->icon(0).isNull());
-    EXPECT_EQ(List()->selectedItems().size(), 0);
+    EXPECT_EQ(Shown(), QStringList({"_gamma", "Alpha", "beta"}));
+    EXPECT_EQ(TheList()->topLevelItem(1)->text(1), "first");
+    EXPECT_FALSE(TheList()->topLevelItem(0)->icon(0).isNull());
+    EXPECT_EQ(TheList()->selectedItems().size(), 0);
     Click(exitButton);
   });
 }
@@ -50,9 +47,9 @@ TEST_F(SetupDiscriminators, TextsComeByNumber) {
     EXPECT_EQ(TopControl(modifyButton)->accessibleName(), TitleOf(Text::Modify));
     EXPECT_EQ(TopControl(removeButton)->accessibleName(), TitleOf(Text::Remove));
     EXPECT_EQ(TopControl(exitButton)->accessibleName(), TitleOf(Text::Exit));
-    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(box))->title(), TitleOf(Text::Discriminators));
-    EXPECT_EQ(List()->headerItem()->text(0), TitleOf(Text::Name));
-    EXPECT_EQ(List()->headerItem()->text(1), TitleOf(Text::Description));
+    EXPECT_EQ(Caption(discriminatorsBox), TitleOf(Text::Discriminators));
+    EXPECT_EQ(TheList()->headerItem()->text(0), TitleOf(Text::Name));
+    EXPECT_EQ(TheList()->headerItem()->text(1), TitleOf(Text::Description));
     Click(exitButton);
   });
 }
@@ -61,8 +58,8 @@ TEST_F(SetupDiscriminators, AMissingPictureLeavesRowsAndButtonsWithoutOne) {
   host->setup.imagePath = L"/no/such/images/";
   AddFile("1", "alpha", "");
   Run([] {
-    EXPECT_TRUE(List()->topLevelItem(0)->icon(0).isNull());
-    EXPECT_TRUE(qobject_cast<QPushButton*>(TopControl(addButton))->icon().isNull());
+    EXPECT_TRUE(TheList()->topLevelItem(0)->icon(0).isNull());
+    EXPECT_TRUE(TopControl<QPushButton>(addButton)->icon().isNull());
     Click(exitButton);
   });
 }
@@ -70,10 +67,9 @@ TEST_F(SetupDiscriminators, AMissingPictureLeavesRowsAndButtonsWithoutOne) {
 TEST_F(SetupDiscriminators, ConditionsAreHiddenOnAnEmbeddedInstallation) {
   AddFile("1", "alpha", "", "CONDITIONS");
   AddFile("2", "beta", "");
-  ASSERT_TRUE(host->mainCfg.Parse(
-      "<c><commSystem><device><driver>KORVAXEMBEDDED</driver></device></commSystem></c>"));
+  host->AddDevice(embeddedDriver);
   Run([] {
-    EXPECT_EQ(Names(), QStringList({"beta"}));
+    EXPECT_EQ(Shown(), QStringList({"beta"}));
     Click(exitButton);
   });
   EXPECT_TRUE(QFile::exists(directory.filePath("1.alpha.xdct")));
@@ -83,14 +79,14 @@ TEST_F(SetupDiscriminators, ButtonsFollowTheSelection) {
   AddFile("1", "alpha", "");
   AddFile("2", "beta", "");
   Run([] {
-    ExpectButtons(true, false, false);
-    ClickRow(0);
-    ExpectButtons(true, true, true);
-    ClickRow(1, Qt::ControlModifier);
-    ExpectButtons(true, false, true);
-    ClickRow(0, Qt::ControlModifier);
-    ClickRow(1, Qt::ControlModifier);
-    ExpectButtons(true, false, false);
+    ExpectNoneSelected();
+    ClickRow(discriminatorList, 0);
+    ExpectOneSelected();
+    ClickRow(discriminatorList, 1, Qt::ControlModifier);
+    ExpectSeveralSelected();
+    ClickRow(discriminatorList, 0, Qt::ControlModifier);
+    ClickRow(discriminatorList, 1, Qt::ControlModifier);
+    ExpectNoneSelected();
     Click(exitButton);
   });
 }
@@ -100,7 +96,7 @@ TEST_F(SetupDiscriminators, EveryWayOutWithoutAChangeGivesCancel) {
       [] { Click(exitButton); },
       [] { QTest::keyClick(TopWindow(), Qt::Key_Escape); },
       [] { TopWindow()->close(); },
-      [] { QTest::keyClick(List(), Qt::Key_Return); },
+      [] { Press(discriminatorList, Qt::Key_Return); },
   };
   for (const auto& leave : waysOut) {
     EXPECT_EQ(Run(leave), IDCANCEL);
@@ -110,9 +106,9 @@ TEST_F(SetupDiscriminators, EveryWayOutWithoutAChangeGivesCancel) {
 TEST_F(SetupDiscriminators, TheFirstColumnHasHalfTheRoomAndTheSecondTheRest) {
   Run([] {
     const auto expectColumns = [] {
-      const int room = List()->viewport()->width();
-      EXPECT_EQ(List()->header()->sectionSize(0), room / 2);
-      EXPECT_EQ(List()->header()->sectionSize(1), room - room / 2);
+      const int room = TheList()->viewport()->width();
+      EXPECT_EQ(TheList()->header()->sectionSize(0), room / 2);
+      EXPECT_EQ(TheList()->header()->sectionSize(1), room - room / 2);
     };
     expectColumns();
     TopWindow()->resize(TopWindow()->size() + QSize(101, 30));
@@ -140,9 +136,9 @@ TEST_F(SetupDiscriminators, ControlsFillTheWindowWithoutOverlap) {
     for (const QSize& size : {TopWindow()->size(), QSize(900, 700), QSize(1600, 1000)}) {
       TopWindow()->resize(size);
       Settle();
-      const QRect inside = TopControl(box)->geometry();
+      const QRect inside = TopControl(discriminatorsBox)->geometry();
       EXPECT_TRUE(TopWindow()->rect().contains(inside));
-      for (int id : {list, addButton, modifyButton, removeButton}) {
+      for (int id : {discriminatorList, addButton, modifyButton, removeButton}) {
         EXPECT_TRUE(inside.contains(TopControl(id)->geometry())) << id;
       }
       EXPECT_FALSE(inside.intersects(TopControl(exitButton)->geometry()));
@@ -156,9 +152,9 @@ TEST_F(SetupDiscriminators, ControlsFillTheWindowWithoutOverlap) {
 TEST_F(SetupDiscriminators, TheListHasTheFocusAndTabVisitsTheButtons) {
   AddFile("1", "alpha", "");
   Run([] {
-    EXPECT_TRUE(List()->hasFocus());
-    ClickRow(0);
-    for (int id : {addButton, modifyButton, removeButton, exitButton, list}) {
+    EXPECT_TRUE(TheList()->hasFocus());
+    ClickRow(discriminatorList, 0);
+    for (int id : {addButton, modifyButton, removeButton, exitButton, discriminatorList}) {
       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
       EXPECT_EQ(QApplication::focusWidget(), TopControl(id)) << id;
     }
@@ -174,13 +170,11 @@ TEST_F(SetupDiscriminators, WithoutServicesTheResultIsMinusOne) {
 }
 
 TEST_F(SetupDiscriminators, MarkupInNamesIsShownAsItStands) {
-  QFile file(directory.filePath("1.a&b.xdct"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("<main><id>1</id><name>a&amp;b</name><description>&lt;b&gt;</description></main>");
-  file.close();
+  PutFile("1.a&b.xdct",
+          "<main><id>1</id><name>a&amp;b</name><description>&lt;b&gt;</description></main>");
   Run([] {
-    EXPECT_EQ(Names(), QStringList({"a&b"}));
-    EXPECT_EQ(List()->topLevelItem(0)->text(1), "<b>");
+    EXPECT_EQ(Shown(), QStringList({"a&b"}));
+    EXPECT_EQ(TheList()->topLevelItem(0)->text(1), "<b>");
     Click(exitButton);
   });
 }
@@ -189,27 +183,24 @@ TEST_F(SetupDiscriminators, MarkupInNamesIsShownAsItStands) {
 class SlowReading : public SetupDiscriminators {
  protected:
   void SetUp() override {
-    SetupDiscriminators::SetUp();
-    QFile file(directory.filePath("big"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("<main>" + QByteArray("<leaf>text</leaf>").repeated(200'000) + "</main>");
+    const auto leaves = QByteArray("<leaf>text</leaf>").repeated(200'000);
+    const QString big = PutFile("big", "<main>" + leaves + "</main>");
     for (int i = 0; i < 15; ++i) {
-      ASSERT_TRUE(file.link(directory.filePath(QStringLiteral("%1.n.xdct").arg(i))));
+      ASSERT_TRUE(QFile::link(big, directory.filePath(QStringLiteral("%1.n.xdct").arg(i))));
     }
   }
 };
 
 TEST_F(SlowReading, CancellingTheFirstReadingEndsTheDialog) {
   CDlgSetupDiscriminators dialog(nullptr, nullptr);
-  const int result = Drive([&] { return dialog.DoModal(); },
-                           [] {
-                             auto* progress = qobject_cast<ProgressDialog*>(TopWindow());
-                             ASSERT_TRUE(progress);
-                             auto* cancel = progress->findChild<QPushButton*>();
-                             ASSERT_TRUE(cancel);
-                             QTest::mouseClick(cancel, Qt::LeftButton);
-                             progress->hide();
-                           });
+  const int result = Play(dialog, [] {
+    auto* progress = qobject_cast<ProgressDialog*>(TopWindow());
+    ASSERT_TRUE(progress);
+    auto* cancel = progress->findChild<QPushButton*>();
+    ASSERT_TRUE(cancel);
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    progress->hide();
+  });
   EXPECT_EQ(result, IDCANCEL);
   EXPECT_FALSE(dialog.isVisible());
 }
@@ -234,7 +225,7 @@ class SlowAdd {
       Then([] { Click(addButton); });
     } else if (m_next == 1 && top && top->findChild<QLineEdit*>()) {
       Then([] {
-        qobject_cast<QLineEdit*>(TopControl(nameEdit))->setText(QStringLiteral("Peak"));
+        Edit(discriminatorName)->setText(QStringLiteral("Peak"));
         Click(IDOK);
       });
     } else if (m_next == 2 && qobject_cast<CDlgSetupDiscriminators*>(top) && offered.size() == 2) {

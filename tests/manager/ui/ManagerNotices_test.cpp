@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <utility>
 #include <vector>
 
@@ -24,13 +22,13 @@ class WatchingGuids : public QVVornelGuids {
 TEST_F(SetupDiscriminators, ANoticeFindsOnTheScreenWhatTheListHolds) {
   AddFile("1", "alpha", "");
   AddFile("2", "beta", "");
-  WatchingGuids guids(&Names);
+  WatchingGuids guids(&Shown);
   QVVornelGuids* before = QVVornelGuids::Install(&guids);
   Run([] {
     EditNext("gamma", IDOK);
     Click(addButton);
-    ClickRow(0);
-    ClickRow(1, Qt::ShiftModifier);
+    ClickRow(discriminatorList, 0);
+    ClickRow(discriminatorList, 1, Qt::ShiftModifier);
     AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
     Click(removeButton);
     Click(exitButton);

@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QMenu>
-#include <QPushButton>
 #include <QTimer>
 #include <map>
 
@@ -16,18 +13,17 @@ TEST_F(SetupDiscriminators, AddMakesAFileARowAndAnEntry) {
   XmlDocument groups;
   groups.Create(L"deviceGroups");
   CDlgSetupDiscriminators dialog(groups.Root(), nullptr);
-  const int result = Drive([&] { return dialog.DoModal(); },
-                           [] {
-                             EditNext("Peak", IDOK);
-                             Click(addButton);
-                             EXPECT_EQ(Names(), QStringList{"Peak"});
-                             EXPECT_TRUE(List()->selectedItems().isEmpty());
-                             ExpectButtons(true, false, false);
-                             EditNext("Night", IDOK);
-                             QTest::keyClick(List(), Qt::Key_Insert);
-                             EXPECT_EQ(Names(), QStringList({"Night", "Peak"}));
-                             Click(exitButton);
-                           });
+  const int result = Play(dialog, [] {
+    EditNext("Peak", IDOK);
+    Click(addButton);
+    EXPECT_EQ(Shown(), QStringList{"Peak"});
+    EXPECT_TRUE(TheList()->selectedItems().isEmpty());
+    ExpectNoneSelected();
+    EditNext("Night", IDOK);
+    Press(discriminatorList, Qt::Key_Insert);
+    EXPECT_EQ(Shown(), QStringList({"Night", "Peak"}));
+    Click(exitButton);
+  });
   EXPECT_EQ(result, IDOK);
   EXPECT_EQ(host->guids.notices, (std::vector<int>{8, 5, 8, 5}));
   EXPECT_EQ(std::distance(groups.Root()->Node(L"devices")->ChildsBegin(),
@@ -45,24 +41,19 @@ TEST_F(SetupDiscriminators, TheCloseBoxGivesCancelAlsoAfterAChange) {
 }
 
 TEST_F(SetupDiscriminators, AFileWithoutIdIsSavedUnderANewOneAndHasNoEntry) {
-  QFile file(directory.filePath(".old.xdct"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("<main><name>old</name></main>");
-  file.close();
+  PutFile(".old.xdct", "<main><name>old</name></main>");
   XmlDocument groups;
   groups.Create(L"deviceGroups");
   CDlgSetupDiscriminators dialog(groups.Root(), nullptr);
-  Drive([&] { return dialog.DoModal(); },
-        [] {
-          EXPECT_EQ(Names(), QStringList{"old"});
-          ClickRow(0);
-          EditNext("old", IDOK);
-          Click(modifyButton);
-          Click(exitButton);
-        });
-  const auto files = QDir(directory.path()).entryList(QDir::Files | QDir::Hidden);
-  ASSERT_EQ(files.size(), 1);
-  EXPECT_EQ(files[0].size(), 36 + QString(".old.xdct").size());
+  Play(dialog, [] {
+    EXPECT_EQ(Shown(), QStringList{"old"});
+    ClickRow(discriminatorList, 0);
+    EditNext("old", IDOK);
+    Click(modifyButton);
+    Click(exitButton);
+  });
+  ASSERT_EQ(Files().size(), 1);
+  EXPECT_EQ(Files()[0].size(), 36 + QString(".old.xdct").size());
   EXPECT_FALSE(groups.Root()->Node(L"devices"));
 }
 
@@ -80,21 +71,19 @@ TEST_F(SetupDiscriminators, FilesFromAnywhereAreShownOrLeftOutAndDoNoHarm) {
       {"1.path.xdct", "<main><id>1</id><name>../../path</name></main>"},
   };
   for (const auto& [name, content] : files) {
-    QFile file(directory.filePath(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
+    PutFile(name, content);
   }
   Run([] {
-    EXPECT_EQ(Names(), QStringList({"guid", "wide"}));
+    EXPECT_EQ(Shown(), QStringList({"guid", "wide"}));
     for (int row = 0; row < 2; ++row) {
-      ClickRow(row);
-      EditNext(Names()[row], IDOK);
+      ClickRow(discriminatorList, row);
+      EditNext(Shown()[row], IDOK);
       Click(modifyButton);
     }
-    EXPECT_EQ(Names(), QStringList({"guid", "wide"}));
+    EXPECT_EQ(Shown(), QStringList({"guid", "wide"}));
     Click(exitButton);
   });
-  EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files).size(), static_cast<int>(files.size()));
+  EXPECT_EQ(Files().size(), static_cast<int>(files.size()));
 }
 
 TEST_F(SetupDiscriminators, EscapeAfterAnAddGivesCancelAlthoughTheFileIsThere) {
@@ -104,7 +93,7 @@ TEST_F(SetupDiscriminators, EscapeAfterAnAddGivesCancelAlthoughTheFileIsThere) {
               QTest::keyClick(TopWindow(), Qt::Key_Escape);
             }),
             IDCANCEL);
-  EXPECT_EQ(QDir(directory.path()).entryList({"*.Peak.xdct"}).size(), 1);
+  EXPECT_EQ(Files().filter(".Peak.xdct").size(), 1);
   EXPECT_TRUE(host->mainCfg.Root()->Node(L"deviceGroups")->Node(L"devices"));
 }
 
@@ -112,7 +101,7 @@ TEST_F(SetupDiscriminators, ACancelledAddChangesNothing) {
   EXPECT_EQ(Run([] {
               EditNext("Peak", IDCANCEL);
               Click(addButton);
-              EXPECT_TRUE(Names().isEmpty());
+              EXPECT_TRUE(Shown().isEmpty());
               Click(exitButton);
             }),
             IDCANCEL);
@@ -123,30 +112,25 @@ TEST_F(SetupDiscriminators, ADoubleClickOrModifyOpensTheRow) {
   AddFile("1", "alpha", "");
   EXPECT_EQ(Run([] {
               EditNext("beta", IDOK);
-              const QRect row = List()->visualItemRect(List()->topLevelItem(0));
-              QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, row.center());
-              EXPECT_EQ(Names(), QStringList{"beta"});
-              ClickRow(0);
+              DoubleClickRow(discriminatorList, 0);
+              EXPECT_EQ(Shown(), QStringList{"beta"});
+              ClickRow(discriminatorList, 0);
               EditNext("gamma", IDOK);
               Click(modifyButton);
-              EXPECT_EQ(Names(), QStringList{"gamma"});
+              EXPECT_EQ(Shown(), QStringList{"gamma"});
               Click(exitButton);
             }),
             IDOK);
   EXPECT_EQ(host->guids.notices, (std::vector<int>{8, 8}));
-  EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList{"1.gamma.xdct"});
+  EXPECT_EQ(Files(), QStringList{"1.gamma.xdct"});
 }
 
 TEST_F(SetupDiscriminators, AModifyThatChangesNothingGivesOkAndNoNotice) {
-  const auto content =
-      "<main><id>1</id><name>alpha</name><description/><setZeroOutsideSlot>T</setZeroOutsideSlot>"
-      "<type>SLOTS</type></main>";
-  QFile file(directory.filePath("1.alpha.xdct"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(content);
-  file.close();
+  PutFile("1.alpha.xdct",
+          "<main><id>1</id><name>alpha</name><description/>"
+          "<setZeroOutsideSlot>T</setZeroOutsideSlot><type>SLOTS</type></main>");
   EXPECT_EQ(Run([] {
-              ClickRow(0);
+              ClickRow(discriminatorList, 0);
               EditNext("alpha", IDOK);
               Click(modifyButton);
               Click(exitButton);
@@ -157,7 +141,7 @@ TEST_F(SetupDiscriminators, AModifyThatChangesNothingGivesOkAndNoNotice) {
 
 TEST_F(SetupDiscriminators, ADoubleClickOnAnEmptyListOpensNothing) {
   Run([] {
-    QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, QPoint(20, 20));
+    DoubleClickBelowRows(discriminatorList);
     EXPECT_TRUE(qobject_cast<CDlgSetupDiscriminators*>(TopWindow()));
     Click(exitButton);
   });
@@ -167,11 +151,11 @@ TEST_F(SetupDiscriminators, ADoubleClickOnAnEmptyListOpensNothing) {
 TEST_F(SetupDiscriminators, AFileThatHasGoneMeanwhileOpensNothing) {
   AddFile("1", "alpha", "");
   Run([this] {
-    ClickRow(0);
+    ClickRow(discriminatorList, 0);
     QFile::remove(directory.filePath("1.alpha.xdct"));
     Click(modifyButton);
     EXPECT_TRUE(qobject_cast<CDlgSetupDiscriminators*>(TopWindow()));
-    EXPECT_EQ(Names(), QStringList{"alpha"});
+    EXPECT_EQ(Shown(), QStringList{"alpha"});
     Click(exitButton);
   });
 }
@@ -181,18 +165,18 @@ TEST_F(SetupDiscriminators, RemovingAsksOnceAndSelectsTheRowThatMovedUp) {
     AddFile(QString(QLatin1Char(name[0])), name, "");
   }
   EXPECT_EQ(Run([] {
-              ClickRow(1);
+              ClickRow(discriminatorList, 1);
               AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
               Click(removeButton);
-              EXPECT_EQ(Names(), QStringList({"alpha", "gamma"}));
-              EXPECT_TRUE(List()->topLevelItem(1)->isSelected());
-              ExpectButtons(true, true, true);
-              ClickRow(0);
-              QTest::keyClick(List(), Qt::Key_Down, Qt::ShiftModifier);
+              EXPECT_EQ(Shown(), QStringList({"alpha", "gamma"}));
+              EXPECT_TRUE(TheList()->topLevelItem(1)->isSelected());
+              ExpectOneSelected();
+              ClickRow(discriminatorList, 0);
+              Press(discriminatorList, Qt::Key_Down, Qt::ShiftModifier);
               AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
-              QTest::keyClick(List(), Qt::Key_Delete, Qt::ControlModifier);
-              EXPECT_TRUE(Names().isEmpty());
-              ExpectButtons(true, false, false);
+              Press(discriminatorList, Qt::Key_Delete, Qt::ControlModifier);
+              EXPECT_TRUE(Shown().isEmpty());
+              ExpectNoneSelected();
               Click(exitButton);
             }),
             IDOK);
@@ -204,11 +188,11 @@ TEST_F(SetupDiscriminators, AnsweringNoKeepsRowsAndSelection) {
   AddFile("1", "alpha", "");
   AddFile("2", "beta", "");
   EXPECT_EQ(Run([] {
-              ClickRow(1);
+              ClickRow(discriminatorList, 1);
               AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::No);
               Click(removeButton);
-              EXPECT_EQ(Names().size(), 2);
-              EXPECT_TRUE(List()->topLevelItem(1)->isSelected());
+              EXPECT_EQ(Shown().size(), 2);
+              EXPECT_TRUE(TheList()->topLevelItem(1)->isSelected());
               Click(exitButton);
             }),
             IDCANCEL);
@@ -220,16 +204,16 @@ TEST_F(SetupDiscriminators, AFileThatCannotBeDeletedStopsTheRemovalAndStaysSelec
   }
   QFile::setPermissions(directory.filePath("b.beta.xdct"), QFile::ReadOwner);
   EXPECT_EQ(Run([] {
-              ClickRow(0);
-              ClickRow(2, Qt::ShiftModifier);
+              ClickRow(discriminatorList, 0);
+              ClickRow(discriminatorList, 2, Qt::ShiftModifier);
               // The question and the message come one after the other.
               WhenNextWindow([] {
                 AnswerBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
                 AnswerNextBox(Text::DiscriminatorFileNotDeleted, QMessageBox::Ok);
               });
               Click(removeButton);
-              EXPECT_EQ(Names(), QStringList({"beta", "gamma"}));
-              EXPECT_EQ(List()->selectedItems().size(), 2);
+              EXPECT_EQ(Shown(), QStringList({"beta", "gamma"}));
+              EXPECT_EQ(TheList()->selectedItems().size(), 2);
               Click(exitButton);
             }),
             IDOK);
@@ -240,15 +224,15 @@ TEST_F(SetupDiscriminators, ARemovalThatStoppedLeavesTheButtonsAsTheyWere) {
   AddFile("b", "beta", "");
   QFile::setPermissions(directory.filePath("b.beta.xdct"), QFile::ReadOwner);
   Run([] {
-    ClickRow(0);
-    ClickRow(1, Qt::ShiftModifier);
+    ClickRow(discriminatorList, 0);
+    ClickRow(discriminatorList, 1, Qt::ShiftModifier);
     EXPECT_FALSE(TopControl(modifyButton)->isEnabled());
     WhenNextWindow([] {
       AnswerBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
       AnswerNextBox(Text::DiscriminatorFileNotDeleted, QMessageBox::Ok);
     });
     Click(removeButton);
-    EXPECT_EQ(List()->selectedItems().size(), 1);
+    EXPECT_EQ(TheList()->selectedItems().size(), 1);
     EXPECT_FALSE(TopControl(modifyButton)->isEnabled());
     EXPECT_TRUE(TopControl(removeButton)->isEnabled());
     Click(exitButton);
@@ -258,12 +242,12 @@ TEST_F(SetupDiscriminators, ARemovalThatStoppedLeavesTheButtonsAsTheyWere) {
 TEST_F(SetupDiscriminators, CopyAndPasteByKeysMakeNewRows) {
   AddFile("1", "alpha", "a");
   EXPECT_EQ(Run([] {
-              ClickRow(0);
-              QTest::keyClick(List(), Qt::Key_C, Qt::ControlModifier);
-              QTest::keyClick(List(), Qt::Key_V, Qt::ControlModifier);
-              QTest::keyClick(List(), Qt::Key_V, Qt::ControlModifier);
-              EXPECT_EQ(Names(), QStringList({"alpha", "alpha_1", "alpha_2"}));
-              EXPECT_TRUE(List()->selectedItems().isEmpty());
+              ClickRow(discriminatorList, 0);
+              Press(discriminatorList, Qt::Key_C, Qt::ControlModifier);
+              Press(discriminatorList, Qt::Key_V, Qt::ControlModifier);
+              Press(discriminatorList, Qt::Key_V, Qt::ControlModifier);
+              EXPECT_EQ(Shown(), QStringList({"alpha", "alpha_1", "alpha_2"}));
+              EXPECT_TRUE(TheList()->selectedItems().isEmpty());
               EXPECT_EQ(TopWindow()->cursor().shape(), Qt::ArrowCursor);
               Click(exitButton);
             }),
@@ -271,27 +255,32 @@ TEST_F(SetupDiscriminators, CopyAndPasteByKeysMakeNewRows) {
   EXPECT_EQ(host->guids.notices, (std::vector<int>{8, 5, 8, 5}));
 }
 
+/// Clicks with the right button, and lets `play` have the menu that comes up, or null.
+void RightClick(QWidget* viewport, const std::function<void(QMenu*)>& play) {
+  QTimer::singleShot(0, viewport,
+                     [&play] { play(qobject_cast<QMenu*>(QApplication::activePopupWidget())); });
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+  QApplication::sendEvent(viewport, &event);
+  Settle();
+}
+
 /// The captions of the menu that a right click brings up; none if it brings none.
 QStringList MenuAt(QWidget* viewport) {
   QStringList captions;
-  QTimer::singleShot(0, viewport, [&captions] {
-    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+  RightClick(viewport, [&captions](QMenu* menu) {
+    if (menu) {
       for (const QAction* action : menu->actions()) {
         captions << action->text();
       }
       menu->close();
     }
   });
-  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
-  QApplication::sendEvent(viewport, &event);
-  Settle();
   return captions;
 }
 
 /// Chooses the command with this caption in the menu that a right click brings up.
 void ChooseInMenu(QWidget* viewport, const QString& caption) {
-  QTimer::singleShot(0, viewport, [caption] {
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  RightClick(viewport, [&caption](QMenu* menu) {
     ASSERT_TRUE(menu);
     for (QAction* action : menu->actions()) {
       if (action->text() == caption) {
@@ -302,19 +291,16 @@ void ChooseInMenu(QWidget* viewport, const QString& caption) {
     }
     ADD_FAILURE() << "no such command";
   });
-  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
-  QApplication::sendEvent(viewport, &event);
-  Settle();
 }
 
 TEST_F(SetupDiscriminators, TheMenuCopiesAndPastes) {
   AddFile("1", "alpha", "a");
   Run([this] {
-    ClickRow(0);
-    ChooseInMenu(List()->viewport(), TitleOf(Text::Copy) + "\tCtrl+C");
+    ClickRow(discriminatorList, 0);
+    ChooseInMenu(TheList()->viewport(), TitleOf(Text::Copy) + "\tCtrl+C");
     EXPECT_TRUE(host->clipboard.text.has_value());
-    ChooseInMenu(List()->viewport(), TitleOf(Text::Paste) + "\tCtrl+V");
-    EXPECT_EQ(Names(), QStringList({"alpha", "alpha_1"}));
+    ChooseInMenu(TheList()->viewport(), TitleOf(Text::Paste) + "\tCtrl+V");
+    EXPECT_EQ(Shown(), QStringList({"alpha", "alpha_1"}));
     Click(exitButton);
   });
 }
@@ -347,14 +333,14 @@ TEST_F(SetupDiscriminators, TheWaitCursorShowsDuringCopyAndPasteAndGoesOnEveryWa
   AddFile("1", "alpha", "a");
   Run([&] {
     const auto press = [](Qt::Key key) {
-      QTest::keyClick(List(), key, Qt::ControlModifier);
+      Press(discriminatorList, key, Qt::ControlModifier);
       EXPECT_EQ(TopWindow()->cursor().shape(), Qt::ArrowCursor);
     };
     press(Qt::Key_C);  // without a row
     press(Qt::Key_V);  // nothing on the clipboard
     clipboard.text = "foreign";
     press(Qt::Key_V);
-    ClickRow(0);
+    ClickRow(discriminatorList, 0);
     press(Qt::Key_C);
     press(Qt::Key_V);
     Click(exitButton);
@@ -366,16 +352,16 @@ TEST_F(SetupDiscriminators, TheWaitCursorShowsDuringCopyAndPasteAndGoesOnEveryWa
 TEST_F(SetupDiscriminators, TheMenuOffersCopyAndPasteAsFarAsTheyCanBeDone) {
   AddFile("1", "alpha", "a");
   Run([this] {
-    EXPECT_EQ(MenuAt(List()->viewport()), QStringList());
-    ClickRow(0);
-    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({TitleOf(Text::Copy) + "\tCtrl+C"}));
+    EXPECT_EQ(MenuAt(TheList()->viewport()), QStringList());
+    ClickRow(discriminatorList, 0);
+    EXPECT_EQ(MenuAt(TheList()->viewport()), QStringList({TitleOf(Text::Copy) + "\tCtrl+C"}));
     host->clipboard.text = "<discriminatorClipboard/>";
-    EXPECT_EQ(MenuAt(List()->viewport()),
+    EXPECT_EQ(MenuAt(TheList()->viewport()),
               QStringList({TitleOf(Text::Copy) + "\tCtrl+C", TitleOf(Text::Paste) + "\tCtrl+V"}));
-    List()->clearSelection();
-    EXPECT_EQ(MenuAt(List()->viewport()), QStringList({TitleOf(Text::Paste) + "\tCtrl+V"}));
+    TheList()->clearSelection();
+    EXPECT_EQ(MenuAt(TheList()->viewport()), QStringList({TitleOf(Text::Paste) + "\tCtrl+V"}));
     host->clipboard.text = "<main/>";
-    EXPECT_EQ(MenuAt(List()->viewport()), QStringList());
+    EXPECT_EQ(MenuAt(TheList()->viewport()), QStringList());
     Click(exitButton);
   });
 }

@@ -1,11 +1,7 @@
 #include "timestructure/ui/CDlgAddModifyDayType.h"
 
-#include <QColorDialog>
-#include <QGroupBox>
-
 #include "tests/timestructure/ui/DayTypesFixture.h"
 #include "timestructure/ui/CDlgDayTypes.h"
-#include "timestructure/ui/QVDayCtrl.h"
 
 namespace qv {
 namespace {
@@ -14,9 +10,7 @@ class DayTypeEditor : public DayTypesFixture {
  protected:
   int Run(XmlNode& day, const std::function<void()>& script) {
     CDlgAddModifyDayType editor(nullptr, &day, days.get(), hours.get());
-    const int result = Drive([&] { return editor.DoModal(); }, script);
-    modified = editor.m_modified;
-    return result;
+    return Play(editor, script);
   }
 
   /// Lets the slot editor that comes next take these times, and ends it by `end`.
@@ -29,8 +23,7 @@ class DayTypeEditor : public DayTypesFixture {
   }
 
   static QColor DialAt(double x, double y) {
-    const auto* dial = TopControl(5000);
-    const QImage picture = const_cast<QWidget*>(dial)->grab().toImage();
+    const QImage picture = TopControl(dayDial)->grab().toImage();
     return picture.pixelColor(static_cast<int>(picture.width() * x),
                               static_cast<int>(picture.height() * y));
   }
@@ -40,13 +33,13 @@ TEST_F(DayTypeEditor, ShowsNameSlotsAndDial) {
   const int result = Run(Day(L"work"), [] {
     EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifyDayTypeTitle));
     EXPECT_EQ(Edit(dayName)->text(), "work");
-    EXPECT_EQ(Rows(), QStringList({"peak 00:00-12:00", "valley 12:00-24:00"}));
+    EXPECT_EQ(Rows(typeList), QStringList({"peak 00:00 12:00", "valley 12:00 24:00"}));
     EXPECT_EQ(DialAt(0.25, 0.45), QColor(Qt::red));
     EXPECT_EQ(DialAt(0.75, 0.45), QColor(Qt::blue));
     EXPECT_FALSE(TopControl(modifyButton)->isEnabled());
-    EXPECT_EQ(List()->headerItem()->text(1), TitleOf(Text::From));
-    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(gridBox))->title(), TitleOf(Text::Diagram));
-    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(5300))->title(), TitleOf(Text::TimeSlots));
+    EXPECT_EQ(List(typeList)->headerItem()->text(1), TitleOf(Text::From));
+    EXPECT_EQ(Caption(dialBox), TitleOf(Text::Diagram));
+    EXPECT_EQ(Caption(slotsBox), TitleOf(Text::TimeSlots));
     Click(IDOK);
   });
   EXPECT_EQ(result, IDOK);
@@ -59,19 +52,19 @@ TEST_F(DayTypeEditor, SlotsAreAddedChangedAndRemoved) {
     SlotNext("0", "6");
     Click(addButton);
     SlotNext("6", "20");
-    QTest::keyClick(List(), Qt::Key_Insert);
-    EXPECT_EQ(Rows(), QStringList({"peak 00:00-06:00", "peak 06:00-20:00"}));
+    Press(typeList, Qt::Key_Insert);
+    EXPECT_EQ(Rows(typeList), QStringList({"peak 00:00 06:00", "peak 06:00 20:00"}));
     EXPECT_EQ(DialAt(0.3, 0.45), QColor(Qt::red));
-    ClickRow(1);
+    ClickRow(typeList, 1);
     SlotNext("6", "23");
     Click(modifyButton);
-    EXPECT_EQ(Rows().last(), "peak 06:00-23:00");
-    EXPECT_TRUE(List()->SelectedRows().empty());
+    EXPECT_EQ(Rows(typeList).last(), "peak 06:00 23:00");
+    EXPECT_TRUE(SelectedRows(typeList).empty());
     EXPECT_FALSE(TopControl(removeButton)->isEnabled());
-    ClickRow(0);
-    QTest::keyClick(List(), Qt::Key_Delete);
-    EXPECT_EQ(Rows(), QStringList("peak 06:00-23:00"));
-    EXPECT_EQ(List()->SelectedRows(), std::vector<int>{0});
+    ClickRow(typeList, 0);
+    Press(typeList, Qt::Key_Delete);
+    EXPECT_EQ(Rows(typeList), QStringList("peak 06:00 23:00"));
+    EXPECT_EQ(SelectedRows(typeList), std::vector<int>{0});
     AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
     Click(IDOK);
   });
@@ -83,10 +76,10 @@ TEST_F(DayTypeEditor, ACancelledSlotLeavesNothingBehind) {
   Run(Day(L"work"), [] {
     SlotNext("1", "2", IDCANCEL);
     Click(addButton);
-    ClickRow(0);
+    ClickRow(typeList, 0);
     SlotNext("1", "2", IDCANCEL);
     Click(modifyButton);
-    EXPECT_EQ(List()->SelectedRows(), std::vector<int>{0});
+    EXPECT_EQ(SelectedRows(typeList), std::vector<int>{0});
     Click(IDOK);
   });
   EXPECT_EQ(*days, daysBefore);
@@ -97,15 +90,14 @@ TEST_F(DayTypeEditor, FaultsAreToldBeforeTheWindowShowsAndGapsOnlyAtOk) {
   Day(L"work").Node(L"slot")->SetValue(L"to", L"13:00");
   Day(L"feast").NewChild(L"other", nullptr);
   CDlgAddModifyDayType editor(nullptr, &Day(L"work"), days.get(), hours.get());
-  Drive([&] { return editor.DoModal(); },
-        [&] {
-          EXPECT_FALSE(editor.isVisible());
-          WhenNextWindow([] { Click(IDCANCEL); });
-          AnswerBox(Text::SlotsOverlap, QMessageBox::Ok);
-        });
-  EXPECT_FALSE(editor.m_modified);
+  Play(editor, [&] {
+    EXPECT_FALSE(editor.isVisible());
+    WhenNextWindow([] { Click(IDCANCEL); });
+    AnswerBox(Text::SlotsOverlap, QMessageBox::Ok);
+  });
+  EXPECT_FALSE(modified);
   Run(Day(L"feast"), [] {
-    EXPECT_TRUE(Rows().isEmpty());
+    EXPECT_TRUE(Rows(typeList).isEmpty());
     AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::No);
     Click(IDOK);
     AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
@@ -117,7 +109,7 @@ TEST_F(DayTypeEditor, FaultsAreToldBeforeTheWindowShowsAndGapsOnlyAtOk) {
 TEST_F(DayTypeEditor, SlotsOfARemovedHourTypeAreGone) {
   hours->RemoveChild(hours->NodeV(L"hour?id=%s?", L"p"));
   Run(Day(L"work"), [] {
-    EXPECT_EQ(Rows(), QStringList("valley 12:00-24:00"));
+    EXPECT_EQ(Rows(typeList), QStringList("valley 12:00 24:00"));
     Click(IDCANCEL);
   });
   EXPECT_FALSE(modified);
@@ -126,7 +118,7 @@ TEST_F(DayTypeEditor, SlotsOfARemovedHourTypeAreGone) {
 TEST_F(DayTypeEditor, MalformedTimesAreShownAsMidnightWhileTheDialReadsThem) {
   Day(L"work").Node(L"slot")->SetValue(L"from", L"7:30");
   Run(Day(L"work"), [] {
-    EXPECT_EQ(Rows().first(), "peak 00:00-12:00");
+    EXPECT_EQ(Rows(typeList).first(), "peak 00:00 12:00");
     EXPECT_EQ(DialAt(0.3, 0.45), QColor(0xFF, 0xCC, 0x80)) << "nothing before half past seven";
     Click(IDOK);
   });
@@ -135,10 +127,7 @@ TEST_F(DayTypeEditor, MalformedTimesAreShownAsMidnightWhileTheDialReadsThem) {
 
 TEST_F(DayTypeEditor, AColourIsChosenForSwatchAndDial) {
   Run(Day(L"feast"), [] {
-    WhenNextWindow([] {
-      qobject_cast<QColorDialog*>(TopWindow())->setCurrentColor(QColor(1, 2, 3));
-      QTest::keyClick(TopWindow(), Qt::Key_Return);
-    });
+    ChooseNextColour(QColor(1, 2, 3));
     Click(daySwatch);
     EXPECT_EQ(DialAt(0.25, 0.5), QColor(1, 2, 3));
     AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
@@ -153,7 +142,6 @@ TEST_F(DayTypeEditor, ARefusedNameStaysInTheEditor) {
     Type(dayName, "feast");
     AnswerNextBox(Text::TypeNameTaken, QMessageBox::Ok);
     Click(IDOK);
-    Type(dayName, "");
     Edit(dayName)->clear();
     AnswerNextBox(Text::DayTypeNameMissing, QMessageBox::Ok);
     Click(IDOK);
@@ -190,19 +178,14 @@ TEST_F(DayTypeEditor, ThousandsOfSlotsOfAnyTextOpen) {
     slot->SetValue(L"to", texts[i % 5]);
   }
   hours->Node(L"hour")->SetValue(L"color", L"no colour");
-  Drive(
-      [&] {
-        CDlgAddModifyDayType editor(nullptr, &day, days.get(), hours.get());
-        return editor.DoModal();
-      },
-      [] {
-        WhenNextWindow([] {
-          EXPECT_EQ(Rows().size(), 3000);
-          Settle();
-          Click(IDCANCEL);
-        });
-        AnswerBox(Text::SlotHourOutOfRange, QMessageBox::Ok);
-      });
+  Run(day, [] {
+    WhenNextWindow([] {
+      EXPECT_EQ(List(typeList)->topLevelItemCount(), 3000);
+      Settle();
+      Click(IDCANCEL);
+    });
+    AnswerBox(Text::SlotHourOutOfRange, QMessageBox::Ok);
+  });
 }
 
 TEST_F(DayTypeEditor, ColumnsAndSizesFollowTheWindow) {
@@ -212,11 +195,11 @@ TEST_F(DayTypeEditor, ColumnsAndSizesFollowTheWindow) {
     for (const QSize size : {opened, QSize(1000, 700)}) {
       TopWindow()->resize(size);
       Settle();
-      const int room = List()->viewport()->width();
-      EXPECT_EQ(List()->columnWidth(0), room / 3);
-      EXPECT_EQ(List()->columnWidth(1), room / 3);
-      EXPECT_EQ(List()->columnWidth(2), room - 2 * (room / 3));
-      EXPECT_TRUE(TopControl(gridBox)->geometry().contains(TopControl(5000)->geometry()));
+      const int room = List(typeList)->viewport()->width();
+      EXPECT_EQ(List(typeList)->columnWidth(0), room / 3);
+      EXPECT_EQ(List(typeList)->columnWidth(1), room / 3);
+      EXPECT_EQ(List(typeList)->columnWidth(2), room - 2 * (room / 3));
+      EXPECT_TRUE(TopControl(dialBox)->geometry().contains(TopControl(dayDial)->geometry()));
     }
     Click(IDCANCEL);
   });
@@ -226,24 +209,21 @@ class DayTypeList : public DayTypesFixture {
  protected:
   int Run(const std::function<void()>& script) {
     CDlgDayTypes dialog(nullptr, days.get(), calendar.get(), hours.get());
-    const int result = Drive([&] { return dialog.DoModal(); }, script);
-    modified = dialog.m_modified;
-    return result;
+    return Play(dialog, script);
   }
 
-  std::unique_ptr<XmlNode> calendar = Parsed("<calendar><year/></calendar>");
+  const std::unique_ptr<XmlNode> calendar = Parsed("<calendar><year/></calendar>");
 };
 
 TEST_F(DayTypeList, ListsAndRemovesDayTypesAndLeavesTheCalendar) {
   EXPECT_EQ(Run([] {
               EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::DayTypeListTitle));
-              EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(5319))->title(),
-                        TitleOf(Text::DayTypes));
-              EXPECT_EQ(Rows(), QStringList({"feast", "work"}));
+              EXPECT_EQ(Caption(dayTypesBox), TitleOf(Text::DayTypes));
+              EXPECT_EQ(Rows(typeList), QStringList({"feast", "work"}));
               EXPECT_EQ(TopWindow()->minimumSize(), QSize(200, 300));
-              ClickRow(1);
+              ClickRow(typeList, 1);
               Click(removeButton);
-              EXPECT_EQ(Rows(), QStringList("feast"));
+              EXPECT_EQ(Rows(typeList), QStringList("feast"));
               Click(IDOK);
             }),
             IDOK);
@@ -257,7 +237,7 @@ TEST_F(DayTypeList, ACancelledNewDayTypeTakesItsSlotsAlong) {
       EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::AddDayTypeTitle));
       WhenNextWindow([] { Click(IDOK); });
       Click(addButton);
-      EXPECT_EQ(Rows().size(), 1);
+      EXPECT_EQ(Rows(typeList).size(), 1);
       Click(IDCANCEL);
     });
     Click(addButton);
@@ -269,18 +249,18 @@ TEST_F(DayTypeList, ACancelledNewDayTypeTakesItsSlotsAlong) {
 
 TEST_F(DayTypeList, ChangesToACopyComeBackAfterOk) {
   Run([] {
-    ClickRow(1);
+    ClickRow(typeList, 1);
     WhenNextWindow([] {
-      ClickRow(0);
+      ClickRow(typeList, 0);
       Click(removeButton);
       AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
       Click(IDOK);
     });
     Click(modifyButton);
-    ClickRow(1);
+    ClickRow(typeList, 1);
     WhenNextWindow([] {
-      EXPECT_EQ(Rows(), QStringList("valley 12:00-24:00"));
-      ClickRow(0);
+      EXPECT_EQ(Rows(typeList), QStringList("valley 12:00 24:00"));
+      ClickRow(typeList, 0);
       Click(removeButton);
       Click(IDCANCEL);
     });
@@ -298,8 +278,8 @@ TEST_F(DayTypeList, ANewDayTypeHasWhatWasEntered) {
       AnswerNextBox(Text::DayNotCoveredQuestion, QMessageBox::Yes);
       Click(IDOK);
     });
-    QTest::keyClick(List(), Qt::Key_Insert);
-    EXPECT_EQ(Rows(), QStringList({"feast", "new", "work"}));
+    Press(typeList, Qt::Key_Insert);
+    EXPECT_EQ(Rows(typeList), QStringList({"feast", "new", "work"}));
     Click(IDOK);
   });
   EXPECT_EQ(Day(L"new").Value(L"color"), L"FFFFFF");

@@ -1,5 +1,8 @@
 #include "timestructure/ui/CDlgAddModifyHourType.h"
 
+#include <QApplication>
+#include <QColorDialog>
+
 #include "tests/timestructure/ui/HourTypesFixture.h"
 
 namespace qv {
@@ -9,28 +12,24 @@ class HourTypeEditor : public HourTypesFixture {
  protected:
   /// Runs the editor on this node while `script` plays the user.
   int Run(XmlNode& hour, const std::function<void()>& script) {
-    CDlgAddModifyHourType editor(nullptr, &Hours(), &hour);
-    const int result = Drive([&] { return editor.DoModal(); }, script);
-    modified = editor.m_modified;
-    return result;
+    CDlgAddModifyHourType editor(nullptr, hours.get(), &hour);
+    return Play(editor, script);
   }
-
-  bool modified = false;
 };
 
 TEST_F(HourTypeEditor, ShowsNameColourAndTexts) {
   const int result = Run(Hour(L"day"), [&] {
-    EXPECT_EQ(Edit(nameEdit)->text(), "day");
-    EXPECT_EQ(Edit(valueEdit)->text(), "7");
+    EXPECT_EQ(Edit(hourName)->text(), "day");
+    EXPECT_EQ(Edit(hourValue)->text(), "7");
     EXPECT_EQ(Swatch()->ShownColour(), 0x0000FFU);
     EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifyHourTypeTitle));
     EXPECT_EQ(Swatch()->accessibleName(), TitleOf(Text::Colour));
-    EXPECT_EQ(Edit(nameEdit)->accessibleName(), TitleOf(Text::Name));
+    EXPECT_EQ(Edit(hourName)->accessibleName(), TitleOf(Text::Name));
     QTest::keyClick(TopWindow(), Qt::Key_Escape);
   });
   EXPECT_EQ(result, IDCANCEL);
   EXPECT_FALSE(modified);
-  EXPECT_EQ(Hours(), *before);
+  EXPECT_EQ(*hours, before);
 }
 
 TEST_F(HourTypeEditor, AnHourTypeWithoutANameIsANewOne) {
@@ -44,8 +43,8 @@ TEST_F(HourTypeEditor, AnHourTypeWithoutANameIsANewOne) {
 TEST_F(HourTypeEditor, OkWritesAndReturnPressesIt) {
   EXPECT_EQ(Run(Hour(L"day"),
                 [&] {
-                  Type(nameEdit, "noon");
-                  QTest::keyClick(Edit(nameEdit), Qt::Key_Return);
+                  Type(hourName, "noon");
+                  Press(hourName, Qt::Key_Return);
                 }),
             IDOK);
   EXPECT_TRUE(modified);
@@ -55,19 +54,19 @@ TEST_F(HourTypeEditor, OkWritesAndReturnPressesIt) {
 TEST_F(HourTypeEditor, TheValueIsShownOnEmbeddedInstallationsOnly) {
   int without = 0;
   Run(Hour(L"day"), [&] {
-    EXPECT_FALSE(TopControl(valueEdit)->isVisible());
-    EXPECT_FALSE(TopControl(valueLabel)->isVisible());
+    EXPECT_FALSE(TopControl(hourValue)->isVisible());
+    EXPECT_FALSE(TopControl(hourValueLabel)->isVisible());
     without = TopWindow()->height();
     Click(IDOK);
   });
   EXPECT_EQ(Hour(L"day").Value(L"value"), L"7") << "a hidden value survives";
   EXPECT_FALSE(modified);
-  MakeEmbedded();
+  host->AddDevice(embeddedDriver);
   Run(Hour(L"day"), [&] {
-    EXPECT_TRUE(TopControl(valueEdit)->isVisible());
-    EXPECT_TRUE(TopControl(valueLabel)->isVisible());
+    EXPECT_TRUE(TopControl(hourValue)->isVisible());
+    EXPECT_TRUE(TopControl(hourValueLabel)->isVisible());
     EXPECT_GT(TopWindow()->height(), without);
-    Type(valueEdit, "x y");
+    Type(hourValue, "x y");
     Click(IDOK);
   });
   EXPECT_EQ(Hour(L"day").Value(L"value"), L"x y");
@@ -87,11 +86,11 @@ TEST_F(HourTypeEditor, AHiddenValueOfAnyTextComesBackUnchanged) {
 
 TEST_F(HourTypeEditor, EachControlHasItsTextAndItsPicture) {
   Run(Hour(L"day"), [&] {
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5268))->text(), TitleOf(Text::Name));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(valueLabel))->text(), TitleOf(Text::HourTypeValue));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5302))->text(), TitleOf(Text::Colour));
-    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(IDOK))->text(), TitleOf(Text::Ok));
-    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(IDCANCEL))->text(), TitleOf(Text::Cancel));
+    EXPECT_EQ(Caption(hourNameLabel), TitleOf(Text::Name));
+    EXPECT_EQ(Caption(hourValueLabel), TitleOf(Text::HourTypeValue));
+    EXPECT_EQ(Caption(hourColourLabel), TitleOf(Text::Colour));
+    EXPECT_EQ(Caption(IDOK), TitleOf(Text::Ok));
+    EXPECT_EQ(Caption(IDCANCEL), TitleOf(Text::Cancel));
     Click(IDCANCEL);
   });
 }
@@ -99,7 +98,7 @@ TEST_F(HourTypeEditor, EachControlHasItsTextAndItsPicture) {
 TEST_F(HourTypeEditor, ItsHeightFitsAndCanNotBeChanged) {
   for (const bool embedded : {false, true}) {
     if (embedded) {
-      MakeEmbedded();
+      host->AddDevice(embeddedDriver);
     }
     Run(Hour(L"day"), [] {
       const QWidget* window = TopWindow();
@@ -119,11 +118,11 @@ TEST_F(HourTypeEditor, ItsHeightFitsAndCanNotBeChanged) {
 TEST_F(HourTypeEditor, AClickAndSpaceChooseAColour) {
   Run(Hour(L"day"), [&] {
     ChooseNextColour(QColor(0, 128, 0));
-    Click(swatch);
+    Click(hourSwatch);
     EXPECT_EQ(Swatch()->ShownColour(), 0x008000U);
     ChooseNextColour(QColor(1, 2, 3));
     Swatch()->setFocus();
-    QTest::keyClick(Swatch(), Qt::Key_Space);
+    Press(hourSwatch, Qt::Key_Space);
     EXPECT_EQ(Swatch()->ShownColour(), 0x030201U);
     Click(IDOK);
   });
@@ -133,8 +132,8 @@ TEST_F(HourTypeEditor, AClickAndSpaceChooseAColour) {
 
 TEST_F(HourTypeEditor, ACancelledChoiceOfColourChangesNothing) {
   Run(Hour(L"day"), [&] {
-    ChooseNextColour(QColor(0, 128, 0), false);
-    Click(swatch);
+    ChooseNextColour(QColor(0, 128, 0), Qt::Key_Escape);
+    Click(hourSwatch);
     EXPECT_EQ(Swatch()->ShownColour(), 0x0000FFU);
     Click(IDOK);
   });
@@ -147,27 +146,27 @@ TEST_F(HourTypeEditor, TheColourDialogOpensWithTheColourInForce) {
       EXPECT_EQ(qobject_cast<QColorDialog*>(TopWindow())->currentColor(), QColor(Qt::blue));
       QTest::keyClick(TopWindow(), Qt::Key_Escape);
     });
-    Click(swatch);
+    Click(hourSwatch);
     Click(IDCANCEL);
   });
 }
 
 TEST_F(HourTypeEditor, ARefusedNameLeavesTheEditorOpenAndTheFocusWhereItWas) {
   Run(Hour(L"day"), [&] {
-    Type(nameEdit, "night");
+    Type(hourName, "night");
     AnswerNextBox(Text::TypeNameTaken, QMessageBox::Ok);
-    QTest::keyClick(Edit(nameEdit), Qt::Key_Return);
-    EXPECT_EQ(TopWindow()->focusWidget(), Edit(nameEdit));
-    EXPECT_EQ(Edit(nameEdit)->text(), "night");
+    Press(hourName, Qt::Key_Return);
+    EXPECT_EQ(TopWindow()->focusWidget(), Edit(hourName));
+    EXPECT_EQ(Edit(hourName)->text(), "night");
     Click(IDCANCEL);
   });
-  EXPECT_EQ(Hours(), *before);
+  EXPECT_EQ(*hours, before);
 }
 
 TEST_F(HourTypeEditor, AnotherOnesColourIsAskedAboutAndNoKeepsIt) {
   const int result = Run(Hour(L"day"), [&] {
     ChooseNextColour(Qt::blue);
-    Click(swatch);
+    Click(hourSwatch);
     AnswerNextBox(Text::TypeColourTaken, QMessageBox::No);
     Click(IDOK);
     EXPECT_EQ(Swatch()->ShownColour(), 0xFF0000U);
@@ -180,22 +179,22 @@ TEST_F(HourTypeEditor, AnotherOnesColourIsAskedAboutAndNoKeepsIt) {
 
 TEST_F(HourTypeEditor, ANameHasAtMost128Characters) {
   Run(Hour(L"day"), [&] {
-    Type(nameEdit, QString(200, 'x'));
-    EXPECT_EQ(Edit(nameEdit)->text().size(), 128);
+    Type(hourName, QString(200, 'x'));
+    EXPECT_EQ(Edit(hourName)->text().size(), 128);
     Click(IDCANCEL);
   });
   Hour(L"day").SetValue(L"name", std::wstring(200, L'y').c_str());
   Run(Hour(std::wstring(200, L'y').c_str()), [&] {
-    EXPECT_EQ(Edit(nameEdit)->text().size(), 200) << "what was loaded is never cut";
+    EXPECT_EQ(Edit(hourName)->text().size(), 200) << "what was loaded is never cut";
     Click(IDCANCEL);
   });
 }
 
 TEST_F(HourTypeEditor, TabGoesThroughTheFields) {
-  MakeEmbedded();
+  host->AddDevice(embeddedDriver);
   Run(Hour(L"day"), [&] {
-    Edit(nameEdit)->setFocus();
-    for (const int next : {valueEdit, swatch, IDOK, IDCANCEL, nameEdit}) {
+    Edit(hourName)->setFocus();
+    for (const int next : {hourValue, hourSwatch, IDOK, IDCANCEL, hourName}) {
       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
       EXPECT_EQ(QApplication::focusWidget(), TopControl(next)) << next;
     }

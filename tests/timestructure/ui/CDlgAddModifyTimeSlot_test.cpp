@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QToolButton>
-#include <QWheelEvent>
 
 #include "tests/timestructure/ui/DayTypesFixture.h"
 #include "timestructure/TimeGrid.h"
@@ -18,9 +17,7 @@ class SlotEditor : public DayTypesFixture {
           const std::function<void()>& script) {
     slot = Parsed("<slot><id>" + id + "</id><from>" + from + "</from><to>" + to + "</to></slot>");
     CDlgAddModifyTimeSlot editor(nullptr, hours.get(), slot.get(), 0x80CCFF);
-    const int result = Drive([&] { return editor.DoModal(); }, script);
-    modified = editor.m_modified;
-    return result;
+    return Play(editor, script);
   }
 
   std::wstring Stored() const {
@@ -49,7 +46,7 @@ class SlotEditor : public DayTypesFixture {
     return {};
   }
 
-  static void Press(int minute) {
+  static void PressCell(int minute) {
     QTest::mousePress(TopWindow(), Qt::LeftButton, {}, Cell(minute));
   }
   static void MoveTo(const QPoint& place, Qt::MouseButtons buttons = Qt::LeftButton) {
@@ -82,8 +79,8 @@ TEST_F(SlotEditor, ANewSlotIsStoredAsItOpens) {
                 [] {
                   EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::AddSlotTitle));
                   EXPECT_EQ(Shown(), "0:0-0:0");
-                  EXPECT_EQ(Combo()->currentText(), "peak");
-                  EXPECT_EQ(Combo()->count(), 2);
+                  EXPECT_EQ(Combo(slotTypeCombo)->currentText(), "peak");
+                  EXPECT_EQ(Combo(slotTypeCombo)->count(), 2);
                   Click(IDOK);
                 }),
             IDOK);
@@ -94,12 +91,12 @@ TEST_F(SlotEditor, ANewSlotIsStoredAsItOpens) {
 TEST_F(SlotEditor, EachControlHasItsText) {
   Run("v", "01:00", "24:00", [] {
     EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifySlotTitle));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5304))->text(), TitleOf(Text::HourTypes));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5306))->text(), TitleOf(Text::From));
-    EXPECT_EQ(qobject_cast<QLabel*>(TopControl(5308))->text(), TitleOf(Text::To));
-    EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(addButton))->text(), TitleOf(Text::Add));
+    EXPECT_EQ(Caption(slotTypeLabel), TitleOf(Text::HourTypes));
+    EXPECT_EQ(Caption(fromLabel), TitleOf(Text::From));
+    EXPECT_EQ(Caption(toLabel), TitleOf(Text::To));
+    EXPECT_EQ(Caption(addButton), TitleOf(Text::Add));
     EXPECT_EQ(Edit(fromHours)->accessibleName(), TitleOf(Text::From));
-    EXPECT_EQ(Combo()->currentText(), "valley");
+    EXPECT_EQ(Combo(slotTypeCombo)->currentText(), "valley");
     EXPECT_FALSE(TopControl(toMinutesSpin)->isEnabled());
     EXPECT_TRUE(Edit(toMinutes)->isEnabled()) << "only the spin is locked";
     Click(IDCANCEL);
@@ -125,11 +122,11 @@ TEST_F(SlotEditor, TimesAreTypedAndTheHourTypeChosen) {
     Type(fromMinutes, "30");
     Type(toHours, "8x5");  // digits only
     EXPECT_EQ(Edit(toHours)->text(), "85");
-    QTest::keyClick(Edit(toHours), Qt::Key_Tab);
+    Press(toHours, Qt::Key_Tab);
     EXPECT_EQ(Edit(toHours)->text(), "24");
     EXPECT_FALSE(TopControl(toMinutesSpin)->isEnabled());
-    Combo()->setFocus();
-    QTest::keyClick(Combo(), Qt::Key_Down);
+    Combo(slotTypeCombo)->setFocus();
+    Press(slotTypeCombo, Qt::Key_Down);
     Click(IDOK);
   });
   EXPECT_EQ(Stored(), L"v 07:30-24:00");
@@ -140,7 +137,7 @@ TEST_F(SlotEditor, ATyped24WithMinutesIsStored) {
   Run("p", "00:00", "01:00", [] {
     Type(toHours, "24");
     Type(toMinutes, "30");
-    QTest::keyClick(Edit(toMinutes), Qt::Key_Return);
+    Press(toMinutes, Qt::Key_Return);
   });
   EXPECT_EQ(Stored(), L"p 00:00-24:30");
 }
@@ -149,8 +146,8 @@ TEST_F(SlotEditor, ReturnSavesAnEmptiedFieldByItsLastNumber) {
   Run("p", "07:30", "08:00", [] {
     Edit(fromHours)->setFocus();
     Edit(fromHours)->selectAll();
-    QTest::keyClick(Edit(fromHours), Qt::Key_Delete);
-    QTest::keyClick(Edit(fromHours), Qt::Key_Return);
+    Press(fromHours, Qt::Key_Delete);
+    Press(fromHours, Qt::Key_Return);
   });
   EXPECT_EQ(Stored(), L"p 07:30-08:00");
 }
@@ -164,15 +161,12 @@ TEST_F(SlotEditor, ArrowsKeysAndWheelStep) {
     ClickArrow(toHoursSpin, Qt::DownArrow);
     EXPECT_EQ(Shown(), "0:0-23:0");
     Edit(fromHours)->setFocus();
-    QTest::keyClick(Edit(fromHours), Qt::Key_Up);
-    QTest::keyClick(Edit(fromHours), Qt::Key_Up);
-    QTest::keyClick(Edit(fromHours), Qt::Key_Down);
+    Press(fromHours, Qt::Key_Up);
+    Press(fromHours, Qt::Key_Up);
+    Press(fromHours, Qt::Key_Down);
     EXPECT_EQ(Shown(), "1:0-23:0");
-    for (QWidget* target : {static_cast<QWidget*>(Edit(fromHours)), TopControl(fromHoursSpin)}) {
-      QWheelEvent wheel({5, 5}, target->mapToGlobal(QPoint(5, 5)), {}, {0, 120}, Qt::NoButton, {},
-                        Qt::NoScrollPhase, false);
-      QApplication::sendEvent(target, &wheel);
-    }
+    TurnWheel(fromHours, 120);
+    TurnWheel(fromHoursSpin, 120);
     EXPECT_EQ(Shown(), "3:0-23:0");
     Click(IDCANCEL);
   });
@@ -191,21 +185,19 @@ TEST_F(SlotEditor, AStartAfterItsEndIsToldAndTheEditorStays) {
 TEST_F(SlotEditor, WithoutHourTypesOnlyTheirButtonWorks) {
   hours->Reset();
   Run("", "00:00", "00:00", [] {
-    for (const int id : {typeCombo, fromHours, fromMinutes, toHours, toMinutes, fromHoursSpin, 5315,
-                         toHoursSpin, toMinutesSpin}) {
-      EXPECT_FALSE(TopControl(id)->isEnabled()) << id;
-    }
+    ExpectEnabled({addButton}, {slotTypeCombo, fromHours, fromMinutes, toHours, toMinutes,
+                                fromHoursSpin, fromMinutesSpin, toHoursSpin, toMinutesSpin});
     AnswerNextBox(Text::NoHourType, QMessageBox::Ok);
     Click(IDOK);
     WhenNextWindow([] { Click(IDCANCEL); });
     Click(addButton);
-    EXPECT_FALSE(Combo()->isEnabled());
+    EXPECT_FALSE(Combo(slotTypeCombo)->isEnabled());
     WhenNextWindow([] {
       Type(hourName, "new");
       Click(IDOK);
     });
     Click(addButton);
-    EXPECT_EQ(Combo()->currentText(), "new");
+    EXPECT_EQ(Combo(slotTypeCombo)->currentText(), "new");
     EXPECT_TRUE(Edit(toMinutes)->isEnabled());
     Click(IDOK);
   });
@@ -215,7 +207,7 @@ TEST_F(SlotEditor, WithoutHourTypesOnlyTheirButtonWorks) {
 
 TEST_F(SlotEditor, AClickOnTheGridSelectsAQuarter) {
   Run("p", "00:00", "00:00", [] {
-    Press(10 * 60 + 15);
+    PressCell(10 * 60 + 15);
     Release(Cell(10 * 60 + 15));
     EXPECT_EQ(Shown(), "10:15-10:30");
     EXPECT_EQ(ColourAt(10 * 60 + 15), QColor(Qt::red));
@@ -228,7 +220,7 @@ TEST_F(SlotEditor, AClickOnTheGridSelectsAQuarter) {
 
 TEST_F(SlotEditor, ADragFollowsThePointerAndEndsWithTheButton) {
   Run("p", "00:00", "00:00", [] {
-    Press(10 * 60 + 15);
+    PressCell(10 * 60 + 15);
     MoveTo(Cell(12 * 60 + 30));
     EXPECT_EQ(Shown(), "10:15-12:45");
     MoveTo(Cell(9 * 60));
@@ -244,11 +236,11 @@ TEST_F(SlotEditor, ADragFollowsThePointerAndEndsWithTheButton) {
 
 TEST_F(SlotEditor, AReleaseOutsideTheDialogLetsTheSelectionGoOnUntilTheNextPress) {
   Run("p", "00:00", "00:00", [] {
-    Press(10 * 60);
+    PressCell(10 * 60);
     Release(QPoint(-20, -20));
     MoveTo(Cell(11 * 60), Qt::NoButton);
     EXPECT_EQ(Shown(), "10:0-11:15");
-    Press(15 * 60);
+    PressCell(15 * 60);
     MoveTo(Cell(16 * 60), Qt::NoButton);
     EXPECT_EQ(Shown(), "10:0-11:15") << "the press only ended it";
     Click(IDCANCEL);
@@ -257,7 +249,7 @@ TEST_F(SlotEditor, AReleaseOutsideTheDialogLetsTheSelectionGoOnUntilTheNextPress
 
 TEST_F(SlotEditor, APressBesideTheGridEndsARunningSelection) {
   Run("p", "00:00", "00:00", [] {
-    Press(10 * 60);
+    PressCell(10 * 60);
     Release(QPoint(-20, -20));
     QTest::mousePress(TopWindow(), Qt::LeftButton, {}, QPoint(2, 2));
     MoveTo(Cell(11 * 60), Qt::NoButton);
@@ -268,7 +260,7 @@ TEST_F(SlotEditor, APressBesideTheGridEndsARunningSelection) {
 
 TEST_F(SlotEditor, LockedMinutesStayAtZeroWhileDragging) {
   Run("p", "00:00", "24:00", [] {
-    Press(10 * 60 + 15);
+    PressCell(10 * 60 + 15);
     MoveTo(Cell(12 * 60 + 15));
     EXPECT_EQ(Shown(), "10:15-12:0");
     Click(IDCANCEL);
@@ -278,9 +270,9 @@ TEST_F(SlotEditor, LockedMinutesStayAtZeroWhileDragging) {
 TEST_F(SlotEditor, ItHasAFixedSizeAndNothingOverlaps) {
   Run("p", "00:00", "24:00", [] {
     EXPECT_EQ(TopWindow()->minimumSize(), TopWindow()->maximumSize());
-    const int ids[] = {typeCombo, addButton, fromHours,   fromHoursSpin, fromMinutes,
-                       5315,      toHours,   toHoursSpin, toMinutes,     toMinutesSpin,
-                       gridBox,   IDOK,      IDCANCEL};
+    const int ids[] = {slotTypeCombo,   addButton, fromHours,   fromHoursSpin, fromMinutes,
+                       fromMinutesSpin, toHours,   toHoursSpin, toMinutes,     toMinutesSpin,
+                       gridBox,         IDOK,      IDCANCEL};
     for (const int a : ids) {
       EXPECT_TRUE(TopWindow()->rect().contains(TopControl(a)->geometry())) << a;
       for (const int b : ids) {

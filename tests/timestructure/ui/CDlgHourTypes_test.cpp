@@ -1,162 +1,123 @@
 #include "timestructure/ui/CDlgHourTypes.h"
 
-#include <QGroupBox>
-#include <QHeaderView>
 #include <QScrollBar>
 
 #include "tests/timestructure/ui/HourTypesFixture.h"
-#include "toolkit/ReportList.h"
 
 namespace qv {
 namespace {
 
-constexpr int list = 5303;
-constexpr int box = 5317;
-constexpr int removeButton = 5347;
-constexpr int addButton = 5348;
-constexpr int modifyButton = 5349;
-
 class HourTypeList : public HourTypesFixture {
  protected:
   int Run(const std::function<void()>& script) {
-    CDlgHourTypes dialog(nullptr, &Hours(), dayTypes.Root());
-    const int result = Drive([&] { return dialog.DoModal(); }, script);
-    modified = dialog.m_modified;
-    return result;
-  }
-
-  static ReportList* List() { return qobject_cast<ReportList*>(TopControl(list)); }
-
-  static QStringList Names() {
-    QStringList names;
-    for (int row = 0; row < List()->topLevelItemCount(); ++row) {
-      names += List()->topLevelItem(row)->text(0);
-    }
-    return names;
-  }
-
-  static std::vector<int> Selected() { return List()->SelectedRows(); }
-
-  static void ClickRow(int row, bool twice = false) {
-    const QPoint place = List()->visualItemRect(List()->topLevelItem(row)).center();
-    QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, place);
-    if (twice) {
-      QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, place);
-    }
-  }
-
-  static void ExpectButtons(bool enabled) {
-    EXPECT_TRUE(TopControl(addButton)->isEnabled());
-    EXPECT_EQ(TopControl(modifyButton)->isEnabled(), enabled);
-    EXPECT_EQ(TopControl(removeButton)->isEnabled(), enabled);
+    CDlgHourTypes dialog(nullptr, hours.get(), dayTypes.get());
+    return Play(dialog, script);
   }
 
   /// Lets the editor that comes next give the hour type a name.
   static void NameNext(const QString& name, int end = IDOK) {
     WhenNextWindow([=] {
-      Type(nameEdit, name);
+      Type(hourName, name);
       Click(end);
     });
   }
 
   static QColor IconColour(int row) {
-    const QIcon icon = List()->topLevelItem(row)->icon(0);
-    return icon.pixmap(List()->iconSize()).toImage().pixelColor(3, 3);
+    const QIcon icon = List(typeList)->topLevelItem(row)->icon(0);
+    return icon.pixmap(List(typeList)->iconSize()).toImage().pixelColor(3, 3);
   }
 
-  void SetUp() override { ASSERT_TRUE(dayTypes.Parse("<dayTypes><day/></dayTypes>")); }
-
-  XmlDocument dayTypes;
-  bool modified = false;
+  const std::unique_ptr<XmlNode> dayTypes = Parsed("<dayTypes><day/></dayTypes>");
 };
 
 TEST_F(HourTypeList, ShowsNamesWithTheirColours) {
-  const int result = Run([&] {
-    EXPECT_EQ(Names(), QStringList({"day", "night"}));
+  const int result = Run([] {
+    EXPECT_EQ(Names(typeList), QStringList({"day", "night"}));
     EXPECT_EQ(IconColour(0), QColor(Qt::red));
     EXPECT_EQ(IconColour(1), QColor(Qt::blue));
     EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::HourTypeListTitle));
-    EXPECT_EQ(List()->accessibleName(), TitleOf(Text::HourTypes));
-    EXPECT_EQ(List()->headerItem()->text(0), TitleOf(Text::Name));
-    EXPECT_TRUE(Selected().empty());
-    ExpectButtons(false);
+    EXPECT_EQ(List(typeList)->accessibleName(), TitleOf(Text::HourTypes));
+    EXPECT_EQ(List(typeList)->headerItem()->text(0), TitleOf(Text::Name));
+    EXPECT_TRUE(SelectedRows(typeList).empty());
+    ExpectNoneSelected();
     Click(IDOK);
   });
   EXPECT_EQ(result, IDOK);
   EXPECT_FALSE(modified);
-  EXPECT_EQ(Hours(), *before);
+  EXPECT_EQ(*hours, before);
 }
 
 TEST_F(HourTypeList, AWhiteHourTypeStaysVisible) {
   Hour(L"day").SetValue(L"color", L"FFFFFF");
-  Run([&] {
+  Run([] {
     EXPECT_EQ(IconColour(0), QColor(Qt::white));
     Click(IDCANCEL);
   });
 }
 
 TEST_F(HourTypeList, ASelectedRowEnablesItsButtons) {
-  Run([&] {
-    ClickRow(1);
-    ExpectButtons(true);
-    EXPECT_EQ(Selected(), std::vector<int>{1});
-    QTest::keyClick(List(), Qt::Key_Up);
-    EXPECT_EQ(Selected(), std::vector<int>{0});
-    QTest::keyClick(List(), Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(Selected(), std::vector<int>{1}) << "one row at a time";
+  Run([] {
+    ClickRow(typeList, 1);
+    ExpectOneSelected();
+    EXPECT_EQ(SelectedRows(typeList), std::vector<int>{1});
+    Press(typeList, Qt::Key_Up);
+    EXPECT_EQ(SelectedRows(typeList), std::vector<int>{0});
+    Press(typeList, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(SelectedRows(typeList), std::vector<int>{1}) << "one row at a time";
     Click(IDCANCEL);
   });
 }
 
 TEST_F(HourTypeList, AddByButtonAndByKey) {
-  Run([&] {
-    ClickRow(0);
+  Run([] {
+    ClickRow(typeList, 0);
     NameNext("morning");
     Click(addButton);
-    EXPECT_EQ(Names(), QStringList({"day", "morning", "night"}));
-    EXPECT_TRUE(Selected().empty());
-    ExpectButtons(false);
+    EXPECT_EQ(Names(typeList), QStringList({"day", "morning", "night"}));
+    EXPECT_TRUE(SelectedRows(typeList).empty());
+    ExpectNoneSelected();
     NameNext("zenith");
-    QTest::keyClick(List(), Qt::Key_Insert);
-    EXPECT_EQ(Names().last(), "zenith");
+    Press(typeList, Qt::Key_Insert);
+    EXPECT_EQ(Names(typeList).last(), "zenith");
     Click(IDOK);
   });
   EXPECT_TRUE(modified);
 }
 
 TEST_F(HourTypeList, ACancelledAddLeavesTheListAsItWas) {
-  Run([&] {
-    ClickRow(1);
+  Run([] {
+    ClickRow(typeList, 1);
     NameNext("morning", IDCANCEL);
     Click(addButton);
-    EXPECT_EQ(Selected(), std::vector<int>{1});
+    EXPECT_EQ(SelectedRows(typeList), std::vector<int>{1});
     Click(IDOK);
   });
   EXPECT_FALSE(modified);
-  EXPECT_EQ(Hours(), *before);
+  EXPECT_EQ(*hours, before);
 }
 
 TEST_F(HourTypeList, AfterANewNameTheOldPlaceIsSelected) {
-  Run([&] {
-    ClickRow(0);
+  Run([] {
+    ClickRow(typeList, 0);
     NameNext("zenith");
     Click(modifyButton);
-    EXPECT_EQ(Names(), QStringList({"night", "zenith"}));
-    EXPECT_EQ(Selected(), std::vector<int>{0});
-    ExpectButtons(true);
+    EXPECT_EQ(Names(typeList), QStringList({"night", "zenith"}));
+    EXPECT_EQ(SelectedRows(typeList), std::vector<int>{0});
+    ExpectOneSelected();
     Click(IDOK);
   });
   EXPECT_TRUE(modified);
 }
 
 TEST_F(HourTypeList, ADoubleClickOpensTheSelectedRow) {
-  Run([&] {
+  Run([] {
     QString opened;
     WhenNextWindow([&] {
-      opened = Edit(nameEdit)->text();
+      opened = Edit(hourName)->text();
       Click(IDOK);
     });
-    ClickRow(1, true);
+    ClickRow(typeList, 1);
+    DoubleClickRow(typeList, 1);
     EXPECT_EQ(opened, "night");
     Click(IDOK);
   });
@@ -165,52 +126,51 @@ TEST_F(HourTypeList, ADoubleClickOpensTheSelectedRow) {
 }
 
 TEST_F(HourTypeList, ADoubleClickOnTheEmptyAreaOpensNothing) {
-  Run([&] {
-    const QPoint below = List()->viewport()->rect().bottomLeft() - QPoint(-5, 5);
-    QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, below);
+  Run([] {
+    DoubleClickBelowRows(typeList);
     EXPECT_TRUE(qobject_cast<CDlgHourTypes*>(TopWindow()));
     Click(IDCANCEL);
   });
 }
 
 TEST_F(HourTypeList, RemoveTakesARowWithoutAsking) {
-  Run([&] {
-    ClickRow(0);
-    QTest::keyClick(List(), Qt::Key_Delete);
-    EXPECT_EQ(Names(), QStringList({"night"}));
-    EXPECT_EQ(Selected(), std::vector<int>{0});
+  Run([] {
+    ClickRow(typeList, 0);
+    Press(typeList, Qt::Key_Delete);
+    EXPECT_EQ(Names(typeList), QStringList({"night"}));
+    EXPECT_EQ(SelectedRows(typeList), std::vector<int>{0});
     Click(removeButton);
-    EXPECT_TRUE(Names().isEmpty());
-    ExpectButtons(false);
-    QTest::keyClick(List(), Qt::Key_Delete);
+    EXPECT_TRUE(Names(typeList).isEmpty());
+    ExpectNoneSelected();
+    Press(typeList, Qt::Key_Delete);
     Click(IDOK);
   });
   EXPECT_TRUE(modified);
-  EXPECT_TRUE(Hours().Node(L"other"));
-  EXPECT_TRUE(dayTypes.Root()->Node(L"day"));
+  EXPECT_TRUE(hours->Node(L"other"));
+  EXPECT_TRUE(dayTypes->Node(L"day"));
 }
 
 TEST_F(HourTypeList, EachControlHasItsText) {
-  Run([&] {
+  Run([] {
     const std::pair<int, Text> texts[] = {{addButton, Text::Add},
                                           {modifyButton, Text::Modify},
                                           {removeButton, Text::Remove},
                                           {IDOK, Text::Ok},
                                           {IDCANCEL, Text::Cancel}};
     for (const auto& [id, text] : texts) {
-      EXPECT_EQ(qobject_cast<QPushButton*>(TopControl(id))->text(), TitleOf(text));
+      EXPECT_EQ(Caption(id), TitleOf(text));
     }
-    EXPECT_EQ(qobject_cast<QGroupBox*>(TopControl(box))->title(), TitleOf(Text::HourTypes));
+    EXPECT_EQ(Caption(hourTypesBox), TitleOf(Text::HourTypes));
     Click(IDCANCEL);
   });
 }
 
 TEST_F(HourTypeList, AddingWithAnothersColourCanBeGivenUp) {
-  Run([&] {
+  Run([] {
     WhenNextWindow([] {
-      Type(nameEdit, "new");
+      Type(hourName, "new");
       ChooseNextColour(Qt::red);
-      Click(swatch);
+      Click(hourSwatch);
       AnswerNextBox(Text::TypeColourTaken, QMessageBox::No);
       Click(IDOK);
       EXPECT_EQ(Swatch()->ShownColour(), 0x0000FFU);
@@ -220,45 +180,47 @@ TEST_F(HourTypeList, AddingWithAnothersColourCanBeGivenUp) {
     Click(IDOK);
   });
   EXPECT_FALSE(modified);
-  EXPECT_EQ(Hours(), *before);
+  EXPECT_EQ(*hours, before);
 }
 
 TEST_F(HourTypeList, TheColumnFillsAListThatScrolls) {
   for (int i = 0; i < 50; ++i) {
-    Hours().NewChild(L"hour", nullptr)->SetValue(L"name", std::to_wstring(i).c_str());
+    hours->NewChild(L"hour", nullptr)->SetValue(L"name", std::to_wstring(i).c_str());
   }
-  Run([&] {
+  Run([] {
     Settle();
-    EXPECT_EQ(List()->columnWidth(0), List()->viewport()->width());
+    EXPECT_EQ(List(typeList)->columnWidth(0), List(typeList)->viewport()->width());
     NameNext("zz");
     Click(addButton);
     Settle();
-    EXPECT_EQ(List()->columnWidth(0), List()->viewport()->width());
-    EXPECT_FALSE(List()->horizontalScrollBar()->isVisible());
+    EXPECT_EQ(List(typeList)->columnWidth(0), List(typeList)->viewport()->width());
+    EXPECT_FALSE(List(typeList)->horizontalScrollBar()->isVisible());
     Click(IDCANCEL);
   });
 }
 
 TEST_F(HourTypeList, OtherKeysDoNothing) {
-  Run([&] {
-    ClickRow(0);
-    QTest::keyClick(List(), Qt::Key_C, Qt::ControlModifier);
-    QTest::keyClick(List(), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Names().size(), 2);
+  Run([] {
+    ClickRow(typeList, 0);
+    Press(typeList, Qt::Key_C, Qt::ControlModifier);
+    Press(typeList, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Names(typeList).size(), 2);
     Click(IDCANCEL);
   });
   EXPECT_FALSE(modified);
 }
 
 TEST_F(HourTypeList, ItHasALeastSizeAndItsColumnFollows) {
-  Run([&] {
+  Run([] {
     EXPECT_EQ(TopWindow()->minimumSize(), QSize(200, 300));
     for (const QSize size : {QSize(200, 300), QSize(700, 500)}) {
       TopWindow()->resize(size);
       Settle();
-      EXPECT_EQ(List()->columnWidth(0), List()->viewport()->width());
-      EXPECT_TRUE(TopControl(box)->geometry().contains(
-          QRect(List()->mapTo(TopWindow(), QPoint()), List()->size())));
+      EXPECT_EQ(List(typeList)->columnWidth(0), List(typeList)->viewport()->width());
+      EXPECT_TRUE(TopControl(hourTypesBox)
+                      ->geometry()
+                      .contains(QRect(List(typeList)->mapTo(TopWindow(), QPoint()),
+                                      List(typeList)->size())));
       EXPECT_LT(TopControl(removeButton)->geometry().left(),
                 TopControl(removeButton)->geometry().right());
     }
@@ -269,9 +231,9 @@ TEST_F(HourTypeList, ItHasALeastSizeAndItsColumnFollows) {
 }
 
 TEST_F(HourTypeList, TheEditorSeesTheNewHourTypeInTheList) {
-  Run([&] {
+  Run([] {
     WhenNextWindow([] {
-      Type(nameEdit, "day");
+      Type(hourName, "day");
       AnswerNextBox(Text::TypeNameTaken, QMessageBox::Ok);
       Click(IDOK);
       Click(IDCANCEL);
@@ -279,7 +241,7 @@ TEST_F(HourTypeList, TheEditorSeesTheNewHourTypeInTheList) {
     Click(addButton);
     Click(IDCANCEL);
   });
-  EXPECT_EQ(Hours(), *before);
+  EXPECT_EQ(*hours, before);
 }
 
 TEST(HourTypeListAlone, WithoutAHostItGivesMinusOne) {
