@@ -55,15 +55,6 @@ class ConfiguratorTest : public testing::Test {
     return QImage(file, "PNG");
   }
 
-  /// All files of the installation.
-  std::map<std::string, std::string> Files() const {
-    std::map<std::string, std::string> files;
-    for (const auto& file : std::filesystem::directory_iterator(installation.File("."))) {
-      files[file.path().filename().string()] = qv::FileBytes(file.path());
-    }
-    return files;
-  }
-
   ExampleCopy installation;
   qv::TemporaryDirectory pictures;
 };
@@ -179,12 +170,12 @@ TEST_F(ConfiguratorTest, APictureThatCanNotBeWrittenIsToldWithItsName) {
 }
 
 TEST_F(ConfiguratorTest, NothingIsWrittenWhenNothingIsChanged) {
-  const auto before = Files();
+  const auto before = installation.Files();
   ASSERT_EQ(before.size(), 8U);
   Picture({"--show", "main"});
   Picture({"--show", "discriminators"});
   EXPECT_EQ(RunOnCopy({"--show", "discriminators", "--list"}).status, 0);
-  EXPECT_EQ(Files(), before);
+  EXPECT_EQ(installation.Files(), before);
 }
 
 TEST_F(ConfiguratorTest, ABrokenConfigurationIsToldAndNotOverwritten) {

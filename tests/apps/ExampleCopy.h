@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <filesystem>
+#include <map>
 #include <string>
 
 #include "tests/support/TemporaryDirectory.h"
@@ -22,6 +23,15 @@ class ExampleCopy {
 
   std::filesystem::path File(const char* name) const { return m_directory.Path() / name; }
   QString Directory() const { return QString::fromStdString(m_directory.Path().string()); }
+
+  /// The bytes of all files, by name.
+  std::map<std::string, std::string> Files() const {
+    std::map<std::string, std::string> files;
+    for (const auto& file : std::filesystem::directory_iterator(m_directory.Path())) {
+      files[file.path().filename().string()] = qv::FileBytes(file.path());
+    }
+    return files;
+  }
 
   std::string ConfigurationBytes() const { return qv::FileBytes(File("configuration.xml")); }
 

@@ -15,18 +15,17 @@
 #include "apps/configurator/StatusLine.h"
 #include "library/QVDiscriminator.h"
 #include "tests/apps/ExampleCopy.h"
+#include "tests/support/ControlDriver.h"
+#include "tests/support/ControlNumbers.h"
 #include "tests/support/DialogDriver.h"
 
 namespace configurator {
 
-/// Control of the manager.
-inline constexpr int removeButton = 5347;
-
-/// The real window on a copy of the example installation, in English.
+/// The real window on a copy of the example installation, in English unless told otherwise.
 class MainWindowTest : public testing::Test {
  protected:
-  MainWindowTest() {
-    EXPECT_FALSE(workspace.SetLanguage(qv::Language::English));
+  explicit MainWindowTest(qv::Language language = qv::Language::English) {
+    EXPECT_FALSE(workspace.SetLanguage(language));
     EXPECT_FALSE(workspace.Open(installation.Directory()));
     window = std::make_unique<MainWindow>(workspace);
     window->show();
@@ -40,18 +39,23 @@ class MainWindowTest : public testing::Test {
     return child;
   }
 
-  /// Opens the manager by its button, and lets `script` play with it; it ends by Escape.
-  void WithManager(const std::function<void(QWidget&)>& script) {
+  /// Opens the manager by its button, and lets `script` play with it and leave it.
+  void InManager(const std::function<void()>& script) {
     qv::Drive(
         [this] {
           QTest::mouseClick(Find<QPushButton>("discriminators"), Qt::LeftButton);
           return 0;
         },
-        [&] {
-          ASSERT_TRUE(qobject_cast<CDlgSetupDiscriminators*>(qv::TopWindow()));
-          script(*qv::TopWindow());
-          QTest::keyClick(qv::TopWindow(), Qt::Key_Escape);
-        });
+        script);
+  }
+
+  /// The same with a manager that is left by Escape afterwards.
+  void WithManager(const std::function<void(QWidget&)>& script) {
+    InManager([&] {
+      ASSERT_TRUE(qobject_cast<CDlgSetupDiscriminators*>(qv::TopWindow()));
+      script(*qv::TopWindow());
+      QTest::keyClick(qv::TopWindow(), Qt::Key_Escape);
+    });
   }
 
   int RowsOfManager() {
@@ -64,19 +68,12 @@ class MainWindowTest : public testing::Test {
 
   /// Runs the manager, removes "Day and night" there, and leaves it by `leave`.
   void RemoveDayAndNight(const std::function<void()>& leave) {
-    qv::Drive(
-        [this] {
-          Find<QPushButton>("discriminators")->click();
-          return 0;
-        },
-        [&] {
-          auto* rows = qv::TopWindow()->findChild<QAbstractItemView*>();
-          rows->selectionModel()->select(rows->model()->index(0, 0),
-                                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
-          qv::AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
-          qv::Click(removeButton);
-          leave();
-        });
+    InManager([&] {
+      qv::ClickRow(qv::discriminatorList, 0);
+      qv::AnswerNextBox(Text::RemoveDiscriminatorsQuestion, QMessageBox::Yes);
+      qv::Click(qv::removeButton);
+      leave();
+    });
     EXPECT_FALSE(std::filesystem::exists(
         installation.File("3cb7ab9e-fc2c-4de8-882f-a8ed7fb19e6b.Day and night.xdct")));
     EXPECT_EQ(TopLines().last(), "R$DISC_Tariff 3-0TD and 6-1TD 2026");

@@ -44,12 +44,7 @@ TEST_F(MainWindowTest, TheButtonRunsTheManagerAndEscapeLeavesTheConfigurationAlo
 TEST_F(MainWindowTest, TheExitButtonWithNothingChangedLeavesTheConfigurationAlone) {
   const std::string before = installation.ConfigurationBytes();
   workspace.Config().SetEmbedded(true);  // so that a saving would show
-  qv::Drive(
-      [this] {
-        Find<QPushButton>("discriminators")->click();
-        return 0;
-      },
-      [] { qv::Click(IDOK); });
+  InManager([] { qv::Click(IDOK); });
   EXPECT_EQ(installation.ConfigurationBytes(), before);
   EXPECT_TRUE(window->isWindowModified());
 }

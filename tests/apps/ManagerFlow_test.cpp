@@ -1,159 +1,117 @@
 // Adds, changes, renames and switches a discriminator through the sample host's real windows, as a
 // person would, and compares the files and the host's tree after each step.
-
-#include <gtest/gtest.h>
-
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-#include <QTreeWidget>
 #include <algorithm>
 #include <map>
-#include <memory>
 
-#include "apps/configurator/MainWindow.h"
-#include "tests/apps/ExampleCopy.h"
-#include "tests/support/DialogDriver.h"
+#include "tests/apps/MainWindowFixture.h"
 #include "tools/XmlDocument.h"
 
 namespace configurator {
 namespace {
 
-constexpr int ok = 1;
-constexpr int nameEdit = 5270;
-constexpr int descriptionEdit = 5267;
-constexpr int typeCombo = 5351;
-constexpr int list = 5265;
-constexpr int add = 5348;
-constexpr int modify = 5349;
-
 using FilesByName = std::map<std::string, std::string>;
 
-class ManagerFlow : public testing::TestWithParam<qv::Language> {
+/// The names of files without their ids, behind "+" for a new file, "-" for one that has gone and
+/// "~" for one that has other bytes.
+using Changes = std::vector<std::string>;
+
+void AddChange(const char* kind, const std::string& name, Changes& changes) {
+  changes.push_back(kind + name.substr(std::min(name.find('.'), name.size())));
+}
+
+Changes Between(const FilesByName& before, const FilesByName& now) {
+  Changes changes;
+  for (const auto& [name, bytes] : now) {
+    const auto old = before.find(name);
+    if (old == before.end()) {
+      AddChange("+", name, changes);
+    } else if (old->second != bytes) {
+      AddChange("~", name, changes);
+    }
+  }
+  for (const auto& [name, bytes] : before) {
+    if (!now.contains(name)) {
+      AddChange("-", name, changes);
+    }
+  }
+  std::sort(changes.begin(), changes.end());
+  return changes;
+}
+
+class ManagerFlow : public MainWindowTest, public testing::WithParamInterface<qv::Language> {
  protected:
-  ManagerFlow() {
-    EXPECT_FALSE(workspace.SetLanguage(GetParam()));
-    EXPECT_FALSE(workspace.Open(installation.Directory()));
-    window = std::make_unique<MainWindow>(workspace);
-    window->show();
+  ManagerFlow() : MainWindowTest(GetParam()) {}
+
+  /// What `step` changes on the disk.
+  Changes ChangesOf(const std::function<void()>& step) const {
+    const FilesByName before = installation.Files();
+    step();
+    return Between(before, installation.Files());
   }
 
-  void InManager(const std::function<void()>& script) {
-    qv::Drive(
-        [this] {
-          auto* button = window->findChild<QPushButton*>(QStringLiteral("discriminators"));
-          QTest::mouseClick(button, Qt::LeftButton);
-          return 0;
-        },
-        script);
+  /// Opens the discriminator of this name, plays with its editor, and confirms that.
+  Changes ChangesOfModifying(const char* name, const std::function<void()>& play) const {
+    return ChangesOf([&] {
+      const auto row = qv::Names(qv::discriminatorList).indexOf(QString::fromUtf8(name));
+      qv::ClickRow(qv::discriminatorList, static_cast<int>(row));
+      qv::WhenNextWindow([&play] {
+        play();
+        qv::Click(IDOK);
+      });
+      qv::Click(qv::modifyButton);
+    });
   }
 
-  FilesByName Files() const {
-    FilesByName files;
-    for (const auto& entry : std::filesystem::directory_iterator(installation.File("."))) {
-      files[entry.path().filename().string()] = qv::FileBytes(entry.path());
-    }
-    return files;
+  std::wstring TypeOfTheLastSavedDevice() const {
+    XmlDocument saved;
+    EXPECT_TRUE(saved.Load(installation.File("configuration.xml").wstring().c_str()));
+    const auto* devices = saved.Root()->Node(L"deviceGroups")->Node(L"devices");
+    return std::wstring((*std::prev(devices->ChildsEnd()))->Value(L"type").ToView());
   }
-
-  /// The names of files that are in `now` and not in `before`, or have other bytes, without their
-  /// ids.
-  static std::vector<std::string> Changes(const FilesByName& before, const FilesByName& now) {
-    std::vector<std::string> changes;
-    for (const auto& [name, bytes] : now) {
-      const auto old = before.find(name);
-      if (old == before.end() || old->second != bytes) {
-        changes.push_back(name.substr(std::min(name.find('.'), name.size())));
-      }
-    }
-    std::sort(changes.begin(), changes.end());
-    return changes;
-  }
-
-  static void SelectRow(const char* name) {
-    auto* rows = qobject_cast<QTreeWidget*>(qv::TopControl(list));
-    const auto found = rows->findItems(QString::fromUtf8(name), Qt::MatchExactly);
-    ASSERT_EQ(found.size(), 1);
-    QTest::mouseClick(rows->viewport(), Qt::LeftButton, {},
-                      rows->visualItemRect(found.first()).center());
-  }
-
-  static void TypeInto(int id, const char* text) {
-    auto* edit = qobject_cast<QLineEdit*>(qv::TopControl(id));
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClicks(edit, QString::fromUtf8(text));
-  }
-
-  using Changed = std::vector<std::string>;
-
-  ExampleCopy installation;
-  Workspace workspace{ProgramDirectories::OfThisProgram()};
-  std::unique_ptr<MainWindow> window;
 };
 
-TEST_P(ManagerFlow, AddChangeRenameSwitchAndCancel) {
-  FilesByName before = Files();
-  InManager([&] {
-    qv::WhenNextWindow([] {
-      TypeInto(nameEdit, "Peak");
-      QTest::keyClick(qv::TopControl(nameEdit), Qt::Key_Return);
-    });
-    qv::Click(add);
-    EXPECT_EQ(Changes(before, Files()), (Changed{".Peak.xdct", ".Peak.xdctI"}));
-    before = Files();
-
-    SelectRow("Peak");
-    qv::WhenNextWindow([] {
-      TypeInto(descriptionEdit, "When it is dear");
-      qv::Click(ok);
-    });
-    qv::Click(modify);
-    EXPECT_EQ(Changes(before, Files()), Changed{".Peak.xdct"});
-    before = Files();
-
-    SelectRow("Peak");
-    qv::WhenNextWindow([] { qv::Click(ok); });
-    qv::Click(modify);
-    EXPECT_EQ(Files(), before) << "a save that changes nothing writes the same bytes";
-
-    SelectRow("Peak");
-    qv::WhenNextWindow([] {
-      TypeInto(nameEdit, "Dear hours");
-      qv::Click(ok);
-    });
-    qv::Click(modify);
-    EXPECT_EQ(Changes(before, Files()), (Changed{".Dear hours.xdct", ".Dear hours.xdctI"}));
-    EXPECT_EQ(Files().size(), before.size());
-    before = Files();
-
-    SelectRow("Dear hours");
-    qv::WhenNextWindow([] {
-      qv::TopControl(typeCombo)->setFocus();
-      QTest::keyClick(qv::TopControl(typeCombo), Qt::Key_Down);
-      qv::Click(ok);
-    });
-    qv::Click(modify);
-    EXPECT_EQ(Changes(before, Files()), Changed{".Dear hours.xdct"});
-    EXPECT_EQ(Files().size(), before.size() - 1) << "the index file is gone";
-    before = Files();
-
-    qv::WhenNextWindow([] {
-      TypeInto(nameEdit, "dear HOURS");
-      qv::AnswerNextBox(Text::DiscriminatorNameTaken, QMessageBox::Ok);
-      qv::Click(ok);
-      QTest::keyClick(qv::TopWindow(), Qt::Key_Escape);
-    });
-    qv::Click(add);
-    EXPECT_EQ(Files(), before);
-    qv::Click(ok);
+void AddPeak() {
+  qv::WhenNextWindow([] {
+    qv::Type(qv::discriminatorName, "Peak");
+    qv::Press(qv::discriminatorName, Qt::Key_Return);
   });
-  EXPECT_EQ(Changes(before, Files()), Changed{".xml"}) << "the exit button has it saved";
-  XmlDocument saved;
-  ASSERT_TRUE(saved.Load(installation.File("configuration.xml").wstring().c_str()));
-  const auto* devices = saved.Root()->Node(L"deviceGroups")->Node(L"devices");
-  EXPECT_EQ((*std::prev(devices->ChildsEnd()))->Value(L"type"), L"R$DISC");
+  qv::Click(qv::addButton);
+}
+
+void TryToAddATakenName() {
+  qv::WhenNextWindow([] {
+    qv::Type(qv::discriminatorName, "dear HOURS");
+    qv::AnswerNextBox(Text::DiscriminatorNameTaken, QMessageBox::Ok);
+    qv::Click(IDOK);
+    QTest::keyClick(qv::TopWindow(), Qt::Key_Escape);
+  });
+  qv::Click(qv::addButton);
+}
+
+void SwitchToConditions() {
+  qv::TopControl(qv::typeCombo)->setFocus();
+  qv::Press(qv::typeCombo, Qt::Key_Down);
+}
+
+TEST_P(ManagerFlow, AddChangeRenameSwitchAndCancel) {
+  FilesByName beforeExit;
+  InManager([&] {
+    EXPECT_EQ(ChangesOf(AddPeak), (Changes{"+.Peak.xdct", "+.Peak.xdctI"}));
+    EXPECT_EQ(ChangesOfModifying("Peak", [] { qv::Type(qv::descriptionEdit, "When it is dear"); }),
+              Changes{"~.Peak.xdct"});
+    EXPECT_EQ(ChangesOfModifying("Peak", [] {}), Changes())
+        << "a save that changes nothing writes the same bytes";
+    EXPECT_EQ(ChangesOfModifying("Peak", [] { qv::Type(qv::discriminatorName, "Dear hours"); }),
+              (Changes{"+.Dear hours.xdct", "+.Dear hours.xdctI", "-.Peak.xdct", "-.Peak.xdctI"}));
+    EXPECT_EQ(ChangesOfModifying("Dear hours", SwitchToConditions),
+              (Changes{"-.Dear hours.xdctI", "~.Dear hours.xdct"}));
+    EXPECT_EQ(ChangesOf(TryToAddATakenName), Changes());
+    beforeExit = installation.Files();
+    qv::Click(IDOK);
+  });
+  EXPECT_EQ(Between(beforeExit, installation.Files()), Changes{"~.xml"})
+      << "the exit button has it saved";
+  EXPECT_EQ(TypeOfTheLastSavedDevice(), L"R$DISC");
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ManagerFlow,
