@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 #include "tests/support/FakeHost.h"
+#include "tests/support/NamedCase.h"
 
 namespace qv {
 namespace {
@@ -29,12 +28,9 @@ void TakeOut() {
 }
 
 /// One service that a host may lack.
-struct MissingService {
-  const char* name;
+struct MissingService : NamedCase {
   void (*takeOut)();
 };
-
-void PrintTo(const MissingService& missing, std::ostream* out) { *out << missing.name; }
 
 class InstalledHostWithout : public testing::TestWithParam<MissingService> {};
 
@@ -53,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(OneService, InstalledHostWithout,
                                          MissingService{"LoadString", TakeOut<QVLoadString>},
                                          MissingService{"CreateIndex",
                                                         TakeOut<CreateDiscriminatorIndex>}),
-                         [](const auto& test) { return test.param.name; });
+                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace qv

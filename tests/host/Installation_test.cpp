@@ -2,19 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include "tests/support/NamedCase.h"
 
 namespace qv {
 namespace {
 
 /// A main configuration, and whether it is of an embedded installation.
-struct Case {
-  const char* name;
+struct Case : NamedCase {
   const char* configuration;
   bool embedded;
 };
-
-void PrintTo(const Case& value, std::ostream* out) { *out << value.name; }
 
 class IsEmbeddedOf : public testing::TestWithParam<Case> {};
 
@@ -55,7 +52,7 @@ constexpr Case cases[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, IsEmbeddedOf, testing::ValuesIn(cases),
-                         [](const auto& test) { return test.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST(IsEmbedded, EmptyConfigurationIsNotEmbedded) { EXPECT_FALSE(IsEmbedded(XmlDocument())); }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/NamedCase.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/TemporaryDirectory.h"
 #include "tools/Utf8.h"
@@ -112,14 +113,11 @@ TEST_F(IndexFilesTest, TakesANameWithReferencesAndAccents) {
 }
 
 /// A file in the directory for which no index is made under the name "A".
-struct Unconcerned {
-  const char* name;
+struct Unconcerned : NamedCase {
   std::wstring file;
   std::string content;
   bool isRead;  ///< its name alone doesn't say so
 };
-
-void PrintTo(const Unconcerned& value, std::ostream* out) { *out << value.name; }
 
 class IndexFilesPassOver : public testing::TestWithParam<Unconcerned> {};
 
@@ -162,7 +160,7 @@ const Unconcerned unconcerned[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, IndexFilesPassOver, testing::ValuesIn(unconcerned),
-                         [](const auto& test) { return test.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST_F(IndexFilesTest, PassesOverAFileThatCannotBeOpened) {
   files.contents[L"/cfg/1.A.xdct"] = Discriminator("1", "A");

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
+#include "tests/support/NamedCase.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/support/TemporaryDirectory.h"
 
@@ -30,13 +29,10 @@ class Loaded : public LanguageFile {
 };
 
 /// The content of a file and the text of its number 7; no text if the number is missing.
-struct Case {
-  const char* name;
+struct Case : NamedCase {
   std::string content;
   const wchar_t* text;
 };
-
-void PrintTo(const Case& value, std::ostream* out) { *out << value.name; }
 
 class LanguageFileOf : public testing::TestWithParam<Case> {};
 
@@ -111,7 +107,7 @@ const Case cases[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, LanguageFileOf, testing::ValuesIn(cases),
-                         [](const auto& test) { return test.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST(LanguageFile, HasNothingBeforeItIsLoaded) {
   const LanguageFile language;

@@ -4,6 +4,8 @@
 
 #include <ostream>
 
+#include "tests/support/NamedCase.h"
+
 namespace qv {
 
 void PrintTo(const LayoutSpan& span, std::ostream* out) {
@@ -15,8 +17,7 @@ namespace {
 LayoutShare Fixed(int pixels) { return {pixels, false}; }
 LayoutShare Percent(int share) { return {share, true}; }
 
-struct DivideCase {
-  const char* name;
+struct DivideCase : NamedCase {
   int extent;
   std::vector<LayoutShare> items;
   std::vector<LayoutSpan> spans;
@@ -78,7 +79,7 @@ const DivideCase divideCases[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, DivideExtentTest, ::testing::ValuesIn(divideCases),
-                         [](const auto& test) { return test.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST(DivideExtent, SharesThatMakeAHundredLeaveNothingUncovered) {
   for (int extent = 0; extent < 300; ++extent) {

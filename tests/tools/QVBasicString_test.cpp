@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <ostream>
 #include <string>
 #include <utility>
 
+#include "tests/support/NamedCase.h"
 #include "tests/tools/Trees.h"
 
 namespace qv {
@@ -19,14 +19,11 @@ using namespace std::string_view_literals;
 std::uintptr_t Place(const wchar_t* text) { return reinterpret_cast<std::uintptr_t>(text); }
 
 /// A growth hint, the mode that the string takes from it, and the slack of its allocations.
-struct Growth {
-  const char* name;
+struct Growth : NamedCase {
   std::uint32_t hint;
   std::uint32_t mode;
   std::uint32_t slack;
 };
-
-void PrintTo(const Growth& growth, std::ostream* out) { *out << growth.name; }
 
 class QVBasicStringGrowth : public testing::TestWithParam<Growth> {
  protected:

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <ostream>
 
+#include "tests/support/NamedCase.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/tools/ReadingWays.h"
 #include "tests/tools/Trees.h"
@@ -14,14 +14,11 @@ namespace {
 using namespace std::string_literals;
 
 /// A text that is refused, and where.
-struct Refused {
-  const char* name;
+struct Refused : NamedCase {
   std::string xml;
   unsigned long line = 1;
   unsigned long column = 1;
 };
-
-void PrintTo(const Refused& text, std::ostream* out) { *out << text.name; }
 
 class XmlReaderRefuses : public testing::TestWithParam<Refused> {};
 

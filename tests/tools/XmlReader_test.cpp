@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
+#include "tests/support/NamedCase.h"
 #include "tests/support/ScriptedFiles.h"
 #include "tests/tools/ReadingWays.h"
 #include "tests/tools/Trees.h"
@@ -14,13 +13,10 @@ namespace {
 using namespace std::string_literals;
 
 /// A text that is accepted, and the outline of its tree.
-struct Accepted {
-  const char* name;
+struct Accepted : NamedCase {
   std::string xml;
   const char* outline;
 };
-
-void PrintTo(const Accepted& text, std::ostream* out) { *out << text.name; }
 
 class XmlReaderAccepts : public testing::TestWithParam<Accepted> {};
 

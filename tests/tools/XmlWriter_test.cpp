@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
+#include "tests/support/NamedCase.h"
 #include "tests/tools/Trees.h"
 #include "tools/Utf8.h"
 #include "tools/XmlReader.h"
@@ -19,13 +18,10 @@ std::string Bare(const XmlNode& root) {
 }
 
 /// A tree, told by some XML text of it, and the text that is written.
-struct Layout {
-  const char* name;
+struct Layout : NamedCase {
   const char* tree;
   const char* text;
 };
-
-void PrintTo(const Layout& layout, std::ostream* out) { *out << layout.name; }
 
 class XmlWriterLayout : public testing::TestWithParam<Layout> {};
 
