@@ -1,7 +1,6 @@
 // What a repaint of the day dial costs, beside the same sectors drawn straight with the painter.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPolygon>
@@ -145,11 +144,3 @@ BENCHMARK(Drawing)->Apply(EachSize);
 BENCHMARK(Painter)->Apply(EachSize);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

@@ -1,7 +1,6 @@
 // What a repaint of the grid of a slot costs, beside its selection drawn straight with the painter.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QGroupBox>
 #include <QImage>
 #include <QPainter>
@@ -76,11 +75,3 @@ BENCHMARK(Drawing)->Apply(Sizes);
 BENCHMARK(View)->Apply(Sizes);
 
 }  // namespace
-
-int main(int count, char** arguments) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(count, arguments);
-  benchmark::Initialize(&count, arguments);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}
