@@ -52,21 +52,4 @@ XmlNode* FakeHost::AddDevice(const wchar_t* driver) {
   return device;
 }
 
-InstalledFakeHost::InstalledFakeHost()
-    : m_setupBefore(QVVornelSetup::Install(&m_host.setup)),
-      m_mainCfgBefore(QVMainCfg::Install(&m_host.mainCfg)),
-      m_guidsBefore(QVVornelGuids::Install(&m_host.guids)),
-      m_loadStringBefore(QVLoadString::Install(&m_host.loadString)),
-      m_createIndexBefore(CreateDiscriminatorIndex::Install(&m_host.createIndex)),
-      m_clipboardBefore(QVClipboard::Install(&m_host.clipboard)) {}
-
-InstalledFakeHost::~InstalledFakeHost() {
-  QVVornelSetup::Install(m_setupBefore);
-  QVMainCfg::Install(m_mainCfgBefore);
-  QVVornelGuids::Install(m_guidsBefore);
-  QVLoadString::Install(m_loadStringBefore);
-  CreateDiscriminatorIndex::Install(m_createIndexBefore);
-  QVClipboard::Install(m_clipboardBefore);
-}
-
 }  // namespace qv

@@ -83,26 +83,34 @@ struct FakeHost {
   XmlNode* AddDevice(const wchar_t* driver);
 };
 
-/// A fake host that is in the registry as long as it lives. Afterwards the services that were there
-/// before are back.
+/// A service that is in the registry as long as this lives. Afterwards the one that was there
+/// before is back.
+template <class Service>
+class Installed {
+ public:
+  explicit Installed(Service& service) : m_before(Service::Install(&service)) {}
+  Installed(const Installed&) = delete;
+  Installed& operator=(const Installed&) = delete;
+  ~Installed() { Service::Install(m_before); }
+
+ private:
+  Service* m_before;
+};
+
+/// A fake host that is in the registry as long as it lives.
 class InstalledFakeHost {
  public:
-  InstalledFakeHost();
-  InstalledFakeHost(const InstalledFakeHost&) = delete;
-  InstalledFakeHost& operator=(const InstalledFakeHost&) = delete;
-  ~InstalledFakeHost();
-
   FakeHost& operator*() { return m_host; }
   FakeHost* operator->() { return &m_host; }
 
  private:
   FakeHost m_host;
-  QVVornelSetup* m_setupBefore;
-  QVMainCfg* m_mainCfgBefore;
-  QVVornelGuids* m_guidsBefore;
-  QVLoadString* m_loadStringBefore;
-  CreateDiscriminatorIndex* m_createIndexBefore;
-  QVClipboard* m_clipboardBefore;
+  Installed<QVVornelSetup> m_setup{m_host.setup};
+  Installed<QVMainCfg> m_mainCfg{m_host.mainCfg};
+  Installed<QVVornelGuids> m_guids{m_host.guids};
+  Installed<QVLoadString> m_loadString{m_host.loadString};
+  Installed<CreateDiscriminatorIndex> m_createIndex{m_host.createIndex};
+  Installed<QVClipboard> m_clipboard{m_host.clipboard};
 };
 
 }  // namespace qv

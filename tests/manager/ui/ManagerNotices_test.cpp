@@ -23,7 +23,7 @@ TEST_F(SetupDiscriminators, ANoticeFindsOnTheScreenWhatTheListHolds) {
   AddFile("1", "alpha", "");
   AddFile("2", "beta", "");
   WatchingGuids guids(&Shown);
-  QVVornelGuids* before = QVVornelGuids::Install(&guids);
+  const Installed<QVVornelGuids> installed(guids);
   Run([] {
     EditNext("gamma", IDOK);
     Click(addButton);
@@ -33,7 +33,6 @@ TEST_F(SetupDiscriminators, ANoticeFindsOnTheScreenWhatTheListHolds) {
     Click(removeButton);
     Click(exitButton);
   });
-  QVVornelGuids::Install(before);
   const std::vector<std::pair<int, QStringList>> expected = {
       {8, {"alpha", "beta"}}, {5, {"alpha", "beta", "gamma"}}, {5, {"alpha", "beta", "gamma"}},
       {8, {"beta", "gamma"}}, {5, {"beta", "gamma"}},          {8, {"gamma"}}};

@@ -329,7 +329,7 @@ class WatchingClipboard : public QVClipboard {
 
 TEST_F(SetupDiscriminators, TheWaitCursorShowsDuringCopyAndPasteAndGoesOnEveryWayOut) {
   WatchingClipboard clipboard;
-  QVClipboard* before = QVClipboard::Install(&clipboard);
+  const Installed<QVClipboard> installed(clipboard);
   AddFile("1", "alpha", "a");
   Run([&] {
     const auto press = [](Qt::Key key) {
@@ -346,7 +346,6 @@ TEST_F(SetupDiscriminators, TheWaitCursorShowsDuringCopyAndPasteAndGoesOnEveryWa
     Click(exitButton);
   });
   EXPECT_EQ(clipboard.shapes, std::vector<Qt::CursorShape>(4, Qt::WaitCursor));
-  QVClipboard::Install(before);
 }
 
 TEST_F(SetupDiscriminators, TheMenuOffersCopyAndPasteAsFarAsTheyCanBeDone) {

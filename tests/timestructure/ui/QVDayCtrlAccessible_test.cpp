@@ -52,13 +52,12 @@ TEST(QVDayCtrlAccessible, TellsTheSlotsInTheWordsOfTheHost) {
     qv::LanguageFile language;
     const std::string path = std::string(QV_PROJECT_DIR "/languages/") + file + ".txt";
     ASSERT_TRUE(language.Load(qv::FromUtf8(path)));
-    QVLoadString* before = QVLoadString::Install(&language);
+    const qv::Installed<QVLoadString> installed(language);
     QVDayCtrl dial;
     EXPECT_EQ(Told(dial, QAccessible::Name), name);
     EXPECT_EQ(Told(dial, QAccessible::Description), empty);
     SetupMorning(dial);
     EXPECT_EQ(Told(dial, QAccessible::Description), told);
-    QVLoadString::Install(before);
   }
 }
 
