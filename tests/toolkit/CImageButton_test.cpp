@@ -25,6 +25,15 @@ class CImageButtonTest : public ::testing::Test {
  protected:
   CImageButtonTest() { m_button.resize(300, 24); }
 
+  /// Gives the button a caption that fits, and expects it to be handed to the style as `painted`.
+  void ExpectShown(const QString& caption, const QString& painted) {
+    m_button.SetCaption(caption);
+    EXPECT_EQ(m_button.ShownCaption(), caption);
+    EXPECT_EQ(m_button.PaintedText(), painted);
+    EXPECT_TRUE(m_button.toolTip().isEmpty());
+    EXPECT_EQ(m_button.accessibleName(), caption);
+  }
+
   qv::PictureFiles m_files;
   OpenButton m_button;
 };
@@ -32,19 +41,12 @@ class CImageButtonTest : public ::testing::Test {
 const auto longCaption = QStringLiteral("A caption that needs more room than that & \"so\" on");
 
 TEST_F(CImageButtonTest, ShowsItsCaptionWhole) {
-  m_button.SetCaption(QStringLiteral("Modify"));
-  EXPECT_EQ(m_button.ShownCaption(), QStringLiteral("Modify"));
-  EXPECT_EQ(m_button.PaintedText(), QStringLiteral("Modify"));
-  EXPECT_TRUE(m_button.toolTip().isEmpty());
-  EXPECT_EQ(m_button.accessibleName(), QStringLiteral("Modify"));
+  ExpectShown(QStringLiteral("Modify"), QStringLiteral("Modify"));
 }
 
 TEST_F(CImageButtonTest, AmpersandIsNoMnemonic) {
-  m_button.SetCaption(QStringLiteral("A & &B"));
-  EXPECT_EQ(m_button.ShownCaption(), QStringLiteral("A & &B"));
-  EXPECT_EQ(m_button.PaintedText(), QStringLiteral("A && &&B"));
+  ExpectShown(QStringLiteral("A & &B"), QStringLiteral("A && &&B"));
   EXPECT_TRUE(m_button.shortcut().isEmpty());
-  EXPECT_EQ(m_button.accessibleName(), QStringLiteral("A & &B"));
 }
 
 TEST_F(CImageButtonTest, CaptionThatDoesNotFitIsElidedWithATooltip) {

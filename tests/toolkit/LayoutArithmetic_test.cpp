@@ -14,8 +14,8 @@ void PrintTo(const LayoutSpan& span, std::ostream* out) {
 
 namespace {
 
-LayoutShare Fixed(int pixels) { return {pixels, false}; }
-LayoutShare Percent(int share) { return {share, true}; }
+LayoutShare operator""_px(unsigned long long pixels) { return {static_cast<int>(pixels), false}; }
+LayoutShare operator""_pc(unsigned long long share) { return {static_cast<int>(share), true}; }
 
 struct DivideCase : NamedCase {
   int extent;
@@ -31,50 +31,32 @@ TEST_P(DivideExtentTest, GivesTheSpans) {
 
 const DivideCase divideCases[] = {
     {"Nothing", 100, {}, {}},
-    {"FixedItemsStandSideBySide", 100, {Fixed(10), Fixed(20)}, {{0, 10}, {10, 20}}},
-    {"OneShareTakesWhatIsLeft",
-     100,
-     {Fixed(10), Percent(100), Fixed(20)},
-     {{0, 10}, {10, 70}, {80, 20}}},
-    {"SharesDivideWhatFixedItemsLeave",
-     110,
-     {Percent(50), Fixed(10), Percent(50)},
-     {{0, 50}, {50, 10}, {60, 50}}},
-    {"LastShareTakesTheRounding",
-     101,
-     {Percent(33), Percent(34), Percent(33)},
-     {{0, 33}, {33, 34}, {67, 34}}},
+    {"FixedItemsStandSideBySide", 100, {10_px, 20_px}, {{0, 10}, {10, 20}}},
+    {"OneShareTakesWhatIsLeft", 100, {10_px, 100_pc, 20_px}, {{0, 10}, {10, 70}, {80, 20}}},
+    {"SharesDivideWhatFixedItemsLeave", 110, {50_pc, 10_px, 50_pc}, {{0, 50}, {50, 10}, {60, 50}}},
+    {"LastShareTakesTheRounding", 101, {33_pc, 34_pc, 33_pc}, {{0, 33}, {33, 34}, {67, 34}}},
     {"RoundingPassesOverALastShareOfNothing",
      101,
-     {Percent(50), Percent(50), Percent(0)},
+     {50_pc, 50_pc, 0_pc},
      {{0, 50}, {50, 51}, {101, 0}}},
     {"FixedItemBehindTheLastShareStaysAtTheEnd",
      106,
-     {Percent(50), Percent(50), Fixed(5)},
+     {50_pc, 50_pc, 5_px},
      {{0, 50}, {50, 51}, {101, 5}}},
-    {"LessThanAHundredLeavesRoom", 200, {Percent(10), Percent(40)}, {{0, 20}, {20, 80}}},
-    {"LessThanAHundredRoundsWithinItsPart", 99, {Percent(25), Percent(25)}, {{0, 24}, {24, 25}}},
-    {"MoreThanAHundredIsScaledDown", 100, {Percent(100), Percent(100)}, {{0, 50}, {50, 50}}},
-    {"SharesOfNothingGetNothing",
-     100,
-     {Percent(0), Fixed(10), Percent(0)},
-     {{0, 0}, {0, 10}, {10, 0}}},
-    {"NoRestLeavesSharesEmpty",
-     30,
-     {Fixed(20), Percent(100), Fixed(10)},
-     {{0, 20}, {20, 0}, {20, 10}}},
+    {"LessThanAHundredLeavesRoom", 200, {10_pc, 40_pc}, {{0, 20}, {20, 80}}},
+    {"LessThanAHundredRoundsWithinItsPart", 99, {25_pc, 25_pc}, {{0, 24}, {24, 25}}},
+    {"MoreThanAHundredIsScaledDown", 100, {100_pc, 100_pc}, {{0, 50}, {50, 50}}},
+    {"SharesOfNothingGetNothing", 100, {0_pc, 10_px, 0_pc}, {{0, 0}, {0, 10}, {10, 0}}},
+    {"NoRestLeavesSharesEmpty", 30, {20_px, 100_pc, 10_px}, {{0, 20}, {20, 0}, {20, 10}}},
     {"NegativeRestCutsTheLastItems",
      25,
-     {Fixed(20), Percent(100), Fixed(10), Fixed(10)},
+     {20_px, 100_pc, 10_px, 10_px},
      {{0, 20}, {20, 0}, {20, 5}, {25, 0}}},
-    {"NegativeExtentIsNone", -5, {Fixed(20), Percent(100)}, {{0, 0}, {0, 0}}},
-    {"NegativeAmountsAreNone",
-     100,
-     {Fixed(-7), Percent(-3), Percent(100)},
-     {{0, 0}, {0, 0}, {0, 100}}},
+    {"NegativeExtentIsNone", -5, {20_px, 100_pc}, {{0, 0}, {0, 0}}},
+    {"NegativeAmountsAreNone", 100, {{-7, false}, {-3, true}, 100_pc}, {{0, 0}, {0, 0}, {0, 100}}},
     {"GreatExtentsDoNotOverflow",
      2000000000,
-     {Percent(50), Percent(50)},
+     {50_pc, 50_pc},
      {{0, 1000000000}, {1000000000, 1000000000}}},
 };
 
@@ -83,8 +65,7 @@ INSTANTIATE_TEST_SUITE_P(Table, DivideExtentTest, ::testing::ValuesIn(divideCase
 
 TEST(DivideExtent, SharesThatMakeAHundredLeaveNothingUncovered) {
   for (int extent = 0; extent < 300; ++extent) {
-    const auto spans =
-        DivideExtent(extent, {Percent(7), Percent(26), Fixed(8), Percent(33), Percent(34)});
+    const auto spans = DivideExtent(extent, {7_pc, 26_pc, 8_px, 33_pc, 34_pc});
     EXPECT_EQ(spans.back().offset + spans.back().length, extent);
     for (std::size_t i = 1; i < spans.size(); ++i) {
       EXPECT_EQ(spans[i].offset, spans[i - 1].offset + spans[i - 1].length);
@@ -109,8 +90,8 @@ TEST(RoomForShare, AsksForNothingWithoutNeedOrWithoutShare) {
 
 TEST(WholeOf, IsAHundredOrTheGreaterSum) {
   EXPECT_EQ(WholeOf({}), 100);
-  EXPECT_EQ(WholeOf({Percent(30), Fixed(500)}), 100);
-  EXPECT_EQ(WholeOf({Percent(80), Percent(70)}), 150);
+  EXPECT_EQ(WholeOf({30_pc, 500_px}), 100);
+  EXPECT_EQ(WholeOf({80_pc, 70_pc}), 150);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QImage>
 #include <QTemporaryDir>
+#include <QWidget>
+#include <functional>
 
 #include "toolkit/Strings.h"
 
@@ -38,6 +40,13 @@ class PictureFiles {
  private:
   QTemporaryDir m_directory;
 };
+
+/// Whether `change` makes a widget look otherwise.
+inline bool ChangesLook(QWidget& widget, const std::function<void()>& change) {
+  const QImage before = widget.grab().toImage();
+  change();
+  return widget.grab().toImage() != before;
+}
 
 /// How many pixels of `image` have exactly this colour.
 inline int CountPixels(const QImage& image, const QColor& colour) {

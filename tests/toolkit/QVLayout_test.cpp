@@ -17,6 +17,16 @@ class QVLayoutTest : public ::testing::Test {
     }
   }
 
+  /// Where a control stands that has all of a layout within its borders.
+  template <class Layout>
+  QRect PlaceWithin(LayoutSize firstBorder, LayoutSize secondBorder, const QRect& room = area) {
+    Layout layout(&m_window);
+    layout.SetBorders(firstBorder, secondBorder);
+    layout.AddControl(1, 100);
+    layout.Layout(room);
+    return m_window.At(1);
+  }
+
   LayoutWindow m_window;
   LayoutMetrics m_metrics = m_window.Metrics();
 };
@@ -67,27 +77,16 @@ TEST_F(QVLayoutTest, ControlsMayBeGivenThemselves) {
 }
 
 TEST_F(QVLayoutTest, BordersOfAColumnAreLeftAndRight) {
-  QVVerticalLayout column(&m_window);
-  column.SetBorders(PixelSize(5), PixelSize(9));
-  column.AddControl(1, 100);
-  column.Layout(area);
-  EXPECT_EQ(m_window.At(1), QRect(15, 20, 286, 200));
+  EXPECT_EQ(PlaceWithin<QVVerticalLayout>(PixelSize(5), PixelSize(9)), QRect(15, 20, 286, 200));
 }
 
 TEST_F(QVLayoutTest, BordersOfARowAreAboveAndBelow) {
-  QVHoritzontalLayout row(&m_window);
-  row.SetBorders(PixelSize(5), PixelSize(9));
-  row.AddControl(1, 100);
-  row.Layout(area);
-  EXPECT_EQ(m_window.At(1), QRect(10, 25, 300, 186));
+  EXPECT_EQ(PlaceWithin<QVHoritzontalLayout>(PixelSize(5), PixelSize(9)), QRect(10, 25, 300, 186));
 }
 
 TEST_F(QVLayoutTest, StandardBordersAreTheStandardSpacing) {
-  QVVerticalLayout column(&m_window);
-  column.SetBorders(LayoutSizeStandard, LayoutSizeStandard);
-  column.AddControl(1, 100);
-  column.Layout(area);
-  EXPECT_EQ(m_window.At(1), area.adjusted(m_metrics.standard, 0, -m_metrics.standard, 0));
+  EXPECT_EQ(PlaceWithin<QVVerticalLayout>(LayoutSizeStandard, LayoutSizeStandard),
+            area.adjusted(m_metrics.standard, 0, -m_metrics.standard, 0));
 }
 
 TEST_F(QVLayoutTest, NestedLayoutTakesItsShare) {
@@ -258,11 +257,9 @@ TEST_F(QVLayoutTest, TooLittleRoomCutsTheLastItems) {
 }
 
 TEST_F(QVLayoutTest, RectangleSmallerThanItsBordersHoldsNothing) {
-  QVVerticalLayout column(&m_window);
-  column.SetBorders(PixelSize(50), PixelSize(50));
-  column.AddControl(1, 100);
-  column.Layout(QRect(0, 0, 60, 40));
-  EXPECT_EQ(m_window.At(1).width(), 0);
+  const QRect place =
+      PlaceWithin<QVVerticalLayout>(PixelSize(50), PixelSize(50), QRect(0, 0, 60, 40));
+  EXPECT_EQ(place.width(), 0);
 }
 
 TEST_F(QVLayoutTest, LayingOutAgainFollowsTheNewRectangle) {
