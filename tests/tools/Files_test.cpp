@@ -35,6 +35,14 @@ class DiskFiles : public testing::Test {
     return directory.Path() / name;
   }
 
+  /// Puts a file with these permissions, and expects this end of its removal.
+  void ExpectRemoval(unsigned mode, Removal end) const {
+    const fs::path path = Put("a" + std::to_string(mode));
+    fs::permissions(path, static_cast<fs::perms>(mode));
+    EXPECT_EQ(files.Remove(path.wstring()), end) << mode;
+    EXPECT_EQ(fs::exists(path), end == Removal::Refused) << mode;
+  }
+
   Names Walk(std::wstring_view ending) const { return files.Walk(Path(L"*") += ending); }
 
   TemporaryDirectory directory;
@@ -154,19 +162,13 @@ TEST_F(DiskFiles, RemoveRefusesADirectoryEvenAnEmptyOne) {
 
 TEST_F(DiskFiles, RemoveRefusesAFileWithoutAnyWritePermission) {
   for (const unsigned mode : {0444U, 0400U, 0555U, 0000U}) {
-    const fs::path path = Put("a" + std::to_string(mode));
-    fs::permissions(path, static_cast<fs::perms>(mode));
-    EXPECT_EQ(files.Remove(path.wstring()), Removal::Refused) << mode;
-    EXPECT_TRUE(fs::exists(path)) << mode;
+    ExpectRemoval(mode, Removal::Refused);
   }
 }
 
 TEST_F(DiskFiles, RemoveTakesAFileThatSomebodyMayWrite) {
   for (const unsigned mode : {0644U, 0200U, 0464U, 0002U}) {
-    const fs::path path = Put("a" + std::to_string(mode));
-    fs::permissions(path, static_cast<fs::perms>(mode));
-    EXPECT_EQ(files.Remove(path.wstring()), Removal::Removed) << mode;
-    EXPECT_FALSE(fs::exists(path)) << mode;
+    ExpectRemoval(mode, Removal::Removed);
   }
 }
 

@@ -56,10 +56,11 @@ TEST(FromUtf8, PutsAReplacementForEachByteThatIsNoUtf8) {
 }
 
 TEST(ColumnsOf, CountsWideAndJoiningCharacters) {
-  EXPECT_EQ(ColumnsOf(L""), 0U);
-  EXPECT_EQ(ColumnsOf(L"a\u00f1"), 2U);
-  EXPECT_EQ(ColumnsOf(L"\u6771\u4eac"), 4U);
-  EXPECT_EQ(ColumnsOf(L"n\u0303"), 1U);
+  const std::pair<std::wstring_view, unsigned> rows[] = {
+      {L"", 0}, {L"a\u00f1", 2}, {L"\u6771\u4eac", 4}, {L"n\u0303", 1}};
+  for (const auto& [text, columns] : rows) {
+    EXPECT_EQ(ColumnsOf(text), columns);
+  }
 }
 
 TEST(Utf8, EveryCharacterComesBack) {

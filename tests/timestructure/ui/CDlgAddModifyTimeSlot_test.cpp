@@ -20,6 +20,14 @@ class SlotEditor : public DayTypesFixture {
     return Play(editor, script);
   }
 
+  /// Lets `play` select in a slot that starts at midnight and ends at `to`, and cancels that.
+  void SelectIn(const std::string& to, const std::function<void()>& play) {
+    Run("p", "00:00", to, [&] {
+      play();
+      Click(IDCANCEL);
+    });
+  }
+
   std::wstring Stored() const {
     return std::wstring(slot->Value(L"id").ToView()) + L" " +
            std::wstring(slot->Value(L"from").ToView()) + L"-" +
@@ -30,6 +38,9 @@ class SlotEditor : public DayTypesFixture {
     return Edit(fromHours)->text() + ":" + Edit(fromMinutes)->text() + "-" + Edit(toHours)->text() +
            ":" + Edit(toMinutes)->text();
   }
+
+  /// A minute of the day.
+  static int At(int hours, int minutes) { return hours * 60 + minutes; }
 
   /// The middle of the quarter that starts at this minute, in the dialog.
   static QPoint Cell(int minute) {
@@ -207,11 +218,11 @@ TEST_F(SlotEditor, WithoutHourTypesOnlyTheirButtonWorks) {
 
 TEST_F(SlotEditor, AClickOnTheGridSelectsAQuarter) {
   Run("p", "00:00", "00:00", [] {
-    PressCell(10 * 60 + 15);
-    Release(Cell(10 * 60 + 15));
+    PressCell(At(10, 15));
+    Release(Cell(At(10, 15)));
     EXPECT_EQ(Shown(), "10:15-10:30");
-    EXPECT_EQ(ColourAt(10 * 60 + 15), QColor(Qt::red));
-    EXPECT_EQ(ColourAt(10 * 60 + 30), QColor(0xFF, 0xCC, 0x80));
+    EXPECT_EQ(ColourAt(At(10, 15)), QColor(Qt::red));
+    EXPECT_EQ(ColourAt(At(10, 30)), QColor(0xFF, 0xCC, 0x80));
     Click(IDOK);
   });
   EXPECT_EQ(Stored(), L"p 10:15-10:30");
@@ -219,51 +230,47 @@ TEST_F(SlotEditor, AClickOnTheGridSelectsAQuarter) {
 }
 
 TEST_F(SlotEditor, ADragFollowsThePointerAndEndsWithTheButton) {
-  Run("p", "00:00", "00:00", [] {
-    PressCell(10 * 60 + 15);
-    MoveTo(Cell(12 * 60 + 30));
+  SelectIn("00:00", [] {
+    PressCell(At(10, 15));
+    MoveTo(Cell(At(12, 30)));
     EXPECT_EQ(Shown(), "10:15-12:45");
-    MoveTo(Cell(9 * 60));
+    MoveTo(Cell(At(9, 0)));
     EXPECT_EQ(Shown(), "9:0-10:30");
     MoveTo(QPoint(1, 1));
     EXPECT_EQ(Shown(), "9:0-10:30");
     Release(QPoint(1, 1));
-    MoveTo(Cell(20 * 60), Qt::NoButton);
+    MoveTo(Cell(At(20, 0)), Qt::NoButton);
     EXPECT_EQ(Shown(), "9:0-10:30");
-    Click(IDCANCEL);
   });
 }
 
 TEST_F(SlotEditor, AReleaseOutsideTheDialogLetsTheSelectionGoOnUntilTheNextPress) {
-  Run("p", "00:00", "00:00", [] {
-    PressCell(10 * 60);
+  SelectIn("00:00", [] {
+    PressCell(At(10, 0));
     Release(QPoint(-20, -20));
-    MoveTo(Cell(11 * 60), Qt::NoButton);
+    MoveTo(Cell(At(11, 0)), Qt::NoButton);
     EXPECT_EQ(Shown(), "10:0-11:15");
-    PressCell(15 * 60);
-    MoveTo(Cell(16 * 60), Qt::NoButton);
+    PressCell(At(15, 0));
+    MoveTo(Cell(At(16, 0)), Qt::NoButton);
     EXPECT_EQ(Shown(), "10:0-11:15") << "the press only ended it";
-    Click(IDCANCEL);
   });
 }
 
 TEST_F(SlotEditor, APressBesideTheGridEndsARunningSelection) {
-  Run("p", "00:00", "00:00", [] {
-    PressCell(10 * 60);
+  SelectIn("00:00", [] {
+    PressCell(At(10, 0));
     Release(QPoint(-20, -20));
     QTest::mousePress(TopWindow(), Qt::LeftButton, {}, QPoint(2, 2));
-    MoveTo(Cell(11 * 60), Qt::NoButton);
+    MoveTo(Cell(At(11, 0)), Qt::NoButton);
     EXPECT_EQ(Shown(), "10:0-10:15");
-    Click(IDCANCEL);
   });
 }
 
 TEST_F(SlotEditor, LockedMinutesStayAtZeroWhileDragging) {
-  Run("p", "00:00", "24:00", [] {
-    PressCell(10 * 60 + 15);
-    MoveTo(Cell(12 * 60 + 15));
+  SelectIn("24:00", [] {
+    PressCell(At(10, 15));
+    MoveTo(Cell(At(12, 15)));
     EXPECT_EQ(Shown(), "10:15-12:0");
-    Click(IDCANCEL);
   });
 }
 
