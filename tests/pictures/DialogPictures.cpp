@@ -15,18 +15,62 @@
 
 namespace {
 
-/// Runs `dialog`, saves its picture as soon as it is up, and leaves it.
-void Picture(CDialog& dialog, const QString& file, QSize size = {}) {
-  QTimer::singleShot(0, &dialog, [&] {
-    if (size.isValid()) {
-      dialog.resize(size);
-    }
+/// A directory of pictures, each named after its dialog.
+class Album {
+ public:
+  explicit Album(const QString& directory) : m_directory(directory) {}
+
+  /// Runs `dialog`, saves its picture as soon as it is up, and leaves it.
+  void Add(CDialog&& dialog, const char* name, QSize size = {}) const {
+    const QString file = m_directory.filePath(QLatin1String(name) + QStringLiteral(".png"));
     QTimer::singleShot(0, &dialog, [&] {
-      dialog.grab().save(file);
-      static_cast<QWidget&>(dialog).close();
+      if (size.isValid()) {
+        dialog.resize(size);
+      }
+      QTimer::singleShot(0, &dialog, [&] {
+        dialog.grab().save(file);
+        static_cast<QWidget&>(dialog).close();
+      });
     });
-  });
-  dialog.DoModal();
+    dialog.DoModal();
+  }
+
+ private:
+  QDir m_directory;
+};
+
+QString Tariff() {
+  return QStringLiteral(PICTURED_FILE
+                        "9cfc40ad-7433-4b63-9bdc-fddcb544122c.Tariff 3-0TD and 6-1TD 2026.xdct");
+}
+
+/// Opens the installation as the words of the command line say; false if it can't be opened.
+bool Open(configurator::Workspace& workspace, const QStringList& words) {
+  const auto language = qv::LanguageOf(words[2].toStdString());
+  if (!language || workspace.SetLanguage(*language) ||
+      workspace.Open(QStringLiteral(PICTURED_FILE))) {
+    return false;
+  }
+  configurator::UseTheme(words.contains(QStringLiteral("dark")) ? configurator::Theme::Dark
+                                                                : configurator::Theme::Light);
+  workspace.Config().SetEmbedded(words.contains(QStringLiteral("embedded")));
+  return true;
+}
+
+void AddHourTypes(const Album& album, qv::XmlNode& hourTypes) {
+  album.Add(CDlgHourTypes(nullptr, &hourTypes, nullptr), "hour-types");
+  album.Add(CDlgHourTypes(nullptr, &hourTypes, nullptr), "hour-types-least", QSize(1, 1));
+  album.Add(CDlgHourTypes(nullptr, &hourTypes, nullptr), "hour-types-wide", QSize(640, 480));
+  album.Add(CDlgAddModifyHourType(nullptr, &hourTypes, *hourTypes.ChildsBegin()), "hour-type");
+}
+
+void AddDayTypes(const Album& album, qv::XmlNode& dayTypes, qv::XmlNode& hourTypes) {
+  qv::XmlNode& day = **dayTypes.ChildsBegin();
+  album.Add(CDlgDayTypes(nullptr, &dayTypes, nullptr, &hourTypes), "day-types");
+  album.Add(CDlgAddModifyDayType(nullptr, &day, &dayTypes, &hourTypes), "day-type");
+  album.Add(CDlgAddModifyDayType(nullptr, &day, &dayTypes, &hourTypes), "day-type-large",
+            QSize(1100, 700));
+  album.Add(CDlgAddModifyTimeSlot(nullptr, &hourTypes, day.Node(L"slot"), 0x80CCFF), "time-slot");
 }
 
 }  // namespace
@@ -37,47 +81,16 @@ int main(int count, char** arguments) {
   if (words.size() < 3) {
     return 2;
   }
-  const auto language = qv::LanguageOf(words[2].toStdString());
   configurator::Workspace workspace(configurator::ProgramDirectories::OfThisProgram());
-  if (!language || workspace.SetLanguage(*language) ||
-      workspace.Open(QStringLiteral(PICTURED_FILE))) {
-    return 1;
-  }
-  configurator::UseTheme(words.contains(QStringLiteral("dark")) ? configurator::Theme::Dark
-                                                                : configurator::Theme::Light);
-  workspace.Config().SetEmbedded(words.contains(QStringLiteral("embedded")));
-  const QDir directory(words[1]);
-  const QString tariff =
-      QStringLiteral(PICTURED_FILE) + QStringLiteral(
-                                          "9cfc40ad-7433-4b63-9bdc-fddcb544122c.Tariff 3-0TD and "
-                                          "6-1TD 2026.xdct");
   XmlDocument document;
-  if (!document.Load(tariff.toStdWString().c_str())) {
+  const QVWideString path(Tariff().toStdWString().c_str());
+  if (!Open(workspace, words) || !document.Load(path)) {
     return 1;
   }
+  const Album album(words[1]);
+  album.Add(CDlgAddModifyDiscriminator(nullptr, nullptr, &path), "discriminator");
   qv::XmlNode& hourTypes = *document.Root()->Node(L"hourTypes");
-  const QVWideString path(tariff.toStdWString().c_str());
-
-  CDlgAddModifyDiscriminator editor(nullptr, nullptr, &path);
-  Picture(editor, directory.filePath(QStringLiteral("discriminator.png")));
-  CDlgHourTypes types(nullptr, &hourTypes, nullptr);
-  Picture(types, directory.filePath(QStringLiteral("hour-types.png")));
-  CDlgHourTypes least(nullptr, &hourTypes, nullptr);
-  Picture(least, directory.filePath(QStringLiteral("hour-types-least.png")), QSize(1, 1));
-  CDlgHourTypes wide(nullptr, &hourTypes, nullptr);
-  Picture(wide, directory.filePath(QStringLiteral("hour-types-wide.png")), QSize(640, 480));
-  CDlgAddModifyHourType hourType(nullptr, &hourTypes, *hourTypes.ChildsBegin());
-  Picture(hourType, directory.filePath(QStringLiteral("hour-type.png")));
-
-  qv::XmlNode& dayTypes = *document.Root()->Node(L"dayTypes");
-  qv::XmlNode& day = **dayTypes.ChildsBegin();
-  CDlgDayTypes days(nullptr, &dayTypes, nullptr, &hourTypes);
-  Picture(days, directory.filePath(QStringLiteral("day-types.png")));
-  CDlgAddModifyDayType dayType(nullptr, &day, &dayTypes, &hourTypes);
-  Picture(dayType, directory.filePath(QStringLiteral("day-type.png")));
-  CDlgAddModifyDayType large(nullptr, &day, &dayTypes, &hourTypes);
-  Picture(large, directory.filePath(QStringLiteral("day-type-large.png")), QSize(1100, 700));
-  CDlgAddModifyTimeSlot slot(nullptr, &hourTypes, day.Node(L"slot"), 0x80CCFF);
-  Picture(slot, directory.filePath(QStringLiteral("time-slot.png")));
+  AddHourTypes(album, hourTypes);
+  AddDayTypes(album, *document.Root()->Node(L"dayTypes"), hourTypes);
   return 0;
 }
