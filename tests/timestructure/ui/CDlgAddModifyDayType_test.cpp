@@ -170,8 +170,9 @@ TEST_F(DayTypeEditor, AnHourTypeMadeInTheSlotEditorOutlivesACancel) {
 
 TEST_F(DayTypeEditor, ThousandsOfSlotsOfAnyTextOpen) {
   const wchar_t* const texts[] = {L"", L"7:30", L"99:99", L"-1:-1", L"zz:zz", L"00:00", L"24:00"};
+  static constexpr int count = 3000;
   XmlNode& day = Day(L"feast");
-  for (int i = 0; i < 3000; ++i) {
+  for (int i = 0; i < count; ++i) {
     XmlNode* slot = day.NewChild(L"slot", nullptr);
     slot->SetValue(L"id", L"p");
     slot->SetValue(L"from", texts[i % 7]);
@@ -180,7 +181,7 @@ TEST_F(DayTypeEditor, ThousandsOfSlotsOfAnyTextOpen) {
   hours->Node(L"hour")->SetValue(L"color", L"no colour");
   Run(day, [] {
     WhenNextWindow([] {
-      EXPECT_EQ(List(typeList)->topLevelItemCount(), 3000);
+      EXPECT_EQ(List(typeList)->topLevelItemCount(), count);
       Settle();
       Click(IDCANCEL);
     });
