@@ -60,7 +60,8 @@ void ChooseInMenu(QWidget* viewport, const QString& caption) {
         return;
       }
     }
-    ADD_FAILURE() << "no such command";
+    ADD_FAILURE() << "no command " << qPrintable(caption);
+    menu->close();
   });
 }
 
