@@ -9,10 +9,14 @@ namespace qv {
 
 QVWideString ColourText(Colour color) { return QVWideString(Format(L"%06X", {color}).c_str()); }
 
+Colour ColourAsStored(const QVWideString& text) {
+  return static_cast<Colour>(HtoL(text, text.Length()));
+}
+
 Colour ColourOfText(const QVWideString& text) {
   QVWideString upper(text);
   upper.MakeUpper();
-  return static_cast<Colour>(HtoL(upper, upper.Length()));
+  return ColourAsStored(upper);
 }
 
 QVWideString TimeText(TimeOfDay time) {

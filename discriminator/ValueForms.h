@@ -12,6 +12,10 @@ namespace qv {
 /// A colour as "%06X": blue, green, red.
 QVWideString ColourText(Colour color);
 
+/// The colour that `text` writes as it stands, without folding the case of its letters; an empty or
+/// wrong text gives what its first hexadecimal digits write, which may be 0.
+Colour ColourAsStored(const QVWideString& text);
+
 /// The colour that `text` writes, in letters of either case; an empty or wrong text gives what its
 /// first hexadecimal digits write, which may be 0.
 Colour ColourOfText(const QVWideString& text);

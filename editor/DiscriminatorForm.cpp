@@ -1,6 +1,7 @@
 #include "editor/DiscriminatorForm.h"
 
 #include "discriminator/DeviceLinks.h"
+#include "discriminator/DiscriminatorDocument.h"
 #include "discriminator/EditedCopies.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"

@@ -2,13 +2,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "discriminator/Containers.h"
 #include "discriminator/DiscriminatorDirectory.h"
-#include "discriminator/DiscriminatorDocument.h"
 #include "host/EditorEnd.h"
 #include "host/Host.h"
-#include "host/Prompter.h"
 #include "host/SaveEnd.h"
 #include "tools/Files.h"
 #include "tools/XmlDocument.h"
@@ -27,7 +26,7 @@ struct DiscriminatorFields {
 /// The two types that the user can choose.
 enum class DiscriminatorType { Slots, Conditions };
 
-/// What the editor of a discriminator works with; all of it outlives the editor.
+/// What the editor of a discriminator works with; all that it refers to outlives the editor.
 struct EditorServices {
   Host host;
   Files& files;
@@ -45,8 +44,8 @@ class DiscriminatorForm {
 
   /// A new discriminator if `filePath` is null, else the one of that file, or null if it can't be
   /// loaded. A file without id gets one.
-  static std::unique_ptr<DiscriminatorForm> Open(const EditorServices& services,
-                                                 const QVWideString* filePath);
+  [[nodiscard]] static std::unique_ptr<DiscriminatorForm> Open(const EditorServices& services,
+                                                               const QVWideString* filePath);
 
   /// Whether there was no file to open.
   bool IsNew() const { return m_filePath.Empty(); }
@@ -89,7 +88,7 @@ class DiscriminatorForm {
                     std::unique_ptr<XmlDocument> document);
 
   XmlNode& Content() { return *m_document->Root(); }
-  std::optional<Refusal> Fault(const DiscriminatorFields& typed) const;
+  [[nodiscard]] std::optional<Refusal> Fault(const DiscriminatorFields& typed) const;
   bool NameExists(const QVWideString& name) const;
   void TakeOver(const DiscriminatorFields& typed);
   void TakeOver(const wchar_t* tag, const QVWideString& value);

@@ -13,6 +13,7 @@ namespace qv {
 /// The dialogs show modal boxes, the command line writes, tests follow a script.
 class QVHOST_EXPORT Prompter {
  public:
+  /// What the placeholders of a text are filled with. Texts among them outlive the call.
   using Arguments = std::vector<FormatArgument>;
 
   virtual ~Prompter() = default;

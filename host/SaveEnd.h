@@ -17,7 +17,7 @@ enum class SaveOutcome {
 /// How a save ended, and what the user has still to be told about it.
 struct [[nodiscard]] SaveEnd {
   SaveOutcome outcome = SaveOutcome::Refused;
-  std::optional<Refusal> refusal{};  ///< nothing where a question was answered with No
+  std::optional<Refusal> refusal{};  ///< nothing where all has been said, or nothing is
 
   /// Whether the editor has done its work.
   bool IsDone() const { return outcome == SaveOutcome::Saved || outcome == SaveOutcome::Unchanged; }

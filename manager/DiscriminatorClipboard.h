@@ -29,7 +29,7 @@ struct PastedDiscriminator {
 /// The road of discriminators from the list to the host's clipboard and back.
 class DiscriminatorClipboard {
  public:
-  /// What is given outlives this object.
+  /// All that is referred to outlives this object.
   DiscriminatorClipboard(const Host& host, Files& files, DiscriminatorList& list);
 
   /// Puts the files of the selected rows on the clipboard. Does nothing without a row.

@@ -39,9 +39,9 @@ bool DiscriminatorList::Refresh(Progress& progress) {
 }
 
 void DiscriminatorList::Refresh() {
-  const auto progress = m_view.NewProgress();
   // Nobody but the view can have stopped it, and that shows no rows then.
-  std::ignore = Refresh(*progress);
+  std::ignore = Read(*m_view.NewProgress());
+  m_view.ShowRows(m_rows);
 }
 
 bool DiscriminatorList::Read(Progress& progress) {

@@ -40,7 +40,8 @@ struct [[nodiscard]] RemovalEnd {
 /// are read at each refresh; between two of them the rows are a snapshot.
 class DiscriminatorList {
  public:
-  /// `deviceGroups` is the host's node, or null; it isn't owned. All references outlive the list.
+  /// `deviceGroups` is the host's node, or null; it isn't owned. All that is referred to outlives
+  /// the list.
   DiscriminatorList(const Host& host, Files& files, Prompter& prompter, DiscriminatorListView& view,
                     XmlNode* deviceGroups);
 

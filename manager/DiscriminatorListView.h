@@ -17,7 +17,7 @@ class DiscriminatorListView {
  public:
   virtual ~DiscriminatorListView() = default;
 
-  /// Watches a reading of all files that begins now. It goes when the rows have been shown.
+  /// Watches a reading of all files that begins now. It goes before the rows are shown.
   virtual std::unique_ptr<Progress> NewProgress() = 0;
   /// The rows are these now, and none is selected.
   virtual void ShowRows(const std::vector<STagDiscriminatorRow>& /*rows*/) {}

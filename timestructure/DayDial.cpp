@@ -15,10 +15,10 @@ constexpr Colour black = 0x000000;
 constexpr std::uint8_t ringHasColour = 1;
 constexpr int labelHeight = 14;
 
-/// The colour of a slot's hour type.
+/// The colour of a slot's hour type. It is read as it stands: nothing folds its case.
 Colour ColourOfSlot(const XmlNode& slot, const XmlNode* hourTypes) {
   const XmlNode* hour = HourTypeOfSlot(slot, hourTypes);
-  return hour ? ColourOfText(hour->Value(tag::Color)) : red;
+  return hour ? ColourAsStored(hour->Value(tag::Color)) : red;
 }
 
 void DrawLabel(Canvas& canvas, int i, Point rim, const std::wstring& label, Colour ink) {

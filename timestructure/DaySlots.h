@@ -42,9 +42,9 @@ class DaySlots {
   void Remove(int row);
 
   /// What is wrong with the first row that is wrong, as shown; gaps are no fault.
-  std::optional<SlotFault> FirstFault() const;
+  [[nodiscard]] std::optional<SlotFault> FirstFault() const;
   /// Whether rows without a fault leave no minute of the day free.
-  bool IsCovered() const;
+  [[nodiscard]] bool IsCovered() const;
 
  private:
   std::vector<SlotRange> Ranges() const;

@@ -62,7 +62,7 @@ ListEnd DayTypeForm::OnRemove(std::optional<int> row) {
 }
 
 SaveEnd DayTypeForm::Save(const QVWideString& name) {
-  if (auto objection = m_identity.Objection(name)) {
+  if (auto objection = m_identity.SeekApproval(name)) {
     return *std::move(objection);
   }
   m_modified = m_modified || name != m_identity.OpenedName();

@@ -27,7 +27,7 @@ class DayTypeForm {
   const std::vector<SlotRow>& Rows() const { return m_slots.Rows(); }
 
   /// What is told of the slots as they stand, as when the editor opens: gaps are no fault.
-  std::optional<Refusal> FaultOfSlots() const;
+  [[nodiscard]] std::optional<Refusal> FaultOfSlots() const;
 
   /// Runs the editor of a slot on a slot and on a copy of the hour types, which is taken over when
   /// it is confirmed.

@@ -16,7 +16,7 @@ HourTypeForm::HourTypeForm(XmlNode& hour, HourTypes hourTypes, Prompter& prompte
       m_openedValue(hour.Value(tag::Value)) {}
 
 SaveEnd HourTypeForm::Save(const QVWideString& name, const QVWideString& value) {
-  if (auto objection = m_identity.Objection(name)) {
+  if (auto objection = m_identity.SeekApproval(name)) {
     return *std::move(objection);
   }
   m_modified = m_modified || name != m_identity.OpenedName() || value != m_openedValue;

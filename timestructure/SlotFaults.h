@@ -28,11 +28,11 @@ struct SlotFault {
 
 /// What is wrong with the times of a slot: an hour above 24 or 24 with minutes, minutes above 59, a
 /// start after its end; the first of these, or nothing.
-std::optional<Text> FaultOfTimes(const SlotRange& slot);
+[[nodiscard]] std::optional<Text> FaultOfTimes(const SlotRange& slot);
 
 /// What is wrong with the slots of a day, in their order: with the times of one, or that it
 /// overlaps an earlier one (slots that touch don't). A slot with wrong times overlaps none.
-std::vector<SlotFault> FaultsOfSlots(const std::vector<SlotRange>& slots);
+[[nodiscard]] std::vector<SlotFault> FaultsOfSlots(const std::vector<SlotRange>& slots);
 
 /// How many minutes the slots come to, which is all of the day's where none is wrong and none is
 /// missing.

@@ -51,7 +51,7 @@ class TimeSlotForm {
 
  private:
   void FillHourTypes(std::optional<int> select);
-  std::optional<Refusal> Fault() const;
+  [[nodiscard]] std::optional<Refusal> Fault() const;
 
   HourTypes m_hourTypes;
   XmlNode& m_slot;

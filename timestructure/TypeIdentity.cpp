@@ -22,7 +22,7 @@ bool TypeIdentity::ChooseColour(Colour colour) {
   return isOther;
 }
 
-std::optional<SaveEnd> TypeIdentity::Objection(const QVWideString& name) const {
+std::optional<SaveEnd> TypeIdentity::SeekApproval(const QVWideString& name) const {
   if (const auto fault = FaultOfName(name)) {
     return SaveEnd{SaveOutcome::Refused, Refused(*fault)};
   }

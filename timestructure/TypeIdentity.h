@@ -41,12 +41,13 @@ class TypeIdentity {
   /// Whether another colour was chosen at any time, even if it came back.
   bool IsRecoloured() const { return m_recoloured; }
 
-  /// Nothing if the type may be called `name` and have its colour; otherwise how its save ends.
+  /// Checks the name, and asks the user about a colour that another type has. Nothing if the type
+  /// may be called `name` and have its colour; otherwise how its save ends.
   ///
   /// The name must not be empty, has to be good for a name, and holds no double quote, backslash or
   /// comma. Another type with exactly that name is refused, another one with that colour, as
   /// it is written, is asked about; what the type had when it was opened passes both.
-  std::optional<SaveEnd> Objection(const QVWideString& name) const;
+  [[nodiscard]] std::optional<SaveEnd> SeekApproval(const QVWideString& name) const;
 
  private:
   std::optional<Text> FaultOfName(const QVWideString& name) const;

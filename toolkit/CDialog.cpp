@@ -7,7 +7,6 @@
 #include <QPointer>
 #include <QPushButton>
 
-#include "toolkit/Caption.h"
 #include "toolkit/ControlCaption.h"
 #include "toolkit/Controls.h"
 #include "toolkit/Strings.h"

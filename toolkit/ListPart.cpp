@@ -44,17 +44,20 @@ ListPart::ListPart(const Controls& controls, Verbs verbs)
   connect(controls.view, &ReportList::RoomChanged, this, &ListPart::ResizeColumns);
 }
 
-void ListPart::Initialize(const Host& host, const std::vector<Text>& headings) {
+void ListPart::InitializeButtons(const Host& host) {
+  Initialize(m_controls.add, Text::Add, L"NEW-16.png", host);
+  Initialize(m_controls.modify, Text::Modify, L"MODIFY-16.png", host);
+  Initialize(m_controls.remove, Text::Remove, L"REMOVE-16.png", host);
+}
+
+void ListPart::CreateColumns(const QVLoadString& loadString, const std::vector<Text>& headings) {
   QStringList captions;
   for (const Text heading : headings) {
-    captions << HostText(host.loadString, heading);
+    captions << HostText(loadString, heading);
   }
   m_controls.view->setColumnCount(static_cast<int>(captions.size()));
   m_controls.view->setHeaderLabels(captions);
   m_controls.view->setIconSize(SmallIconSize(m_controls.view));
-  qv::Initialize(m_controls.add, Text::Add, L"NEW-16.png", host);
-  qv::Initialize(m_controls.modify, Text::Modify, L"MODIFY-16.png", host);
-  qv::Initialize(m_controls.remove, Text::Remove, L"REMOVE-16.png", host);
 }
 
 ListRow ListPart::ColouredRow(const QStringList& texts, Colour colour) const {

@@ -45,8 +45,10 @@ class ListPart : public QObject {
 
   const Controls& Parts() const { return m_controls; }
 
-  /// Gives the list its columns, which share its width, and the buttons their texts and pictures.
-  void Initialize(const Host& host, const std::vector<Text>& headings);
+  /// Gives the buttons their texts and pictures.
+  void InitializeButtons(const Host& host);
+  /// Gives the list its columns, which share its width.
+  void CreateColumns(const QVLoadString& loadString, const std::vector<Text>& headings);
 
   /// A row with the icon of a colour before it.
   ListRow ColouredRow(const QStringList& texts, Colour colour) const;

@@ -6,7 +6,7 @@
 namespace qv {
 
 /// Runs a dialog that edits something.
-inline EditorEnd RunDialog(EditingFrame& dialog) {
+[[nodiscard]] inline EditorEnd RunDialog(EditingFrame& dialog) {
   const bool confirmed = dialog.DoModal() == IDOK;
   return {confirmed, dialog.m_modified};
 }

@@ -39,9 +39,8 @@ struct Rect {
 /// Takes a picture as a short list of primitives, so that what is drawn can be computed and tested
 /// without a window.
 ///
-/// Units are pixels. Pens
-/// are solid and one pixel wide, brushes solid. An outline lies inside the rectangle that it is
-/// given for; what is empty draws nothing.
+/// Units are pixels. Pens are solid and one pixel wide, brushes solid. An outline lies inside the
+/// rectangle that it is given for; what is empty draws nothing.
 class Canvas {
  public:
   Canvas() = default;

@@ -24,7 +24,7 @@ class HostServices {
   HostServices(const HostServices&) = delete;
   HostServices& operator=(const HostServices&) = delete;
 
-  /// Dialogs work from now on on the files of `directory`. Not while one of them is open.
+  /// From now on the dialogs work on the files of `directory`. Not while one of them is open.
   void SetDirectory(std::wstring_view directory);
 
   /// From now on the dialogs speak as `file` does; false, and they go on as before, if it can't be

@@ -8,15 +8,6 @@
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
 
-namespace {
-
-using qv::DiscriminatorType;
-
-/// The types, at the places at which they can be chosen.
-constexpr std::array choices = {DiscriminatorType::Slots, DiscriminatorType::Conditions};
-
-}  // namespace
-
 CDlgAddModifyDiscriminator::CDlgAddModifyDiscriminator(qv::XmlNode* deviceGroups, CWnd* parent,
                                                        const QVWideString* filePath)
     : EditingDialog(parent), m_deviceGroups(deviceGroups) {
@@ -89,7 +80,7 @@ void CDlgAddModifyDiscriminator::InitializeType() {
 }
 
 bool CDlgAddModifyDiscriminator::HasSlots() const {
-  return m_form->Type() == DiscriminatorType::Slots;
+  return m_form->Type() == qv::DiscriminatorType::Slots;
 }
 
 void CDlgAddModifyDiscriminator::ShowLinksOfType() {
@@ -99,7 +90,7 @@ void CDlgAddModifyDiscriminator::ShowLinksOfType() {
 }
 
 void CDlgAddModifyDiscriminator::OnSelchangeType(int index) {
-  m_form->SelectType(choices.at(static_cast<std::size_t>(index)));
+  m_form->SelectType(index == 0 ? qv::DiscriminatorType::Slots : qv::DiscriminatorType::Conditions);
   ShowLinksOfType();
   PositioningControls();
 }

@@ -5,6 +5,7 @@
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 #include "manager/DiscriminatorClipboard.h"
 #include "manager/DiscriminatorList.h"
+#include "manager/DiscriminatorListView.h"
 #include "toolkit/Caption.h"
 #include "toolkit/DialogColumn.h"
 #include "toolkit/ListPart.h"
@@ -27,6 +28,27 @@ qv::EditorEnd RunEditor(CWnd* parent, qv::XmlNode* deviceGroups, const QVWideStr
 }
 
 }  // namespace
+
+/// Shows the list in the dialog.
+class CDlgSetupDiscriminators::View : public qv::DiscriminatorListView {
+ public:
+  explicit View(CDlgSetupDiscriminators& dialog) : m_dialog(dialog) {}
+
+  std::unique_ptr<qv::Progress> NewProgress() override {
+    return std::make_unique<qv::ProgressWindow>(&m_dialog, m_dialog.Services().loadString,
+                                                qv::ProgressWindow::Cancel::NotOffered);
+  }
+  void ShowRows(const std::vector<qv::STagDiscriminatorRow>& rows) override {
+    m_dialog.ShowRows(rows);
+  }
+  void RemoveRow(int row) override {
+    // The buttons follow once, when all are gone.
+    m_dialog.m_listDiscriminators->RemoveRow(row);
+  }
+
+ private:
+  CDlgSetupDiscriminators& m_dialog;
+};
 
 CDlgSetupDiscriminators::CDlgSetupDiscriminators(XmlDocument::XmlNode* deviceGroups, CWnd* parent)
     : CDialog(parent), m_ui(std::make_unique<Ui::Template1300>()), m_deviceGroups(deviceGroups) {
@@ -52,8 +74,8 @@ std::optional<int> CDlgSetupDiscriminators::OnCreate() {
     return refused;
   }
   m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
-  DiscriminatorListView& view = *this;
-  m_list = std::make_unique<qv::DiscriminatorList>(Services(), qv::Files::Disk(), *m_boxes, view,
+  m_view = std::make_unique<View>(*this);
+  m_list = std::make_unique<qv::DiscriminatorList>(Services(), qv::Files::Disk(), *m_boxes, *m_view,
                                                    m_deviceGroups);
   m_clipboard =
       std::make_unique<qv::DiscriminatorClipboard>(Services(), qv::Files::Disk(), *m_list);
@@ -65,6 +87,7 @@ void CDlgSetupDiscriminators::OnInitDialog() {
                               QStringLiteral("DISCRIMINATORVARIABLES-16.png"));
   m_list->ReadInstallation();
   InitializeTexts();
+  CreateColumns();
   if (!InitializeDiscriminatorsList()) {
     EndDialog(IDCANCEL);
     return;
@@ -74,10 +97,14 @@ void CDlgSetupDiscriminators::OnInitDialog() {
 }
 
 void CDlgSetupDiscriminators::InitializeTexts() {
+  m_listDiscriminators->InitializeButtons(Services());
   SetButton(m_ui->buttonExit, Text::Exit, L"EXIT-16.png");
   SetLabel(m_ui->boxDiscriminators, m_ui->listDiscriminators, Text::Discriminators);
   SetTitle(Text::DiscriminatorListTitle);
-  m_listDiscriminators->Initialize(Services(), {Text::Name, Text::Description});
+}
+
+void CDlgSetupDiscriminators::CreateColumns() {
+  m_listDiscriminators->CreateColumns(Services().loadString, {Text::Name, Text::Description});
   m_ui->listDiscriminators->setIconSize(rowImageSize);
 }
 
@@ -85,11 +112,6 @@ bool CDlgSetupDiscriminators::InitializeDiscriminatorsList() {
   qv::ProgressWindow progress(parentWidget(), Services().loadString,
                               qv::ProgressWindow::Cancel::Offered);
   return m_list->Refresh(progress);
-}
-
-std::unique_ptr<qv::Progress> CDlgSetupDiscriminators::NewProgress() {
-  return std::make_unique<qv::ProgressWindow>(this, Services().loadString,
-                                              qv::ProgressWindow::Cancel::NotOffered);
 }
 
 void CDlgSetupDiscriminators::ShowRows(const std::vector<qv::STagDiscriminatorRow>& rows) {
@@ -105,11 +127,6 @@ void CDlgSetupDiscriminators::ShowRows(const std::vector<qv::STagDiscriminatorRo
 void CDlgSetupDiscriminators::FollowRows() {
   m_listDiscriminators->ResizeColumns();
   m_listDiscriminators->EnableDisableButtons();
-}
-
-void CDlgSetupDiscriminators::RemoveRow(int row) {
-  // The buttons follow once, when all are gone.
-  m_listDiscriminators->RemoveRow(row);
 }
 
 void CDlgSetupDiscriminators::PositioningControls() {
@@ -163,19 +180,19 @@ void CDlgSetupDiscriminators::PasteFromClipboard() {
 
 void CDlgSetupDiscriminators::OnRclickListDiscriminators(const QPoint& globalPosition) {
   const auto offer = m_clipboard->Offer(m_listDiscriminators->SelectedRows().size());
-  if (!offer.copy && !offer.paste) {
-    return;
-  }
   QMenu menu(this);
+  const auto add = [&](Text text, const char* shortcut, void (CDlgSetupDiscriminators::*run)()) {
+    menu.addAction(qv::LiteralText(Worded(text)) + QLatin1String(shortcut), this, run);
+  };
   if (offer.copy) {
-    menu.addAction(qv::LiteralText(Worded(Text::Copy)) + "\tCtrl+C", this,
-                   &CDlgSetupDiscriminators::CopyToClipboard);
+    add(Text::Copy, "\tCtrl+C", &CDlgSetupDiscriminators::CopyToClipboard);
   }
   if (offer.paste) {
-    menu.addAction(qv::LiteralText(Worded(Text::Paste)) + "\tCtrl+V", this,
-                   &CDlgSetupDiscriminators::PasteFromClipboard);
+    add(Text::Paste, "\tCtrl+V", &CDlgSetupDiscriminators::PasteFromClipboard);
   }
-  menu.exec(globalPosition);
+  if (!menu.isEmpty()) {
+    menu.exec(globalPosition);
+  }
 }
 
 void CDlgSetupDiscriminators::OnOK() {

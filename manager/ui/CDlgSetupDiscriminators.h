@@ -3,8 +3,8 @@
 #include <QIcon>
 #include <memory>
 #include <optional>
+#include <vector>
 
-#include "manager/DiscriminatorListView.h"
 #include "toolkit/CDialog.h"
 #include "toolkit/Export.h"
 #include "tools/XmlDocument.h"
@@ -18,6 +18,7 @@ class DiscriminatorClipboard;
 class DiscriminatorList;
 class ListPart;
 class MessageBoxes;
+struct STagDiscriminatorRow;
 }  // namespace qv
 
 /// The manager of all discriminators of the configuration directory: from it the user adds,
@@ -27,8 +28,7 @@ class MessageBoxes;
 /// host's own document alone: `IDOK` if the user left by the exit button and something was saved,
 /// removed or pasted, so that the host has to save its configuration; else `IDCANCEL`, also for
 /// Escape and the close box; -1 if the host has not installed its services.
-class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog,
-                                                       private qv::DiscriminatorListView {
+class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
   Q_OBJECT
 
  public:
@@ -49,11 +49,11 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog,
   void OnDestroy() override;
 
  private:
-  std::unique_ptr<qv::Progress> NewProgress() override;
-  void ShowRows(const std::vector<qv::STagDiscriminatorRow>& rows) override;
-  void RemoveRow(int row) override;
+  class View;
 
+  void ShowRows(const std::vector<qv::STagDiscriminatorRow>& rows);
   void InitializeTexts();
+  void CreateColumns();
   bool InitializeDiscriminatorsList();
   void FollowRows();
   void OnAdd();
@@ -69,6 +69,7 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog,
   QIcon m_rowImage;
   std::unique_ptr<qv::ListPart> m_listDiscriminators;
   std::unique_ptr<qv::MessageBoxes> m_boxes;
+  std::unique_ptr<View> m_view;
   std::unique_ptr<qv::DiscriminatorList> m_list;
   std::unique_ptr<qv::DiscriminatorClipboard> m_clipboard;
 };

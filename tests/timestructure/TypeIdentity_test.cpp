@@ -33,7 +33,7 @@ class TypeIdentityTest : public testing::Test {
   }
 
   static void ExpectRefused(const TypeIdentity& identity, const wchar_t* name, Text text) {
-    const auto objection = identity.Objection(name);
+    const auto objection = identity.SeekApproval(name);
     ASSERT_TRUE(objection) << name;
     EXPECT_EQ(*objection, (SaveEnd{SaveOutcome::Refused, Refused(text)})) << name;
   }
@@ -78,50 +78,50 @@ TEST_F(TypeIdentityTest, TheFirstFaultIsTheOneThatIsTold) {
 }
 
 TEST_F(TypeIdentityTest, WhatItWasOpenedWithPasses) {
-  EXPECT_FALSE(Identity(Hour(L"Peak")).Objection(L"Peak"));
+  EXPECT_FALSE(Identity(Hour(L"Peak")).SeekApproval(L"Peak"));
   const XmlDocument copy(Hour(L"Peak"));
-  EXPECT_FALSE(Identity(*copy.Root()).Objection(L"Peak")) << "a copy meets its original";
+  EXPECT_FALSE(Identity(*copy.Root()).SeekApproval(L"Peak")) << "a copy meets its original";
 }
 
 TEST_F(TypeIdentityTest, NamesThatDifferInCaseAreTwoNames) {
-  EXPECT_FALSE(Identity(Hour(L"Peak")).Objection(L"VALLEY"));
+  EXPECT_FALSE(Identity(Hour(L"Peak")).SeekApproval(L"VALLEY"));
 }
 
 TEST_F(TypeIdentityTest, ChildrenWithAnotherTagAreNoOthers) {
   auto identity = Identity(Hour(L"Peak"));
   identity.ChooseColour(0x123456);
-  EXPECT_FALSE(identity.Objection(L"other"));
+  EXPECT_FALSE(identity.SeekApproval(L"other"));
 }
 
 TEST_F(TypeIdentityTest, AnotherOnesColourIsAskedAbout) {
   auto identity = Identity(Hour(L"valley"));
   EXPECT_TRUE(identity.ChooseColour(red));
   prompter.ExpectAsk(Text::TypeColourTaken, false);
-  EXPECT_EQ(identity.Objection(L"valley"), SaveEnd{SaveOutcome::Refused})
+  EXPECT_EQ(identity.SeekApproval(L"valley"), SaveEnd{SaveOutcome::Refused})
       << "the question has said it";
   prompter.ExpectAsk(Text::TypeColourTaken, true);
-  EXPECT_FALSE(identity.Objection(L"valley"));
+  EXPECT_FALSE(identity.SeekApproval(L"valley"));
 }
 
 TEST_F(TypeIdentityTest, AColourIsLookedForAsItIsWritten) {
   auto identity = Identity(Hour(L"Peak"));
   identity.ChooseColour(green);
-  EXPECT_FALSE(identity.Objection(L"Peak")) << "the other one has it in small letters";
+  EXPECT_FALSE(identity.SeekApproval(L"Peak")) << "the other one has it in small letters";
 }
 
 TEST_F(TypeIdentityTest, ANewTypeThatStaysWhiteIsNotAskedAbout) {
   XmlNode fresh(L"hour");
   fresh.SetValue(L"color", L"FFFFFF");
-  EXPECT_FALSE(Identity(fresh).Objection(L"n"));
+  EXPECT_FALSE(Identity(fresh).SeekApproval(L"n"));
 }
 
 TEST_F(TypeIdentityTest, TheColourThatWasOpenedIsNotAskedAbout) {
   Hour(L"valley").SetValue(L"color", L"0000FF");
   auto identity = Identity(Hour(L"Peak"));
-  EXPECT_FALSE(identity.Objection(L"Peak")) << "two of one colour from a file";
+  EXPECT_FALSE(identity.SeekApproval(L"Peak")) << "two of one colour from a file";
   identity.ChooseColour(green);
   identity.ChooseColour(red);
-  EXPECT_FALSE(identity.Objection(L"Peak"));
+  EXPECT_FALSE(identity.SeekApproval(L"Peak"));
   EXPECT_TRUE(identity.IsRecoloured()) << "a colour was chosen, though it came back";
 }
 

@@ -15,7 +15,8 @@ namespace {
 class ListPartTest : public testing::Test {
  protected:
   ListPartTest() {
-    part.Initialize(host.Services(), {Text::Name, Text::Description});
+    part.InitializeButtons(host.Services());
+    part.CreateColumns(host.loadString, {Text::Name, Text::Description});
     ShowNames({"a", "b", "c"});
     window.resize(400, 300);
     view.resize(301, 200);
@@ -64,7 +65,7 @@ TEST_F(ListPartTest, ButtonsKeysAndDoubleClicksRunTheVerbs) {
 TEST_F(ListPartTest, AListWithoutVerbsOrButtonsDoesNothing) {
   ReportList plain(&window);
   ListPart list({&plain}, {});
-  list.Initialize(host.Services(), {Text::Name});
+  list.CreateColumns(host.loadString, {Text::Name});
   list.Show({{{"a"}}}, 0);
   QTest::keyClick(&plain, Qt::Key_Insert);
   QTest::keyClick(&plain, Qt::Key_Delete);
@@ -127,7 +128,7 @@ TEST_F(ListPartTest, ColumnsShareTheWidthAndTheLastHasTheRest) {
   part.ResizeColumns();
   EXPECT_EQ(view.columnWidth(0), room / 2);
   EXPECT_EQ(view.columnWidth(1), room - room / 2);
-  part.Initialize(host.Services(), {Text::Name, Text::From, Text::To});
+  part.CreateColumns(host.loadString, {Text::Name, Text::From, Text::To});
   part.ResizeColumns();
   EXPECT_EQ(view.columnWidth(0), room / 3);
   EXPECT_EQ(view.columnWidth(1), room / 3);

@@ -39,10 +39,9 @@ std::unique_ptr<qv::DayTypeForm> CDlgAddModifyDayType::MakeForm() {
 }
 
 void CDlgAddModifyDayType::OnInitDialog() {
+  qv::LimitTyping(m_ui.editName, qv::TypeIdentity::longestTypedName);
   InitializeTexts();
-  InitializeName();
-  m_form->Fill();
-  FillList(std::nullopt);
+  InitializeList();
   PositioningControls();
   ShowColour();
   m_list->EnableDisableButtons();
@@ -59,13 +58,15 @@ void CDlgAddModifyDayType::InitializeTexts() {
   SetLabel(m_ui.labelColour, m_ui.swatchColour, Text::Colour);
   SetLabel(m_ui.boxSlots, m_ui.listSlots, Text::TimeSlots);
   SetText(m_ui.boxDial, Text::Diagram);
-  m_list->Initialize(Services(), {Text::Name, Text::From, Text::To});
+  m_list->InitializeButtons(Services());
   SetOkCancel();
 }
 
-void CDlgAddModifyDayType::InitializeName() {
-  qv::LimitTyping(m_ui.editName, qv::TypeIdentity::longestTypedName);
+void CDlgAddModifyDayType::InitializeList() {
+  m_list->CreateColumns(Services().loadString, {Text::Name, Text::From, Text::To});
   qv::SetLoadedText(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
+  m_form->Fill();
+  FillList(std::nullopt);
 }
 
 void CDlgAddModifyDayType::FillList(std::optional<int> select) {

@@ -29,7 +29,7 @@ class CDlgAddModifyDayType : public qv::EditingDialog<qv::DayTypeForm> {
 
  private:
   void InitializeTexts();
-  void InitializeName();
+  void InitializeList();
   void FillList(std::optional<int> select);
   void ShowSlotsInDial();
   void UpdateDial();

@@ -44,6 +44,13 @@ CDlgAddModifyTimeSlot::CDlgAddModifyTimeSlot(CWnd* parent, qv::XmlNode* hourType
   setMouseTracking(true);
 }
 
+CDlgAddModifyTimeSlot::~CDlgAddModifyTimeSlot() {
+  // A field that has the focus loses it when the window goes, which is after the form has gone.
+  for (const FieldControls& controls : m_fields) {
+    controls.spin->disconnect(this);
+  }
+}
+
 void CDlgAddModifyTimeSlot::Connect(const FieldControls& controls) {
   const qv::TimeField field = controls.field;
   QLineEdit* edit = controls.edit;

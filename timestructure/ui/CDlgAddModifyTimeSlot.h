@@ -23,6 +23,7 @@ class CDlgAddModifyTimeSlot : public qv::EditingDialog<qv::TimeSlotForm> {
   /// `slot` is edited after `IDOK`; `hourTypes` gains what the user adds there at once, so the
   /// caller hands over a copy. `dayColor` is the ground of the grid.
   CDlgAddModifyTimeSlot(CWnd* parent, qv::XmlNode* hourTypes, qv::XmlNode* slot, COLORREF dayColor);
+  ~CDlgAddModifyTimeSlot() override;
 
  protected:
   std::unique_ptr<qv::TimeSlotForm> MakeForm() override;

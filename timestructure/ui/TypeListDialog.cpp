@@ -24,7 +24,8 @@ void TypeListDialog::OnInitDialog() {
   SetOkCancel();
   SetLabel(m_box, m_list->Parts().view, m_wording.box);
   SetTitle(m_wording.title);
-  m_list->Initialize(Services(), {Text::Name});
+  m_list->CreateColumns(Services().loadString, {Text::Name});
+  m_list->InitializeButtons(Services());
   FillList(std::nullopt);
   setMinimumSize(leastSize);
   PositioningControls();
