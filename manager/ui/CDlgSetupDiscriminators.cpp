@@ -83,8 +83,7 @@ std::optional<int> CDlgSetupDiscriminators::OnCreate() {
 }
 
 void CDlgSetupDiscriminators::OnInitDialog() {
-  m_rowImage = qv::MaskedIcon(qv::ToQString(Services().setup.getImageFilePath()) +
-                              QStringLiteral("DISCRIMINATORVARIABLES-16.png"));
+  InitializeRowImage();
   m_list->ReadInstallation();
   InitializeTexts();
   CreateColumns();
@@ -94,6 +93,11 @@ void CDlgSetupDiscriminators::OnInitDialog() {
   }
   PositioningControls();
   KeepAsLeastSize();
+}
+
+void CDlgSetupDiscriminators::InitializeRowImage() {
+  m_rowImage = qv::MaskedIcon(qv::ToQString(Services().setup.getImageFilePath()) +
+                              QStringLiteral("DISCRIMINATORVARIABLES-16.png"));
 }
 
 void CDlgSetupDiscriminators::InitializeTexts() {
@@ -178,17 +182,19 @@ void CDlgSetupDiscriminators::PasteFromClipboard() {
   m_clipboard->Paste();
 }
 
+void CDlgSetupDiscriminators::AddCommand(QMenu& menu, Text text, const char* shortcut,
+                                         void (CDlgSetupDiscriminators::*run)()) {
+  menu.addAction(qv::LiteralText(Worded(text)) + QLatin1String(shortcut), this, run);
+}
+
 void CDlgSetupDiscriminators::OnRclickListDiscriminators(const QPoint& globalPosition) {
   const auto offer = m_clipboard->Offer(m_listDiscriminators->SelectedRows().size());
   QMenu menu(this);
-  const auto add = [&](Text text, const char* shortcut, void (CDlgSetupDiscriminators::*run)()) {
-    menu.addAction(qv::LiteralText(Worded(text)) + QLatin1String(shortcut), this, run);
-  };
   if (offer.copy) {
-    add(Text::Copy, "\tCtrl+C", &CDlgSetupDiscriminators::CopyToClipboard);
+    AddCommand(menu, Text::Copy, "\tCtrl+C", &CDlgSetupDiscriminators::CopyToClipboard);
   }
   if (offer.paste) {
-    add(Text::Paste, "\tCtrl+V", &CDlgSetupDiscriminators::PasteFromClipboard);
+    AddCommand(menu, Text::Paste, "\tCtrl+V", &CDlgSetupDiscriminators::PasteFromClipboard);
   }
   if (!menu.isEmpty()) {
     menu.exec(globalPosition);

@@ -9,6 +9,8 @@
 #include "toolkit/Export.h"
 #include "tools/XmlDocument.h"
 
+class QMenu;
+
 namespace Ui {
 class Template1300;
 }
@@ -52,6 +54,7 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
   class View;
 
   void ShowRows(const std::vector<qv::STagDiscriminatorRow>& rows);
+  void InitializeRowImage();
   void InitializeTexts();
   void CreateColumns();
   bool InitializeDiscriminatorsList();
@@ -62,6 +65,8 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
   void CopyToClipboard();
   void PasteFromClipboard();
   void OnRclickListDiscriminators(const QPoint& globalPosition);
+  void AddCommand(QMenu& menu, Text text, const char* shortcut,
+                  void (CDlgSetupDiscriminators::*run)());
   void OnKeydownListDiscriminators(int key, bool control);
 
   const std::unique_ptr<Ui::Template1300> m_ui;
