@@ -52,8 +52,9 @@ class ManagerFlow : public MainWindowTest, public testing::WithParamInterface<qv
   /// Opens the discriminator of this name, plays with its editor, and confirms that.
   Changes ChangesOfModifying(const char* name, const std::function<void()>& play) const {
     return ChangesOf([&] {
-      const auto row = qv::Names(qv::discriminatorList).indexOf(QString::fromUtf8(name));
-      qv::ClickRow(qv::discriminatorList, static_cast<int>(row));
+      const QStringList names = qv::Names(qv::discriminatorList);
+      ASSERT_EQ(names.count(name), 1) << name;
+      qv::ClickRow(qv::discriminatorList, static_cast<int>(names.indexOf(name)));
       qv::WhenNextWindow([&play] {
         play();
         qv::Click(IDOK);
