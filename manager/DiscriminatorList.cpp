@@ -127,7 +127,7 @@ RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows) {
     m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
     m_changed = true;
   }
-  return {RemovalOutcome::Done, RowAfterRemoval(last, m_rows.size())};
+  return {RemovalOutcome::Done, NearestRow(last, m_rows.size())};
 }
 
 bool DiscriminatorList::RemoveRow(int row) {

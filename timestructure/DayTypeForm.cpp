@@ -35,7 +35,8 @@ ListEnd DayTypeForm::OnAdd(const RunSlotEditor& runEditor) {
   slot.Keep();
   m_modified = true;
   Fill();
-  return {true, std::nullopt};
+  const auto last = static_cast<int>(Rows().size());
+  return {true, std::nullopt, NearestRow(last, Rows().size())};
 }
 
 ListEnd DayTypeForm::OnModify(std::optional<int> row, const RunSlotEditor& runEditor) {
@@ -49,7 +50,7 @@ ListEnd DayTypeForm::OnModify(std::optional<int> row, const RunSlotEditor& runEd
     return {};
   }
   Fill();
-  return {true, std::nullopt};
+  return {true, std::nullopt, NearestRow(*row, Rows().size())};
 }
 
 ListEnd DayTypeForm::OnRemove(std::optional<int> row) {
@@ -58,7 +59,7 @@ ListEnd DayTypeForm::OnRemove(std::optional<int> row) {
   }
   m_slots.Remove(*row);
   m_modified = true;
-  return {true, RowAfterRemoval(*row, Rows().size())};
+  return {true, NearestRow(*row, Rows().size())};
 }
 
 SaveEnd DayTypeForm::Save(const QVWideString& name) {

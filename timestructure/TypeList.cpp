@@ -30,7 +30,7 @@ ListEnd TypeList::OnAdd(const RunEditor& runEditor) {
   added.Keep();
   m_modified = true;
   Fill();
-  return {true, std::nullopt};
+  return {true, std::nullopt, RowOf(added.Node())};
 }
 
 ListEnd TypeList::OnModify(std::optional<int> row, const RunEditor& runEditor) {
@@ -54,7 +54,13 @@ ListEnd TypeList::OnRemove(std::optional<int> row) {
   m_container.RemoveChild(node);
   Fill();
   m_modified = true;
-  return {true, RowAfterRemoval(*row, m_rows.size())};
+  return {true, NearestRow(*row, m_rows.size())};
+}
+
+int TypeList::RowOf(const XmlNode& type) const {
+  const auto row = std::find_if(m_rows.begin(), m_rows.end(),
+                                [&](const ColouredType& known) { return known.node == &type; });
+  return static_cast<int>(row - m_rows.begin());
 }
 
 XmlNode* TypeList::NodeOf(std::optional<int> row) const {

@@ -38,6 +38,7 @@ class TypeList {
  private:
   void Fill();
   XmlNode* NodeOf(std::optional<int> row) const;
+  int RowOf(const XmlNode& type) const;
 
   XmlNode& m_container;
   const wchar_t* m_tag;

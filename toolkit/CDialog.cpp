@@ -55,10 +55,6 @@ void TameControls(const QDialog& dialog) {
   for (QLabel* label : labels) {
     label->setTextFormat(Qt::PlainText);
   }
-  const auto buttons = dialog.findChildren<QPushButton*>();
-  for (QPushButton* button : buttons) {
-    button->setAutoDefault(false);
-  }
 }
 
 }  // namespace
@@ -143,6 +139,14 @@ void CDialog::AdoptTemplate() {
   }
   if (auto* cancel = qobject_cast<QPushButton*>(Control(IDCANCEL))) {
     connect(cancel, &QPushButton::clicked, this, [this] { OnCancel(); });
+  }
+}
+
+void CDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  // What was opened by keyboard goes on by keyboard, and its user has to see where.
+  if (parentWidget() && parentWidget()->window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+    setAttribute(Qt::WA_KeyboardFocusChange);
   }
 }
 

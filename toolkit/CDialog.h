@@ -40,7 +40,7 @@ class CDialog : public QDialog {
   /// Places the controls over the client rectangle; called by the dialog at its start, and for each
   /// new size.
   virtual void PositioningControls() = 0;
-  /// The user pressed control 1, or Return.
+  /// The user pressed control 1, or Return anywhere but on another push button.
   virtual void OnOK() { EndDialog(IDOK); }
   /// The user pressed control 2, Escape, or the close box.
   virtual void OnCancel() { EndDialog(IDCANCEL); }
@@ -69,6 +69,7 @@ class CDialog : public QDialog {
 
   void accept() final { OnOK(); }
   void reject() final { OnCancel(); }
+  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

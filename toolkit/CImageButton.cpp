@@ -12,7 +12,7 @@ constexpr int iconGap = 4;  // what styles leave between picture and caption
 
 }  // namespace
 
-CImageButton::CImageButton(QWidget* parent) : QPushButton(parent) { setAutoDefault(false); }
+CImageButton::CImageButton(QWidget* parent) : QPushButton(parent) {}
 
 void CImageButton::SetImage(const QVWideString& path, unsigned long, bool) {
   setIcon(qv::PictureIcon(path));

@@ -4,8 +4,8 @@
 
 #include "tools/QVBasicString.h"
 
-/// A push button with a picture beside its caption. It is never the automatic default. A caption
-/// without enough room is elided and becomes the tooltip.
+/// A push button with a picture beside its caption. A caption without enough room is elided and
+/// becomes the tooltip.
 class CImageButton : public QPushButton {
   Q_OBJECT
 

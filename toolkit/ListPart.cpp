@@ -14,12 +14,6 @@ void Initialize(QAbstractButton* button, Text text, const wchar_t* picture, cons
   ShowPicture(button, host.setup.getImageFilePath() + picture);
 }
 
-void Enable(QAbstractButton* button, bool enabled) {
-  if (button) {
-    button->setEnabled(enabled);
-  }
-}
-
 void Run(const std::function<void()>& verb) {
   if (verb) {
     verb();
@@ -64,18 +58,27 @@ ListRow ListPart::ColouredRow(const QStringList& texts, Colour colour) const {
   return {texts, ColourIcon(colour, SmallIconSize(m_controls.view))};
 }
 
-void ListPart::Show(const std::vector<ListRow>& rows, std::optional<int> select) {
+void ListPart::Show(const std::vector<ListRow>& rows, std::optional<int> select,
+                    std::optional<int> current) {
   QList<QTreeWidgetItem*> items;
   for (const ListRow& row : rows) {
     auto* item = new QTreeWidgetItem(row.texts);
     item->setIcon(0, row.icon);
     items.append(item);
   }
-  m_controls.view->clear();
-  m_controls.view->addTopLevelItems(items);
-  if (select) {
-    Select(*select);
+  {
+    // The buttons follow once, when the rows and the selection are there.
+    const QSignalBlocker silent(m_controls.view);
+    m_controls.view->clear();
+    m_controls.view->addTopLevelItems(items);
+    if (select) {
+      Select(*select);
+    } else if (current) {
+      m_controls.view->setCurrentItem(m_controls.view->topLevelItem(*current), 0,
+                                      QItemSelectionModel::NoUpdate);
+    }
   }
+  EnableDisableButtons();
 }
 
 void ListPart::RemoveRow(int row) {
@@ -107,6 +110,17 @@ void ListPart::EnableDisableButtons() {
   const std::size_t selected = SelectedRows().size();
   Enable(m_controls.modify, selected == 1);
   Enable(m_controls.remove, selected >= 1);
+}
+
+void ListPart::Enable(QAbstractButton* button, bool enabled) {
+  if (!button) {
+    return;
+  }
+  if (!enabled && button->hasFocus()) {
+    // By itself it would go to the next control, which the next Space would press.
+    m_controls.view->setFocus(Qt::OtherFocusReason);
+  }
+  button->setEnabled(enabled);
 }
 
 void ListPart::OnKeydown(int key) {

@@ -52,8 +52,10 @@ class ListPart : public QObject {
 
   /// A row with the icon of a colour before it.
   ListRow ColouredRow(const QStringList& texts, Colour colour) const;
-  /// Shows these rows in place of those before, and selects one of them, or none.
-  void Show(const std::vector<ListRow>& rows, std::optional<int> select);
+  /// Shows these rows in place of those before, and selects one of them, or none. The selected row
+  /// is the current one, from which the arrow keys go on; without one `current` is, if any.
+  void Show(const std::vector<ListRow>& rows, std::optional<int> select,
+            std::optional<int> current = std::nullopt);
   /// Takes a row away. The buttons follow with the next selection, or `EnableDisableButtons`.
   void RemoveRow(int row);
   void Select(int row);
@@ -66,10 +68,12 @@ class ListPart : public QObject {
 
   /// Gives each column the same whole number of pixels, and the last one what is left.
   void ResizeColumns();
-  /// Modify needs one selected row, Remove at least one.
+  /// Modify needs one selected row, Remove at least one. The list takes the focus of a button that
+  /// gets disabled.
   void EnableDisableButtons();
 
  private:
+  void Enable(QAbstractButton* button, bool enabled);
   void OnKeydown(int key);
 
   Controls m_controls;

@@ -44,6 +44,15 @@ std::vector<int> ReportList::SelectedRows() const {
   return rows;
 }
 
+void ReportList::focusInEvent(QFocusEvent* event) {
+  const bool hadCurrent = currentIndex().isValid();
+  QTreeWidget::focusInEvent(event);
+  if (!hadCurrent) {
+    // By itself a view makes its first row current, which then looks chosen, and Down skips it.
+    selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+  }
+}
+
 void ReportList::keyPressEvent(QKeyEvent* event) {
   if (!IsForTheDialog(*event)) {
     QTreeWidget::keyPressEvent(event);

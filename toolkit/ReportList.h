@@ -7,7 +7,8 @@ namespace qv {
 
 /// A list in report form: rows of columns, no tree, full-row selection. It tells of keys and clicks
 /// in the terms of the dialogs that use it, and leaves sorting, copying and column widths to them.
-/// A text that its column cuts is shown whole in a tooltip.
+/// A text that its column cuts is shown whole in a tooltip. No row is current until the user, or
+/// the program, makes one so: the first Down chooses the first row.
 class ReportList : public QTreeWidget {
   Q_OBJECT
 
@@ -28,6 +29,7 @@ class ReportList : public QTreeWidget {
   void RoomChanged();
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;

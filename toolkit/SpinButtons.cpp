@@ -59,8 +59,11 @@ void SpinButtons::Turn(const QWheelEvent& event) {
 }
 
 void SpinButtons::wheelEvent(QWheelEvent* event) {
-  Turn(*event);
-  event->accept();
+  if (m_buddy && m_buddy->hasFocus()) {
+    Turn(*event);
+  } else {
+    event->ignore();
+  }
 }
 
 bool SpinButtons::eventFilter(QObject* buddy, QEvent* event) {

@@ -8,8 +8,8 @@ class QToolButton;
 namespace qv {
 
 /// Two small arrows that step the number in the field beside them, their buddy. They repeat while
-/// they are held down. The arrow keys of the buddy step as well, and so does the wheel over the
-/// arrows, or over the buddy while it has the focus.
+/// they are held down. The arrow keys of the buddy step as well, and so does the wheel over both of
+/// them while the buddy has the focus.
 class SpinButtons : public QWidget {
   Q_OBJECT
 

@@ -140,7 +140,7 @@ TEST_F(DayTypeFormTest, AddAppendsASlotAndTakesTheHourTypesOver) {
     EXPECT_NE(&hourTypes.Node(), hours.get());
     return Writing(confirmed)(slot, hourTypes);
   });
-  EXPECT_EQ(end, (ListEnd{true, std::nullopt}));
+  EXPECT_EQ(end, (ListEnd{true, std::nullopt, 2}));
   EXPECT_EQ(form.Rows().size(), 3U);
   EXPECT_EQ(form.Rows()[2].from, L"05:00");
   EXPECT_TRUE(hours->NodeV(L"hour?id=%s?", L"new"));
@@ -175,9 +175,20 @@ TEST_F(DayTypeFormTest, ModifyWorksOnCopiesAndSelectsNothingAfterwards) {
                             EXPECT_EQ(*days, daysBefore);
                             return end;
                           }),
-            (ListEnd{true, std::nullopt}));
+            (ListEnd{true, std::nullopt, 1}));
   EXPECT_EQ(form.Rows()[1].from, L"05:00");
   EXPECT_TRUE(form.IsModified());
+}
+
+TEST_F(DayTypeFormTest, TheCurrentRowIsTheLastOneIfTheChangedOneIsGone) {
+  const auto end = form.OnModify(1, [](XmlNode& slot, HourTypes) {
+    slot.SetValue(L"id", L"no hour type");
+    return confirmed;
+  });
+  EXPECT_EQ(end, (ListEnd{true, std::nullopt, 0}));
+  std::ignore = form.OnRemove(0);
+  EXPECT_EQ(form.OnAdd([](XmlNode&, HourTypes) { return confirmed; }), (ListEnd{true}))
+      << "a slot without an hour type leaves no row";
 }
 
 TEST_F(DayTypeFormTest, AConfirmedModifyWithoutAChangeIsStillTakenOver) {

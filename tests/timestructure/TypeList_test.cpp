@@ -98,7 +98,7 @@ TEST_F(TypeListTest, AddAppendsANewWhiteTypeBeforeTheEditorRuns) {
     type.SetValue(L"name", L"aa");
     return confirmed;
   });
-  EXPECT_EQ(end, (ListEnd{true, std::nullopt}));
+  EXPECT_EQ(end, (ListEnd{true, std::nullopt, 1}));
   EXPECT_THAT(Names(), ElementsAre(L"a", L"aa", L"b", L"C"));
   EXPECT_TRUE(list.IsModified());
 }

@@ -44,7 +44,8 @@ struct TestTemplate {
 /// Writes down what is called, in order.
 class TestDialog : public CDialog {
  public:
-  explicit TestDialog(void (*build)(QDialog*) = BuildFixed) : CDialog(nullptr) {
+  explicit TestDialog(void (*build)(QDialog*) = BuildFixed, QWidget* parent = nullptr)
+      : CDialog(parent) {
     const TestTemplate controls{build};
     Build(controls);
   }
@@ -113,6 +114,35 @@ TEST_F(CDialogTest, ReturnIsControlOneWhereverTheFocusIs) {
                    QTest::keyClick(TopWindow(), Qt::Key_Enter);
                  }),
             IDOK);
+}
+
+TEST_F(CDialogTest, ReturnOnAFocusedButtonPressesThatButton) {
+  EXPECT_EQ(Run(dialog,
+                [] {
+                  TopControl(IDCANCEL)->setFocus(Qt::TabFocusReason);
+                  QTest::keyClick(TopControl(IDCANCEL), Qt::Key_Return);
+                }),
+            IDCANCEL);
+  TestDialog second;
+  EXPECT_EQ(Run(second,
+                [] {
+                  TopControl(IDCANCEL)->setFocus(Qt::TabFocusReason);
+                  TopControl(edit)->setFocus(Qt::TabFocusReason);
+                  QTest::keyClick(TopControl(edit), Qt::Key_Return);
+                }),
+            IDOK);
+}
+
+TEST_F(CDialogTest, WhatIsOpenedByKeyboardShowsItsFocus) {
+  for (const bool byKeyboard : {false, true}) {
+    QWidget parent;
+    parent.setAttribute(Qt::WA_KeyboardFocusChange, byKeyboard);
+    TestDialog child(BuildFixed, &parent);
+    Run(child, [&] {
+      EXPECT_EQ(child.testAttribute(Qt::WA_KeyboardFocusChange), byKeyboard);
+      Click(IDOK);
+    });
+  }
 }
 
 TEST_F(CDialogTest, EscapeAndTheCloseBoxCancel) {

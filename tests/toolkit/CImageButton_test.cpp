@@ -125,10 +125,10 @@ TEST_F(CImageButtonTest, CaptionOfATemplateIsLeftToTheStyle) {
   EXPECT_EQ(m_button.PaintedText(), QStringLiteral("&Accept"));
 }
 
-TEST(CImageButton, IsNeverTheAutomaticDefault) {
+TEST(CImageButton, TakesReturnForItselfInADialog) {
   QDialog dialog;
   const CImageButton button(&dialog);
-  EXPECT_FALSE(button.autoDefault());
+  EXPECT_TRUE(button.autoDefault());
 }
 
 }  // namespace

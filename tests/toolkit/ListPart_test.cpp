@@ -105,6 +105,37 @@ TEST_F(ListPartTest, ShowReplacesTheRowsAndSelectsOneOrNone) {
   ExpectButtons(true, true);
 }
 
+TEST_F(ListPartTest, TheSelectedRowIsTheCurrentOne) {
+  ShowNames({"x", "y", "z"}, 1);
+  EXPECT_EQ(view.currentIndex().row(), 1);
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_EQ(part.SelectedRow(), 2);
+}
+
+TEST_F(ListPartTest, WithoutASelectionTheCurrentRowIsTheOneThatIsGiven) {
+  part.Show({{{"x"}}, {{"y"}}, {{"z"}}}, std::nullopt, 1);
+  EXPECT_EQ(view.currentIndex().row(), 1);
+  EXPECT_EQ(part.SelectedRow(), std::nullopt);
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_EQ(part.SelectedRow(), 2);
+  part.Show({{{"x"}}}, std::nullopt);
+  EXPECT_FALSE(view.currentIndex().isValid());
+}
+
+TEST_F(ListPartTest, AListTakesTheFocusOfAButtonThatItDisables) {
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  for (QPushButton* button : {&modify, &remove}) {
+    ShowNames({"x"}, 0);
+    button->setFocus();
+    ShowNames({"x"});
+    EXPECT_TRUE(view.hasFocus());
+  }
+  add.setFocus();
+  ShowNames({"x"});
+  EXPECT_TRUE(add.hasFocus()) << "it stays enabled";
+}
+
 TEST_F(ListPartTest, SelectingARowLeavesNoOtherSelected) {
   view.selectAll();
   EXPECT_EQ(part.SelectedRows(), (std::vector<int>{0, 1, 2}));

@@ -66,6 +66,15 @@ TEST_F(MessageBoxesTest, WithoutArgumentsAPerCentSignStandsForItself) {
   });
 }
 
+TEST_F(MessageBoxesTest, ReturnPressesTheFocusedButton) {
+  EXPECT_FALSE(AskAnd([] {
+    QAbstractButton* no = Box()->button(QMessageBox::No);
+    no->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(no, Qt::Key_Return);
+  }));
+  EXPECT_TRUE(AskAnd([] { QTest::keyClick(Box(), Qt::Key_Return); })) << "Yes at first";
+}
+
 TEST_F(MessageBoxesTest, OnlyYesIsYes) {
   EXPECT_TRUE(AskAnd([] { Box()->button(QMessageBox::Yes)->click(); }));
   EXPECT_FALSE(AskAnd([] { Box()->button(QMessageBox::No)->click(); }));

@@ -42,6 +42,26 @@ TEST_F(ReportListTest, DeleteAndInsertAreToldWithAndWithoutControl) {
   EXPECT_EQ(keys[3], QVariantList({Qt::Key_Insert, true}));
 }
 
+TEST_F(ReportListTest, TheFirstDownChoosesTheFirstRow) {
+  list.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
+  list.setFocus(Qt::TabFocusReason);
+  EXPECT_FALSE(list.currentIndex().isValid()) << "no row looks chosen";
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(list.SelectedRows(), std::vector<int>{0});
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(list.SelectedRows(), std::vector<int>{1});
+}
+
+TEST_F(ReportListTest, AListThatGetsTheFocusAgainKeepsItsCurrentRow) {
+  list.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
+  list.setCurrentItem(list.topLevelItem(2));
+  list.clearFocus();
+  list.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(list.currentIndex().row(), 2);
+}
+
 TEST_F(ReportListTest, LettersAreToldWithControlAlone) {
   QSignalSpy keys(&list, &ReportList::KeyDown);
   QTest::keyClick(&list, Qt::Key_C);

@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
+#include <QWheelEvent>
 
 namespace qv {
 namespace {
@@ -43,6 +44,29 @@ TEST_F(SpinButtonsTest, NothingStepsWhileTheyAreDisabled) {
   spin.setEnabled(false);
   QTest::keyClick(&edit, Qt::Key_Up);
   EXPECT_EQ(steps.size(), 0);
+}
+
+/// Turns the wheel by one step upwards over a widget.
+void Turn(QWidget* widget) {
+  const QPointF place(widget->rect().center());
+  QWheelEvent turn(place, widget->mapToGlobal(place), {}, {0, QWheelEvent::DefaultDeltasPerStep},
+                   Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(widget, &turn);
+}
+
+TEST_F(SpinButtonsTest, TheWheelStepsOnlyWhileTheBuddyHasTheFocus) {
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QLineEdit other(&window);
+  other.show();
+  other.setFocus();
+  Turn(&spin);
+  Turn(&edit);
+  EXPECT_EQ(steps.size(), 0);
+  edit.setFocus();
+  Turn(&spin);
+  Turn(&edit);
+  EXPECT_EQ(steps.size(), 2);
 }
 
 TEST_F(SpinButtonsTest, TheBuddyIsLeftWhenItLosesTheFocus) {

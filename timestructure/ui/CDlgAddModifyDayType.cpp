@@ -66,17 +66,17 @@ void CDlgAddModifyDayType::InitializeList() {
   m_list->CreateColumns(Services().loadString, {Text::Name, Text::From, Text::To});
   qv::SetLoadedText(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
   m_form->Fill();
-  FillList(std::nullopt);
+  FillList();
 }
 
-void CDlgAddModifyDayType::FillList(std::optional<int> select) {
+void CDlgAddModifyDayType::FillList(const qv::ListEnd& end) {
   std::vector<qv::ListRow> rows;
   for (const qv::SlotRow& slot : m_form->Rows()) {
     rows.push_back(m_list->ColouredRow(
         {qv::ToQString(slot.hourType), qv::ToQString(slot.from), qv::ToQString(slot.to)},
         slot.colour));
   }
-  m_list->Show(rows, select);
+  m_list->Show(rows, end.rowToSelect, end.currentRow);
 }
 
 void CDlgAddModifyDayType::ShowSlotsInDial() { m_dial->Setup(&m_day, &m_hourTypes.Node()); }
@@ -116,7 +116,7 @@ void CDlgAddModifyDayType::OnRemove() { Follow(m_form->OnRemove(m_list->Selected
 
 void CDlgAddModifyDayType::Follow(const qv::ListEnd& end) {
   if (end.refilled) {
-    FillList(end.rowToSelect);
+    FillList(end);
     UpdateDial();
     m_list->ResizeColumns();
   }

@@ -30,7 +30,7 @@ class CDlgAddModifyDayType : public qv::EditingDialog<qv::DayTypeForm> {
  private:
   void InitializeTexts();
   void InitializeList();
-  void FillList(std::optional<int> select);
+  void FillList(const qv::ListEnd& end = {});
   void ShowSlotsInDial();
   void UpdateDial();
   void ShowColour();

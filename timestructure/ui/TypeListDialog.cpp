@@ -26,18 +26,18 @@ void TypeListDialog::OnInitDialog() {
   SetTitle(m_wording.title);
   m_list->CreateColumns(Services().loadString, {Text::Name});
   m_list->InitializeButtons(Services());
-  FillList(std::nullopt);
+  FillList();
   setMinimumSize(leastSize);
   PositioningControls();
   m_list->EnableDisableButtons();
 }
 
-void TypeListDialog::FillList(std::optional<int> select) {
+void TypeListDialog::FillList(const ListEnd& end) {
   std::vector<ListRow> rows;
   for (const ColouredType& type : m_form->Rows()) {
     rows.push_back(m_list->ColouredRow({ToQString(type.name)}, type.colour));
   }
-  m_list->Show(rows, select);
+  m_list->Show(rows, end.rowToSelect, end.currentRow);
 }
 
 void TypeListDialog::PositioningControls() {
@@ -64,7 +64,7 @@ void TypeListDialog::OnRemove() { Follow(m_form->OnRemove(m_list->SelectedRow())
 
 void TypeListDialog::Follow(const ListEnd& end) {
   if (end.refilled) {
-    FillList(end.rowToSelect);
+    FillList(end);
     m_list->ResizeColumns();
   }
 }

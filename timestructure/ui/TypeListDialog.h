@@ -53,7 +53,7 @@ class TypeListDialog : public EditingDialog<TypeList> {
   void OnRemove();
   RunEditor Editor();
   void Follow(const ListEnd& end);
-  void FillList(std::optional<int> select);
+  void FillList(const ListEnd& end = {});
 
   Wording m_wording;
   XmlNode* m_container;
