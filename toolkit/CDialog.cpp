@@ -102,9 +102,14 @@ QString CDialog::Worded(Text text) const { return qv::HostText(Services().loadSt
 
 void CDialog::SetTitle(Text text) { setWindowTitle(Worded(text)); }
 
-void CDialog::SetText(QWidget* control, Text text) { qv::ShowCaption(control, Worded(text)); }
+void CDialog::SetText(QWidget* control, Text text) {
+  qv::ShowCaption(control, qv::HostCaption(Services().loadString, text));
+}
 
 void CDialog::SetLabel(QWidget* label, QWidget* control, Text text) {
+  if (auto* caption = qobject_cast<QLabel*>(label)) {
+    caption->setBuddy(control);
+  }
   SetText(label, text);
   control->setAccessibleName(Worded(text));
 }

@@ -52,13 +52,14 @@ class CDialog : public QDialog {
   /// The host's services. Valid from `OnCreate` on.
   const qv::Host& Services() const { return *m_host; }
 
-  /// The host's wording of a text.
+  /// The host's wording of a text, as it reads.
   QString Worded(Text text) const;
   /// Gives the window the host's text for its title.
   void SetTitle(Text text);
-  /// Gives a control the host's text.
+  /// Gives a control the host's text for its caption, with its mnemonic where it can have one.
   void SetText(QWidget* control, Text text);
-  /// The same for a label, whose text becomes the name of `control` for assistive technology.
+  /// The same for the label of `control`: its mnemonic leads there, and assistive technology calls
+  /// the control so.
   void SetLabel(QWidget* label, QWidget* control, Text text);
   /// The same for a button, which also gets the picture `fileName` of the host's image directory.
   void SetButton(QWidget* button, Text text, const wchar_t* fileName);

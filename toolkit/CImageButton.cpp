@@ -21,7 +21,7 @@ void CImageButton::SetImage(const QVWideString& path, unsigned long, bool) {
 
 void CImageButton::SetCaption(const QString& caption) {
   m_caption = caption;
-  setText(qv::LiteralText(caption));
+  setText(caption);
   Describe();
 }
 
@@ -31,8 +31,8 @@ QString CImageButton::ShownCaption() const {
 
 void CImageButton::initStyleOption(QStyleOptionButton* option) const {
   QPushButton::initStyleOption(option);
-  if (text() == qv::LiteralText(m_caption)) {
-    option->text = qv::LiteralText(ShownCaption());
+  if (text() == m_caption) {
+    option->text = ShownCaption();
   }
 }
 

@@ -16,7 +16,7 @@ class CImageButton : public QPushButton {
   /// callers hand over, and mean nothing here.
   void SetImage(const QVWideString& path, unsigned long reserved, bool disabled);
 
-  /// Shows `caption` as it stands and makes it the accessible name.
+  /// Shows `caption`, in which "&" stands before the mnemonic, and makes it the accessible name.
   void SetCaption(const QString& caption);
 
   /// What is to be seen of the caption.

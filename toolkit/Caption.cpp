@@ -7,21 +7,23 @@
 #include <QtMath>
 
 #include "toolkit/Strings.h"
+#include "toolkit/Texts.h"
 
 namespace qv {
 
-QString LiteralText(const QString& caption) {
-  return QString(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+QString LiteralText(const QString& text) {
+  return QString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 QString ElidedCaption(const QString& caption, const QFontMetrics& font, int width) {
-  return font.elidedText(caption, Qt::ElideRight, width);
+  return font.elidedText(caption, Qt::ElideRight, width, Qt::TextShowMnemonic);
 }
 
 void DescribeByCaption(QWidget* widget, const QString& caption, int width) {
   const bool elided = ElidedCaption(caption, widget->fontMetrics(), width) != caption;
-  SetPlainToolTip(widget, elided ? caption : QString());
-  widget->setAccessibleName(caption);
+  const QString reading = WithoutMnemonic(caption);
+  SetPlainToolTip(widget, elided ? reading : QString());
+  widget->setAccessibleName(reading);
 }
 
 void SetPlainToolTip(QWidget* widget, const QString& text) {
@@ -39,7 +41,7 @@ QString DoubledFile(const QString& file) {
 }
 
 int CaptionWidth(const QString& caption, const QFontMetrics& font) {
-  return qCeil(QFontMetricsF(font).horizontalAdvance(caption));
+  return qCeil(QFontMetricsF(font).horizontalAdvance(WithoutMnemonic(caption)));
 }
 
 QIcon PictureIcon(const QVWideString& path) {

@@ -9,17 +9,18 @@
 
 namespace qv {
 
-/// The button text that shows `caption` as it stands, without mnemonics.
-QString LiteralText(const QString& caption);
+/// The caption that shows `text`, which is data, as it stands.
+QString LiteralText(const QString& text);
 
-/// `caption`, cut at the right with an ellipsis if it is wider than `width` pixels.
+/// `caption`, which may have a mnemonic, cut at the right with an ellipsis if it is wider than
+/// `width` pixels.
 QString ElidedCaption(const QString& caption, const QFontMetrics& font, int width);
 
 /// The least width in which `caption` isn't cut.
 int CaptionWidth(const QString& caption, const QFontMetrics& font);
 
-/// Gives `widget` the whole caption as its accessible name, and as its tooltip exactly if the
-/// caption is wider than `width` pixels.
+/// Gives `widget` the whole caption, as it reads, for its accessible name, and for its tooltip
+/// exactly if the caption is wider than `width` pixels.
 void DescribeByCaption(QWidget* widget, const QString& caption, int width);
 
 /// Gives `widget` a tooltip that shows `text` as it stands; none for an empty text.

@@ -7,6 +7,7 @@
 #include "toolkit/CImageButton.h"
 #include "toolkit/Caption.h"
 #include "toolkit/QVHyperlink.h"
+#include "toolkit/Texts.h"
 
 namespace qv {
 
@@ -16,11 +17,11 @@ void ShowCaption(QWidget* control, const QString& caption) {
   } else if (auto* link = qobject_cast<QVHyperlink*>(control)) {
     link->SetCaption(caption);
   } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-    button->setText(LiteralText(caption));
+    button->setText(caption);
   } else if (auto* box = qobject_cast<QGroupBox*>(control)) {
-    box->setTitle(LiteralText(caption));
+    box->setTitle(LiteralText(WithoutMnemonic(caption)));
   } else if (auto* label = qobject_cast<QLabel*>(control)) {
-    label->setText(caption);
+    label->setText(label->buddy() ? caption : WithoutMnemonic(caption));
   }
 }
 

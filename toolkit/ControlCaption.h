@@ -7,8 +7,9 @@
 
 namespace qv {
 
-/// Gives a button, label, check box or group box a caption as it stands, without mnemonics or rich
-/// text. Does nothing for any other widget, or null.
+/// Gives a button, a check box or a label a caption, in which "&" stands before the mnemonic; a
+/// label without a buddy, which no key can reach, and a group box show it as it reads. Does nothing
+/// for any other widget, or null.
 void ShowCaption(QWidget* control, const QString& caption);
 
 /// Gives a button or link the picture at `path`; does nothing for any other widget, or null.

@@ -10,7 +10,7 @@ namespace qv {
 namespace {
 
 void Initialize(QAbstractButton* button, Text text, const wchar_t* picture, const Host& host) {
-  ShowCaption(button, HostText(host.loadString, text));
+  ShowCaption(button, HostCaption(host.loadString, text));
   ShowPicture(button, host.setup.getImageFilePath() + picture);
 }
 

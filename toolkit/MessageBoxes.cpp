@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QMessageBox>
 
+#include "host/Mnemonic.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
 
@@ -39,9 +40,9 @@ void MessageBoxes::ShowText(std::wstring_view text) {
 }
 
 QString MessageBoxes::Worded(Text text, const Arguments& arguments) const {
-  const QVWideString wording = m_loadString.Load(text);
+  const std::wstring wording = WithoutMnemonic(m_loadString.Load(text).ToView());
   // A text without arguments is no format: its per cent signs stand for themselves.
-  return arguments.empty() ? ToQString(wording) : ToQString(Format(wording.ToView(), arguments));
+  return ToQString(arguments.empty() ? wording : Format(wording, arguments));
 }
 
 void MessageBoxes::Prepare(QMessageBox& box, const QString& text) const {
@@ -55,9 +56,8 @@ void MessageBoxes::Prepare(QMessageBox& box, const QString& text) const {
 
 void MessageBoxes::Rename(QMessageBox& box, int button, Text caption) const {
   QAbstractButton* found = box.button(static_cast<QMessageBox::StandardButton>(button));
-  const QString wording = OwnText(m_loadString, caption);
-  if (found && !wording.isEmpty()) {
-    found->setText(wording);
+  if (found && m_loadString.Has(Number(caption))) {
+    found->setText(HostCaption(m_loadString, caption));
   }
 }
 

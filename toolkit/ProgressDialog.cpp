@@ -35,7 +35,7 @@ ProgressDialog::ProgressDialog(QWidget* parent, const QVLoadString& loadString, 
 }
 
 void ProgressDialog::AddCancel() {
-  auto* cancel = new QPushButton(HostText(m_loadString, Text::Cancel), this);
+  auto* cancel = new QPushButton(HostCaption(m_loadString, Text::Cancel), this);
   connect(cancel, &QPushButton::clicked, this, &ProgressDialog::reject);
   layout()->addWidget(cancel);
   layout()->setAlignment(cancel, Qt::AlignRight);

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 #include <cstdlib>
 
@@ -35,7 +36,7 @@ void QVHyperlink::SetImage(const QVWideString& path) {
 
 void QVHyperlink::SetCaption(const QString& caption) {
   m_caption = caption;
-  setText(qv::LiteralText(caption));
+  setText(caption);
   updateGeometry();
   Describe();
 }
@@ -121,11 +122,17 @@ void QVHyperlink::PaintPicture(QPainter& painter, const QRect& content) const {
   icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }
 
+int QVHyperlink::MnemonicFlag() const {
+  const bool isUnderlined = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
+  return isUnderlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+}
+
 void QVHyperlink::PaintCaption(QPainter& painter, const QRect& content) const {
   QFont shown = font();
   shown.setUnderline(isEnabled() && underMouse());
   painter.setFont(shown);
   painter.setPen(CaptionColour());
-  painter.drawText(content, Qt::AlignHCenter | Qt::AlignBottom | Qt::TextSingleLine,
+  painter.drawText(content,
+                   Qt::AlignHCenter | Qt::AlignBottom | Qt::TextSingleLine | MnemonicFlag(),
                    ShownCaption());
 }

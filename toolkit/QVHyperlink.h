@@ -15,7 +15,7 @@ class QVHyperlink : public QAbstractButton {
   /// Shows the picture at `path`, or none if there is no such picture.
   void SetImage(const QVWideString& path);
 
-  /// Shows `caption` as it stands and makes it the accessible name.
+  /// Shows `caption`, in which "&" stands before the mnemonic, and makes it the accessible name.
   void SetCaption(const QString& caption);
 
   /// Shows `hint` as the tooltip, in place of an elided caption; none for an empty one.
@@ -34,6 +34,7 @@ class QVHyperlink : public QAbstractButton {
 
  private:
   int CaptionRoom() const;
+  int MnemonicFlag() const;
   void Describe();
   QColor CaptionColour() const;
   void PaintGround(QPainter& painter) const;

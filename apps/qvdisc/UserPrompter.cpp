@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "apps/qvdisc/Words.h"
+#include "host/Mnemonic.h"
 #include "tools/Format.h"
 
 namespace qvdisc {
@@ -60,7 +61,7 @@ std::optional<bool> UserPrompter::AnswerTo(const std::wstring& question) const {
 }
 
 std::wstring UserPrompter::Worded(Text text, const Arguments& arguments) const {
-  return qv::Format(m_texts.Load(text).ToView(), arguments);
+  return qv::Format(qv::WithoutMnemonic(m_texts.Load(text).ToView()), arguments);
 }
 
 }  // namespace qvdisc

@@ -6,7 +6,6 @@
 #include "manager/DiscriminatorClipboard.h"
 #include "manager/DiscriminatorList.h"
 #include "manager/DiscriminatorListView.h"
-#include "toolkit/Caption.h"
 #include "toolkit/DialogColumn.h"
 #include "toolkit/ListPart.h"
 #include "toolkit/MaskedIcon.h"
@@ -15,6 +14,7 @@
 #include "toolkit/QVControlBoxButtonsLayout.h"
 #include "toolkit/RunDialog.h"
 #include "toolkit/Strings.h"
+#include "toolkit/Texts.h"
 #include "toolkit/WaitCursor.h"
 #include "ui_1300.h"
 
@@ -184,7 +184,7 @@ void CDlgSetupDiscriminators::PasteFromClipboard() {
 
 void CDlgSetupDiscriminators::AddCommand(QMenu& menu, Text text, const char* shortcut,
                                          void (CDlgSetupDiscriminators::*run)()) {
-  menu.addAction(qv::LiteralText(Worded(text)) + QLatin1String(shortcut), this, run);
+  menu.addAction(qv::HostCaption(Services().loadString, text) + QLatin1String(shortcut), this, run);
 }
 
 void CDlgSetupDiscriminators::OnRclickListDiscriminators(const QPoint& globalPosition) {

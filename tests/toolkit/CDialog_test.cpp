@@ -117,20 +117,28 @@ TEST_F(CDialogTest, ReturnIsControlOneWhereverTheFocusIs) {
 }
 
 TEST_F(CDialogTest, ReturnOnAFocusedButtonPressesThatButton) {
-  EXPECT_EQ(Run(dialog,
-                [] {
-                  TopControl(IDCANCEL)->setFocus(Qt::TabFocusReason);
-                  QTest::keyClick(TopControl(IDCANCEL), Qt::Key_Return);
-                }),
+  EXPECT_EQ(Play(dialog,
+                 [] {
+                   TopControl(IDCANCEL)->setFocus(Qt::TabFocusReason);
+                   QTest::keyClick(TopControl(IDCANCEL), Qt::Key_Return);
+                 }),
             IDCANCEL);
   TestDialog second;
-  EXPECT_EQ(Run(second,
-                [] {
-                  TopControl(IDCANCEL)->setFocus(Qt::TabFocusReason);
-                  TopControl(edit)->setFocus(Qt::TabFocusReason);
-                  QTest::keyClick(TopControl(edit), Qt::Key_Return);
-                }),
+  EXPECT_EQ(Play(second,
+                 [] {
+                   TopControl(IDCANCEL)->setFocus(Qt::TabFocusReason);
+                   TopControl(edit)->setFocus(Qt::TabFocusReason);
+                   QTest::keyClick(TopControl(edit), Qt::Key_Return);
+                 }),
             IDOK);
+}
+
+TEST_F(CDialogTest, ALabelLeadsToItsControl) {
+  Play(dialog, [&] {
+    auto* caption = qobject_cast<QLabel*>(TopControl(label));
+    EXPECT_EQ(caption->buddy(), TopControl(edit));
+    Click(IDOK);
+  });
 }
 
 TEST_F(CDialogTest, WhatIsOpenedByKeyboardShowsItsFocus) {
@@ -138,7 +146,7 @@ TEST_F(CDialogTest, WhatIsOpenedByKeyboardShowsItsFocus) {
     QWidget parent;
     parent.setAttribute(Qt::WA_KeyboardFocusChange, byKeyboard);
     TestDialog child(BuildFixed, &parent);
-    Run(child, [&] {
+    Play(child, [&] {
       EXPECT_EQ(child.testAttribute(Qt::WA_KeyboardFocusChange), byKeyboard);
       Click(IDOK);
     });

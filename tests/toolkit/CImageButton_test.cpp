@@ -25,28 +25,35 @@ class CImageButtonTest : public ::testing::Test {
  protected:
   CImageButtonTest() { m_button.resize(300, 24); }
 
-  /// Gives the button a caption that fits, and expects it to be handed to the style as `painted`.
-  void ExpectShown(const QString& caption, const QString& painted) {
+  /// Gives the button a caption that fits, and expects it to read as `reading`.
+  void ExpectShown(const QString& caption, const QString& reading) {
     m_button.SetCaption(caption);
     EXPECT_EQ(m_button.ShownCaption(), caption);
-    EXPECT_EQ(m_button.PaintedText(), painted);
+    EXPECT_EQ(m_button.PaintedText(), caption);
     EXPECT_TRUE(m_button.toolTip().isEmpty());
-    EXPECT_EQ(m_button.accessibleName(), caption);
+    EXPECT_EQ(m_button.accessibleName(), reading);
   }
 
   qv::PictureFiles m_files;
   OpenButton m_button;
 };
 
-const auto longCaption = QStringLiteral("A caption that needs more room than that & \"so\" on");
+const auto longCaption = QStringLiteral("A caption that needs more room than that and \"so\" on");
 
 TEST_F(CImageButtonTest, ShowsItsCaptionWhole) {
   ExpectShown(QStringLiteral("Modify"), QStringLiteral("Modify"));
 }
 
-TEST_F(CImageButtonTest, AmpersandIsNoMnemonic) {
-  ExpectShown(QStringLiteral("A & &B"), QStringLiteral("A && &&B"));
-  EXPECT_TRUE(m_button.shortcut().isEmpty());
+TEST_F(CImageButtonTest, AnAmpersandMarksTheMnemonicAndTwoAreOne) {
+  ExpectShown(QStringLiteral("A && &B"), QStringLiteral("A & B"));
+  EXPECT_EQ(m_button.shortcut(), QKeySequence(Qt::ALT | Qt::Key_B));
+}
+
+TEST_F(CImageButtonTest, AMnemonicStaysInACaptionThatIsElided) {
+  m_button.resize(90, 24);
+  m_button.SetCaption(QStringLiteral("&A caption that needs more room than that"));
+  EXPECT_TRUE(m_button.ShownCaption().startsWith(QLatin1String("&A")));
+  EXPECT_TRUE(m_button.toolTip().contains(QStringLiteral("<p>A caption that")));
 }
 
 TEST_F(CImageButtonTest, CaptionThatDoesNotFitIsElidedWithATooltip) {

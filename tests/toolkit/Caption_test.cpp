@@ -15,7 +15,7 @@ TEST(Caption, AmpersandsAreDoubledInALiteralText) {
 TEST(Caption, ElidesOnlyWhatDoesNotFit) {
   const QWidget widget;
   const QFontMetrics font = widget.fontMetrics();
-  const auto text = QStringLiteral("Selección rápida & más");
+  const auto text = QStringLiteral("Selección rápida y más");
   const int width = CaptionWidth(text, font);
   EXPECT_EQ(ElidedCaption(text, font, width), text);
   EXPECT_NE(ElidedCaption(text, font, width - 1), text);

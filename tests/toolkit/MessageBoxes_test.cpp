@@ -66,6 +66,14 @@ TEST_F(MessageBoxesTest, WithoutArgumentsAPerCentSignStandsForItself) {
   });
 }
 
+TEST_F(MessageBoxesTest, AMessageReadsPlain) {
+  texts.wordings[Text::DiscriminatorNameMissing] = L"&Name && value of %s";
+  ShowAnd(Text::DiscriminatorNameMissing, {L"R&D"}, [] {
+    EXPECT_EQ(Box()->text(), "Name & value of R&D") << "in data it is a character";
+    Box()->close();
+  });
+}
+
 TEST_F(MessageBoxesTest, ReturnPressesTheFocusedButton) {
   EXPECT_FALSE(AskAnd([] {
     QAbstractButton* no = Box()->button(QMessageBox::No);

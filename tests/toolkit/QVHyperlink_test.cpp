@@ -113,11 +113,11 @@ TEST_F(QVHyperlinkTest, MissingPictureLeavesTheCaption) {
   EXPECT_EQ(m_link.ShownCaption(), QStringLiteral("Calendar"));
 }
 
-TEST_F(QVHyperlinkTest, AmpersandIsNoMnemonic) {
-  m_link.SetCaption(QStringLiteral("Days & &hours"));
-  EXPECT_EQ(m_link.ShownCaption(), QStringLiteral("Days & &hours"));
-  EXPECT_EQ(m_link.accessibleName(), QStringLiteral("Days & &hours"));
-  EXPECT_TRUE(m_link.shortcut().isEmpty());
+TEST_F(QVHyperlinkTest, AnAmpersandMarksTheMnemonicAndTwoAreOne) {
+  m_link.SetCaption(QStringLiteral("Days && &hours"));
+  EXPECT_EQ(m_link.ShownCaption(), QStringLiteral("Days && &hours"));
+  EXPECT_EQ(m_link.accessibleName(), QStringLiteral("Days & hours"));
+  EXPECT_EQ(m_link.shortcut(), QKeySequence(Qt::ALT | Qt::Key_H));
 }
 
 TEST_F(QVHyperlinkTest, CaptionThatDoesNotFitIsElidedWithATooltip) {

@@ -88,8 +88,8 @@ void CDlgAddModifyTimeSlot::OnInitDialog() {
 void CDlgAddModifyTimeSlot::InitializeTexts() {
   SetTitle(m_form->IsNew() ? Text::AddSlotTitle : Text::ModifySlotTitle);
   SetLabel(m_ui.labelType, m_ui.comboType, Text::HourTypes);
-  SetText(m_ui.labelFrom, Text::From);
-  SetText(m_ui.labelTo, Text::To);
+  SetLabel(m_ui.labelFrom, m_ui.editFromHours, Text::From);
+  SetLabel(m_ui.labelTo, m_ui.editToHours, Text::To);
   for (const FieldControls& controls : m_fields) {
     const QString name = NameOf(controls.field);
     controls.edit->setAccessibleName(name);
