@@ -66,4 +66,10 @@ void SetLoadedText(QLineEdit* edit, const QString& text) {
   edit->setValidator(limit);
 }
 
+void SetLoadedName(QLineEdit* edit, const QString& name) {
+  SetLoadedText(edit, name);
+  const auto length = static_cast<int>(name.size());
+  edit->setSelection(length, -length);  // backwards: a long name is read from its start
+}
+
 }  // namespace qv

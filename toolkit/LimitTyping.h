@@ -14,4 +14,7 @@ void LimitTyping(QLineEdit* edit, int maxLength);
 /// can only make it shorter.
 void SetLoadedText(QLineEdit* edit, const QString& text);
 
+/// The same for the name of what is edited: all of it is selected, so that typing replaces it.
+void SetLoadedName(QLineEdit* edit, const QString& name);
+
 }  // namespace qv

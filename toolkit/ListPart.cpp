@@ -96,6 +96,11 @@ std::optional<int> ListPart::SelectedRow() const {
   return rows.empty() ? std::nullopt : std::optional(rows.front());
 }
 
+std::optional<int> ListPart::CurrentRow() const {
+  const QModelIndex index = m_controls.view->currentIndex();
+  return index.isValid() ? std::optional(index.row()) : std::nullopt;
+}
+
 void ListPart::ResizeColumns() {
   const int columns = m_controls.view->columnCount();
   const int room = m_controls.view->viewport()->width();
@@ -116,7 +121,8 @@ void ListPart::Enable(QAbstractButton* button, bool enabled) {
   if (!button) {
     return;
   }
-  if (!enabled && button->hasFocus()) {
+  // Of its window, which needn't be active yet when an editor over it has just been left.
+  if (!enabled && button->window()->focusWidget() == button) {
     // By itself it would go to the next control, which the next Space would press.
     m_controls.view->setFocus(Qt::OtherFocusReason);
   }

@@ -66,6 +66,9 @@ class ListPart : public QObject {
   /// The first of them, if any.
   std::optional<int> SelectedRow() const;
 
+  /// The row from which the arrow keys go on, if any.
+  std::optional<int> CurrentRow() const;
+
   /// Gives each column the same whole number of pixels, and the last one what is left.
   void ResizeColumns();
   /// Modify needs one selected row, Remove at least one. The list takes the focus of a button that

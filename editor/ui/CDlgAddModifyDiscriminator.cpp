@@ -66,7 +66,7 @@ void CDlgAddModifyDiscriminator::InitializeLink(const Link& link) {
 
 void CDlgAddModifyDiscriminator::InitializeFields() {
   const qv::DiscriminatorFields fields = m_form->InitialFields();
-  qv::SetLoadedText(m_ui.editName, qv::ToQString(fields.name));
+  qv::SetLoadedName(m_ui.editName, qv::ToQString(fields.name));
   qv::SetLoadedText(m_ui.editDescription, qv::ToQString(fields.description));
   m_ui.checkSetZeroOutsideSlot->setChecked(fields.setZeroOutsideSlot);
 }

@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
+#include "manager/CurrentRow.h"
 #include "manager/DiscriminatorClipboard.h"
 #include "manager/DiscriminatorList.h"
 #include "manager/DiscriminatorListView.h"
@@ -44,6 +45,7 @@ class CDlgSetupDiscriminators::View : public qv::DiscriminatorListView {
   void RemoveRow(int row) override {
     // The buttons follow once, when all are gone.
     m_dialog.m_listDiscriminators->RemoveRow(row);
+    m_dialog.m_shownRows.erase(m_dialog.m_shownRows.begin() + row);
   }
 
  private:
@@ -124,7 +126,9 @@ void CDlgSetupDiscriminators::ShowRows(const std::vector<qv::STagDiscriminatorRo
     shown.push_back(
         {{qv::ToQString(row.shown.name), qv::ToQString(row.shown.description)}, m_rowImage});
   }
-  m_listDiscriminators->Show(shown, std::nullopt);
+  const auto current = qv::CurrentRow(m_shownRows, m_listDiscriminators->CurrentRow(), rows);
+  m_listDiscriminators->Show(shown, std::nullopt, current);
+  m_shownRows = rows;
   FollowRows();
 }
 
@@ -211,6 +215,7 @@ void CDlgSetupDiscriminators::OnOK() {
 
 void CDlgSetupDiscriminators::OnDestroy() {
   m_listDiscriminators->Clear();
+  m_shownRows.clear();
   m_clipboard.reset();
   m_list.reset();
   m_boxes.reset();

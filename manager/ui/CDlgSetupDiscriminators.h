@@ -74,6 +74,7 @@ class QVDISCRIMINATOR_EXPORT CDlgSetupDiscriminators : public CDialog {
   QIcon m_rowImage;
   std::unique_ptr<qv::ListPart> m_listDiscriminators;
   std::unique_ptr<qv::MessageBoxes> m_boxes;
+  std::vector<qv::STagDiscriminatorRow> m_shownRows;
   std::unique_ptr<View> m_view;
   std::unique_ptr<qv::DiscriminatorList> m_list;
   std::unique_ptr<qv::DiscriminatorClipboard> m_clipboard;

@@ -64,7 +64,7 @@ void CDlgAddModifyDayType::InitializeTexts() {
 
 void CDlgAddModifyDayType::InitializeList() {
   m_list->CreateColumns(Services().loadString, {Text::Name, Text::From, Text::To});
-  qv::SetLoadedText(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
+  qv::SetLoadedName(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
   m_form->Fill();
   FillList();
 }

@@ -38,7 +38,7 @@ void CDlgAddModifyHourType::InitializeTexts() {
 
 void CDlgAddModifyHourType::InitializeData() {
   m_ui.swatchColour->SetColour(m_form->Identity().CurrentColour());
-  qv::SetLoadedText(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
+  qv::SetLoadedName(m_ui.editName, qv::ToQString(m_form->Identity().OpenedName()));
   // Also into a hidden field, so that the value of another installation comes out as it went in.
   qv::SetLoadedText(m_ui.editValue, qv::ToQString(m_form->Value()));
 }

@@ -29,6 +29,7 @@ TEST_F(Editor, AnExistingOneShowsWhatItHolds) {
   Modify(PutOldFile(), [] {
     EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::ModifyDiscriminatorTitle));
     EXPECT_EQ(Edit(discriminatorName)->text(), "old");
+    EXPECT_EQ(Edit(discriminatorName)->selectedText(), "old") << "typing replaces it";
     EXPECT_EQ(Edit(descriptionEdit)->text(), "about");
     EXPECT_FALSE(IsTicked());
     Click(IDCANCEL);
@@ -227,6 +228,7 @@ TEST_F(Editor, ALongerNameThatWasLoadedIsNotCut) {
       PutFile("1." + name + ".xdct", "<main><id>1</id><name>" + name + "</name></main>");
   const int result = Modify(path, [] {
     EXPECT_EQ(Edit(discriminatorName)->text().size(), 100);
+    Press(discriminatorName, Qt::Key_Home);
     QTest::keyClicks(Edit(discriminatorName), "x");
     EXPECT_EQ(Edit(discriminatorName)->text().size(), 100);
     Press(discriminatorName, Qt::Key_Delete);

@@ -136,6 +136,24 @@ TEST_F(SetupDiscriminators, AModifyThatChangesNothingGivesOkAndNoNotice) {
   EXPECT_TRUE(host->guids.notices.empty());
 }
 
+TEST_F(SetupDiscriminators, AfterAModifyTheArrowKeysGoOnFromTheChangedRow) {
+  for (const char* name : {"alpha", "beta", "gamma"}) {
+    AddFile(QString(QLatin1Char(name[0])), name, "");
+  }
+  Run([] {
+    ClickRow(discriminatorList, 0);
+    EditNext("zeta", IDOK);
+    Click(modifyButton);
+    EXPECT_EQ(Shown(), QStringList({"beta", "gamma", "zeta"}));
+    EXPECT_EQ(TheList()->currentIndex().row(), 2);
+    ExpectNoneSelected();
+    EXPECT_EQ(TopWindow()->focusWidget(), TheList()) << "not the exit button";
+    Press(discriminatorList, Qt::Key_Up);
+    EXPECT_TRUE(TheList()->topLevelItem(1)->isSelected());
+    Click(exitButton);
+  });
+}
+
 TEST_F(SetupDiscriminators, ADoubleClickOnAnEmptyListOpensNothing) {
   Run([] {
     DoubleClickBelowRows(discriminatorList);
