@@ -38,12 +38,26 @@ std::string WithoutGuards(const std::string& words) {
   return plain;
 }
 
+/// Whether an option is given an empty value, as in "--name=". The parser would take the next
+/// argument for it.
+bool HasEmptyValue(const std::string& argument) {
+  return argument.starts_with("--") && argument.find('=') == argument.size() - 1;
+}
+
 /// The arguments in the order in which the parser takes them: from the last to the first, without
 /// the program's name.
 std::vector<std::string> GuardedArguments(int count, const char* const* arguments) {
-  std::vector<std::string> guarded(arguments + std::min(count, 1), arguments + count);
+  std::vector<std::string> guarded;
+  for (int i = 1; i < count; ++i) {
+    const std::string argument = arguments[i];
+    if (HasEmptyValue(argument)) {
+      guarded.push_back(argument.substr(0, argument.size() - 1));
+      guarded.emplace_back(1, guard);
+    } else {
+      guarded.push_back(Guarded(argument));
+    }
+  }
   std::reverse(guarded.begin(), guarded.end());
-  std::transform(guarded.begin(), guarded.end(), guarded.begin(), Guarded);
   return guarded;
 }
 
@@ -75,11 +89,13 @@ std::optional<EarlyEnd> Read(CLI::App& app, int count, const char* const* argume
   }
 }
 
+void Refuse(const std::string& reason) { throw CLI::ValidationError(reason); }
+
 std::string ErrorLine(std::string_view program, std::string_view reason) {
   return std::string(program) + ": " + std::string(reason) + "\n";
 }
 
-void AddHelp(CLI::App& app) { app.set_help_flag("--help", "Print this help, and end"); }
+void AddHelp(CLI::App& app) { app.set_help_flag("-h,--help", "Print this help, and end"); }
 
 void AddPage(CLI::App& app, const std::string& flag, std::function<std::string()> text,
              const std::string& description) {

@@ -32,10 +32,13 @@ struct EarlyEnd {
 [[nodiscard]] std::optional<EarlyEnd> Read(CLI::App& app, int count, const char* const* arguments,
                                            std::string (*errorLine)(std::string_view reason));
 
+/// Breaks the reading off because of something that no option can check by itself.
+[[noreturn]] void Refuse(const std::string& reason);
+
 /// The line that `program` puts on standard error for `reason`.
 std::string ErrorLine(std::string_view program, std::string_view reason);
 
-/// The flag `--help`.
+/// The flag `-h`, or `--help`.
 void AddHelp(CLI::App& app);
 
 /// A flag that prints a text in place of any work. `text` is asked for when the flag is given.

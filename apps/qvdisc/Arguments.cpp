@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <cstdlib>
 #include <filesystem>
 #include <iterator>
 #include <optional>
@@ -70,7 +71,13 @@ constexpr const char* footer =
     R"(STEM is <id>.<name>, the name of the discriminator's file without its extension, or the
 id or the name alone where only one discriminator has it.
 
+Without --installation DIR the environment variable QVDISC_INSTALLATION names the directory;
+without that it is the working directory, if configuration.xml is there.
+
 Exit status: 0 done, 1 refused or something found, 2 the call is wrong.)";
+
+/// The environment variable that stands in for --installation.
+constexpr const char* installationVariable = "QVDISC_INSTALLATION";
 
 /// The options as their texts, to be turned into values once all of them are known to be good.
 struct Texts {
@@ -115,8 +122,7 @@ void AddCommonOptions(CLI::App& app, Texts& texts) {
   commandline::AddHelp(app);
   Check(AddText(app, "--installation", texts.installation,
                 "Directory of the installation: its configuration.xml and its discriminators")
-            ->type_name("DIR")
-            ->required(),
+            ->type_name("DIR"),
         NoDirectory);
   Restrict(AddText(app, "--language", texts.language,
                    "Language of what is told; that of the system if not given"),
@@ -191,6 +197,27 @@ std::optional<bool> IsFirst(const std::string& text, const char* first) {
   return text.empty() ? std::nullopt : std::optional(text == first);
 }
 
+/// The installation that the call names, else the environment, else the one whose directory this
+/// is. The parser would let the environment win over the call, since each verb has the option.
+std::wstring Installation(const std::string& named) {
+  if (!named.empty()) {
+    return qv::FromUtf8(named);
+  }
+  const char* set = std::getenv(installationVariable);
+  if (set && *set) {
+    if (const std::string fault = NoDirectory(set); !fault.empty()) {
+      commandline::Refuse(std::string(installationVariable) + ": " + fault);
+    }
+    return qv::FromUtf8(set);
+  }
+  std::error_code error;
+  if (!std::filesystem::exists("configuration.xml", error)) {
+    commandline::Refuse(std::string("No installation is named: give --installation DIR, set ") +
+                        installationVariable + ", or work in the directory of one");
+  }
+  return L".";
+}
+
 Arguments ReadTexts(const CLI::App& app, const Texts& texts) {
   const CLI::App& verb = *app.get_subcommands().front();
   const auto known = std::find_if(verbNames.begin(), verbNames.end(), [&](const VerbName& name) {
@@ -199,7 +226,7 @@ Arguments ReadTexts(const CLI::App& app, const Texts& texts) {
   Arguments arguments;
   arguments.verb = known->verb;
   arguments.verbName = known->name;
-  arguments.installation = qv::FromUtf8(texts.installation);
+  arguments.installation = Installation(texts.installation);
   arguments.language = qv::LanguageOf(texts.language);
   arguments.json = texts.json;
   if (texts.yes || texts.no) {

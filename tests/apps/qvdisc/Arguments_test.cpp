@@ -2,7 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
 #include "tests/apps/qvdisc/CommandLine.h"
+#include "tests/support/TemporaryDirectory.h"
 
 namespace qvdisc {
 namespace {
@@ -71,6 +76,55 @@ TEST(Arguments, FieldsThatAreNotGivenStayAsTheyAre) {
   EXPECT_EQ(std::get<Arguments>(read).stems, std::vector<std::wstring>{L"s"});
 }
 
+TEST(Arguments, AnEmptyValueSwallowsNoOtherArgument) {
+  const char* const call[] = {"qvdisc", "modify", "--installation=.", "--description=", "s"};
+  const auto read = ReadArguments(static_cast<int>(std::size(call)), call);
+  ASSERT_TRUE(std::holds_alternative<Arguments>(read));
+  EXPECT_EQ(std::get<Arguments>(read).changes.description, L"");
+  EXPECT_EQ(std::get<Arguments>(read).stems, std::vector<std::wstring>{L"s"});
+  EXPECT_EQ(Call({"add", "--installation=.", "--name="}).status, 1) << "the rules refuse it";
+}
+
+/// Calls from a directory of its own, with the environment as it was afterwards.
+class Surrounded : public testing::Test {
+ protected:
+  Surrounded() { std::filesystem::current_path(directory.Path()); }
+  ~Surrounded() override {
+    std::filesystem::current_path(before);
+    unsetenv("QVDISC_INSTALLATION");
+  }
+
+  static std::wstring InstallationOf(std::initializer_list<const char*> call) {
+    const std::vector<const char*> words(call);
+    const auto read = ReadArguments(static_cast<int>(words.size()), words.data());
+    return std::holds_alternative<Arguments>(read) ? std::get<Arguments>(read).installation
+                                                   : L"refused";
+  }
+
+  const std::filesystem::path before = std::filesystem::current_path();
+  const qv::TemporaryDirectory directory;
+};
+
+TEST_F(Surrounded, TheInstallationIsNamedByTheCallOrTheEnvironment) {
+  std::filesystem::create_directory("called");
+  std::filesystem::create_directory("set");
+  EXPECT_EQ(InstallationOf({"qvdisc", "list"}), L"refused");
+  setenv("QVDISC_INSTALLATION", "set", 1);
+  EXPECT_EQ(InstallationOf({"qvdisc", "list"}), L"set");
+  EXPECT_EQ(InstallationOf({"qvdisc", "list", "--installation", "called"}), L"called");
+  setenv("QVDISC_INSTALLATION", "nowhere", 1);
+  EXPECT_EQ(InstallationOf({"qvdisc", "list"}), L"refused");
+}
+
+TEST_F(Surrounded, TheWorkingDirectoryIsOneIfItHasAConfiguration) {
+  std::ofstream("configuration.xml") << "<main/>";
+  EXPECT_EQ(InstallationOf({"qvdisc", "list"}), L".");
+  std::filesystem::remove("configuration.xml");
+  const Ended ended = Call({"list"});
+  EXPECT_EQ(ended.status, 2);
+  EXPECT_THAT(ended.errors, HasSubstr("QVDISC_INSTALLATION"));
+}
+
 TEST(Arguments, HelpOfTheProgramAndOfEachVerb) {
   const Ended program = Call({"--help"});
   EXPECT_EQ(program.status, 0);
@@ -79,6 +133,7 @@ TEST(Arguments, HelpOfTheProgramAndOfEachVerb) {
     EXPECT_THAT(program.output, HasSubstr(std::string("\n  ") + verb + " "));
     const Ended help = Call({verb, "--help"});
     EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(Call({verb, "-h"}).output, help.output);
     EXPECT_THAT(help.output, HasSubstr(std::string("qvdisc ") + verb));
     EXPECT_THAT(help.output, HasSubstr("--installation"));
     EXPECT_THAT(help.output, HasSubstr("Exit status: 0 done, 1 refused or something found, 2"));
