@@ -18,6 +18,12 @@ constexpr int labelHeight = 12;
 
 constexpr int margin = 6;
 constexpr Colour grey = 0x808080;
+constexpr Colour black = 0x000000;
+
+/// The lines lie on the day's colour, where the ink of dark surroundings may vanish.
+Colour LineInk(const TimeGrid::Picture& picture) {
+  return picture.ink == black ? black : InkOn(picture.dayColour);
+}
 
 }  // namespace
 
@@ -75,13 +81,17 @@ void TimeGrid::Paint(Canvas& canvas, const Picture& picture) const {
                        picture.selectionColour, picture.selectionColour);
     }
   }
+  DrawLines(canvas, cells, LineInk(picture));
+}
+
+void TimeGrid::DrawLines(Canvas& canvas, const Cells& cells, Colour lineInk) {
   for (int hour = 0; hour <= hoursOfDay; ++hour) {
     const int x = static_cast<int>(cells.X(hour));
-    canvas.Line({x, cells.top}, {x, cells.area.bottom}, picture.ink);
+    canvas.Line({x, cells.top}, {x, cells.area.bottom}, lineInk);
   }
   for (int band = 0; band <= quartersOfHour; ++band) {
     const int y = static_cast<int>(band * cells.band + cells.top);
-    canvas.Line({cells.area.left, y}, {cells.area.right + 1, y}, picture.ink);
+    canvas.Line({cells.area.left, y}, {cells.area.right + 1, y}, lineInk);
   }
   const int right = cells.area.right + 1;
   const int bottom = cells.area.bottom + 1;

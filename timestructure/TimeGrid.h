@@ -17,7 +17,9 @@ class TimeGrid {
     std::optional<MinuteRange> selection;
     Colour selectionColour = 0;
     Colour ground = 0xF0F0F0;  ///< around the grid
-    Colour ink = 0;            ///< of labels and lines
+    /// Of labels: black, or white on a dark ground. Lines are black too on a light ground, and on a
+    /// dark one in the ink that is legible on the day's colour.
+    Colour ink = 0;
 
     friend bool operator==(const Picture&, const Picture&) = default;
   };
@@ -41,6 +43,7 @@ class TimeGrid {
   Rect HitArea() const;
   int DrawBackground(Canvas& canvas, const Picture& picture) const;
   Cells CellsOf(int labelHeight) const;
+  static void DrawLines(Canvas& canvas, const Cells& cells, Colour ink);
 
   int m_width;
   int m_height;

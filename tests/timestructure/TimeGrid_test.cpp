@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <set>
 #include <string>
 
 #include "tests/support/RecordingCanvas.h"
@@ -77,6 +78,43 @@ TEST(TimeGrid, EachSelectedMinuteIsARectangle) {
       .dayColour = 0xFFFFFF, .selection = MinuteRange{59, 61}, .selectionColour = 0x0000FF};
   EXPECT_EQ(Recorded(picture, "rectangle").size(), 2U + 2U);
   EXPECT_EQ(Recorded({.selection = MinuteRange{0, 1440}}, "rectangle").size(), 2U + 1440U);
+}
+
+/// The colours, each once, of the labels or lines of a grid on this ground.
+std::set<std::string> Inks(Colour dayColour, Colour ground, const std::string& verb) {
+  std::set<std::string> inks;
+  const TimeGrid::Picture picture{
+      .dayColour = dayColour, .selection = {}, .ground = ground, .ink = InkOn(ground)};
+  for (const std::string& line : Recorded(picture, verb)) {
+    inks.insert(line.substr(line.size() - 6));
+  }
+  return inks;
+}
+
+constexpr Colour lightGround = 0xF0F0F0;
+constexpr Colour darkGround = 0x302D2B;
+
+TEST(TimeGrid, LinesOnADarkGroundAreLegibleOnTheDay) {
+  const std::set<std::string> blackAndEdge = {"000000", "808080"};
+  const std::set<std::string> whiteAndEdge = {"FFFFFF", "808080"};
+  EXPECT_EQ(Inks(0xFFFFFF, darkGround, "line"), blackAndEdge);
+  EXPECT_EQ(Inks(0x80CCFF, darkGround, "line"), blackAndEdge);
+  EXPECT_EQ(Inks(0x000000, darkGround, "line"), whiteAndEdge);
+  EXPECT_EQ(Inks(0x800000, darkGround, "line"), whiteAndEdge);
+}
+
+TEST(TimeGrid, LinesOnALightGroundAreBlackOnAnyDay) {
+  const std::set<std::string> blackAndEdge = {"000000", "808080"};
+  for (const Colour day : {0xFFFFFFU, 0x80CCFFU, 0x000000U, 0x800000U}) {
+    EXPECT_EQ(Inks(day, lightGround, "line"), blackAndEdge) << day;
+  }
+}
+
+TEST(TimeGrid, LabelsAreLegibleOnTheGroundWhateverTheDay) {
+  for (const Colour day : {0xFFFFFFU, 0x000000U}) {
+    EXPECT_EQ(Inks(day, lightGround, "text"), std::set<std::string>{"000000"}) << day;
+    EXPECT_EQ(Inks(day, darkGround, "text"), std::set<std::string>{"FFFFFF"}) << day;
+  }
 }
 
 /// The lines of a golden file. After a change that is meant, run the tests with QV_WRITE_GOLDEN
