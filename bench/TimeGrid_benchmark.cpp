@@ -58,9 +58,8 @@ void View(benchmark::State& state) {
   QImage screen = Surface(state);
   QGroupBox box;
   box.resize(screen.size());
-  qv::TimeGridView view(&box);
+  qv::TimeGridView view(&box, [] { return allDay; });
   view.FitIntoBox();
-  view.SetPicture(allDay);
   for (auto _ : state) {
     view.render(&screen, QPoint(), QRegion(), QWidget::RenderFlags());
   }

@@ -14,7 +14,7 @@ class TimeGrid {
   /// What is drawn, and in which colours.
   struct Picture {
     Colour dayColour = 0xFFFFFF;  ///< ground of the grid
-    std::optional<MinuteRange> selection;
+    std::optional<MinuteRange> selection{};
     Colour selectionColour = 0;
     Colour ground = 0xF0F0F0;  ///< around the grid
     /// Of labels: black, or white on a dark ground. Lines are black too on a light ground, and on a

@@ -1,6 +1,7 @@
 #include "timestructure/ui/CDlgAddModifyTimeSlot.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QRegularExpressionValidator>
 
 #include "timestructure/ui/CDlgAddModifyHourType.h"
@@ -39,7 +40,7 @@ CDlgAddModifyTimeSlot::CDlgAddModifyTimeSlot(CWnd* parent, qv::XmlNode* hourType
   connect(m_ui.comboType, &QComboBox::activated, this, &CDlgAddModifyTimeSlot::OnSelchangeType);
   connect(m_ui.buttonAdd, &QPushButton::clicked, this, &CDlgAddModifyTimeSlot::OnAddHourType);
   // The dialog follows the pointer over the grid, also without a button.
-  m_grid = new qv::TimeGridView(m_ui.boxGrid);
+  m_grid = new qv::TimeGridView(m_ui.boxGrid, [this] { return GridPicture(); });
   m_ui.boxGrid->setAttribute(Qt::WA_TransparentForMouseEvents);
   setMouseTracking(true);
 }
@@ -125,7 +126,9 @@ void CDlgAddModifyTimeSlot::ShowTimes() {
   for (const FieldControls& controls : m_fields) {
     ShowTime(controls);
   }
-  ShowGrid();
+  // At once: what a selection by mouse shows has to stand when the button is released, and stays
+  // until the next change or damage, which show the fields.
+  m_grid->repaint();
 }
 
 void CDlgAddModifyTimeSlot::ShowTime(const FieldControls& controls) {
@@ -137,10 +140,13 @@ void CDlgAddModifyTimeSlot::ShowTime(const FieldControls& controls) {
   controls.spin->setEnabled(m_form->IsSpinEnabled(controls.field));
 }
 
-void CDlgAddModifyTimeSlot::ShowGrid() {
-  m_grid->SetPicture({.dayColour = m_dayColour,
-                      .selection = m_form->Times().Selection(),
-                      .selectionColour = m_form->SelectedColour().value_or(m_dayColour)});
+qv::TimeGrid::Picture CDlgAddModifyTimeSlot::GridPicture() const {
+  if (!m_form) {
+    return {.dayColour = m_dayColour};
+  }
+  return {.dayColour = m_dayColour,
+          .selection = m_form->Times().Selection(),
+          .selectionColour = m_form->SelectedColour().value_or(m_dayColour)};
 }
 
 void CDlgAddModifyTimeSlot::OnSelchangeType(int index) {
@@ -159,6 +165,14 @@ void CDlgAddModifyTimeSlot::OnAddHourType() {
 
 std::optional<int> CDlgAddModifyTimeSlot::MinuteAt(const QMouseEvent& event) const {
   return m_grid->MinuteAt(m_ui.boxGrid->mapFrom(this, event.position().toPoint()));
+}
+
+void CDlgAddModifyTimeSlot::paintEvent(QPaintEvent* event) {
+  EditingDialog::paintEvent(event);
+  // The grid is opaque: damage to what lies behind it would not reach it by itself.
+  if (event->region().intersects(m_ui.boxGrid->geometry().adjusted(-1, -1, 1, 1))) {
+    m_grid->update();
+  }
 }
 
 void CDlgAddModifyTimeSlot::mousePressEvent(QMouseEvent* event) {

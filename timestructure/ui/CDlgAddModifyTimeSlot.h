@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "timestructure/TimeGrid.h"
 #include "timestructure/TimeSlotForm.h"
 #include "toolkit/EditingDialog.h"
 #include "tools/Colour.h"
@@ -31,6 +32,7 @@ class CDlgAddModifyTimeSlot : public qv::EditingDialog<qv::TimeSlotForm> {
   void PositioningControls() override;
   qv::SaveEnd Save() override { return m_form->Save(); }
 
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -51,7 +53,7 @@ class CDlgAddModifyTimeSlot : public qv::EditingDialog<qv::TimeSlotForm> {
   void ShowHourTypes();
   void ShowTimes();
   void ShowTime(const FieldControls& controls);
-  void ShowGrid();
+  qv::TimeGrid::Picture GridPicture() const;
   void AddTimes(QVHoritzontalLayout& row, qv::SlotEdge edge) const;
   std::optional<int> MinuteAt(const QMouseEvent& event) const;
 

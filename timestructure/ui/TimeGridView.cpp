@@ -1,10 +1,13 @@
 #include "timestructure/ui/TimeGridView.h"
 
+#include <utility>
+
 #include "toolkit/OffScreen.h"
 
 namespace qv {
 
-TimeGridView::TimeGridView(QWidget* box) : QWidget(box) {
+TimeGridView::TimeGridView(QWidget* box, Source picture)
+    : QWidget(box), m_picture(std::move(picture)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
@@ -15,15 +18,6 @@ std::optional<int> TimeGridView::MinuteAt(const QPoint& placeInBox) const {
   return Grid().MinuteAt({placeInBox.x(), placeInBox.y()});
 }
 
-void TimeGridView::SetPicture(TimeGrid::Picture picture) {
-  picture.ground = m_picture.ground;
-  picture.ink = m_picture.ink;
-  if (picture != m_picture) {
-    m_picture = picture;
-    update();
-  }
-}
-
 void TimeGridView::FitIntoBox() {
   const Rect area = Grid().PaintedArea();
   setGeometry(area.left, area.top, area.Width(), area.Height());
@@ -31,9 +25,10 @@ void TimeGridView::FitIntoBox() {
 
 void TimeGridView::paintEvent(QPaintEvent*) {
   PaintOffScreen(*this, [this](Canvas& canvas, Colour ground) {
-    m_picture.ground = ground;
-    m_picture.ink = InkOn(ground);
-    Grid().Paint(canvas, m_picture);
+    TimeGrid::Picture picture = m_picture();
+    picture.ground = ground;
+    picture.ink = InkOn(ground);
+    Grid().Paint(canvas, picture);
   });
 }
 

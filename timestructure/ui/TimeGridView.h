@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "timestructure/TimeGrid.h"
 
@@ -12,14 +13,14 @@ class TimeGridView : public QWidget {
   Q_OBJECT
 
  public:
-  /// Lies over `box`, which it needs as its parent.
-  explicit TimeGridView(QWidget* box);
+  /// Gives the picture to paint; ground and ink of it follow the palette instead.
+  using Source = std::function<TimeGrid::Picture()>;
+
+  /// Lies over `box`, which it needs as its parent. `picture` is asked at each paint.
+  TimeGridView(QWidget* box, Source picture);
 
   /// The minute under a place of the box, if there is one.
   std::optional<int> MinuteAt(const QPoint& placeInBox) const;
-
-  /// Shows this picture, but for ground and ink, which follow the palette.
-  void SetPicture(TimeGrid::Picture picture);
 
   /// Takes the place in the box that its size now gives.
   void FitIntoBox();
@@ -30,7 +31,7 @@ class TimeGridView : public QWidget {
  private:
   TimeGrid Grid() const;
 
-  TimeGrid::Picture m_picture;
+  Source m_picture;
 };
 
 }  // namespace qv

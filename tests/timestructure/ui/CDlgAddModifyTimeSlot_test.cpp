@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QToolButton>
 
 #include "tests/timestructure/ui/DayTypesFixture.h"
@@ -82,8 +83,20 @@ class SlotEditor : public DayTypesFixture {
     return TopWindow()->grab().toImage().pixelColor(Cell(minute));
   }
 
+  /// The colour there that stands on the screen, without painting anything for it.
+  static QColor ColourOnScreen(int minute) {
+    return TopWindow()
+        ->screen()
+        ->grabWindow(TopWindow()->winId())
+        .toImage()
+        .pixelColor(Cell(minute));
+  }
+
   std::unique_ptr<XmlNode> slot;
 };
+
+const QColor slotColour(Qt::red);
+const QColor dayColour(0xFF, 0xCC, 0x80);
 
 TEST_F(SlotEditor, ANewSlotIsStoredAsItOpens) {
   EXPECT_EQ(Run("", "00:00", "00:00",
@@ -221,8 +234,8 @@ TEST_F(SlotEditor, AClickOnTheGridSelectsAQuarter) {
     PressCell(At(10, 15));
     Release(Cell(At(10, 15)));
     EXPECT_EQ(Shown(), "10:15-10:30");
-    EXPECT_EQ(ColourAt(At(10, 15)), QColor(Qt::red));
-    EXPECT_EQ(ColourAt(At(10, 30)), QColor(0xFF, 0xCC, 0x80));
+    EXPECT_EQ(ColourAt(At(10, 15)), slotColour);
+    EXPECT_EQ(ColourAt(At(10, 30)), dayColour);
     Click(IDOK);
   });
   EXPECT_EQ(Stored(), L"p 10:15-10:30");
@@ -271,6 +284,43 @@ TEST_F(SlotEditor, LockedMinutesStayAtZeroWhileDragging) {
     PressCell(At(10, 15));
     MoveTo(Cell(At(12, 15)));
     EXPECT_EQ(Shown(), "10:15-12:0");
+  });
+}
+
+TEST_F(SlotEditor, AReleaseLeavesWhatTheDragShowedUntilTheNextPaint) {
+  SelectIn("24:00", [] {
+    PressCell(At(10, 15));
+    MoveTo(Cell(At(12, 15)));
+    Release(Cell(At(12, 15)));
+    EXPECT_EQ(Shown(), "10:15-12:0") << "the locked minutes";
+    EXPECT_EQ(ColourOnScreen(At(12, 15)), slotColour);
+    QTest::qWait(50);
+    EXPECT_EQ(ColourOnScreen(At(12, 15)), slotColour) << "no paint of its own";
+    TopWindow()->update();
+    EXPECT_TRUE(QTest::qWaitFor([] { return ColourOnScreen(At(12, 15)) == dayColour; }));
+    EXPECT_EQ(ColourOnScreen(At(11, 45)), slotColour);
+  });
+}
+
+TEST_F(SlotEditor, AClickThatLockedMinutesTurnAroundIsGoneWithTheNextPaint) {
+  SelectIn("24:00", [] {
+    PressCell(At(10, 15));
+    Release(Cell(At(10, 15)));
+    EXPECT_EQ(Shown(), "10:15-10:0");
+    EXPECT_EQ(ColourOnScreen(At(10, 15)), slotColour);
+    EXPECT_EQ(ColourAt(At(10, 15)), dayColour);
+  });
+}
+
+TEST_F(SlotEditor, AChangedFieldIsShownAfterADrag) {
+  SelectIn("24:00", [] {
+    PressCell(At(10, 15));
+    Release(Cell(At(10, 15)));
+    Type(toHours, "11");
+    EXPECT_EQ(ColourOnScreen(At(10, 45)), slotColour);
+    EXPECT_EQ(ColourOnScreen(At(11, 0)), dayColour);
+    ClickArrow(toHoursSpin, Qt::DownArrow);
+    EXPECT_EQ(ColourOnScreen(At(10, 15)), dayColour);
   });
 }
 
