@@ -21,9 +21,11 @@ Colour ColourOfSlot(const XmlNode& slot, const XmlNode* hourTypes) {
   return hour ? ColourAsStored(hour->Value(tag::Color)) : red;
 }
 
-void DrawLabel(Canvas& canvas, int i, Point rim, const std::wstring& label, Colour ink) {
-  const Extent extent = canvas.TextExtent(label, labelHeight);
-  canvas.Text(LabelPlace(i, rim, extent), label, labelHeight, ink);
+void DrawLabel(Canvas& canvas, int i, Point rim, const std::wstring& label,
+               const DialSurroundings& surroundings) {
+  const int height = surroundings.density.Dots(labelHeight);
+  const Extent extent = canvas.TextExtent(label, height);
+  canvas.Text(LabelPlace(i, rim, extent), label, height, surroundings.ink);
 }
 
 }  // namespace
@@ -58,24 +60,24 @@ void DayDial::Setup(const XmlNode* day, const XmlNode* hourTypes) {
 void DayDial::Paint(Canvas& canvas, int width, int height,
                     const DialSurroundings& surroundings) const {
   canvas.Fill({0, 0, width, height}, surroundings.ground);
-  const DialHalves halves = HalvesOf(width, height);
+  const DialHalves halves = HalvesOf(width, height, surroundings.density);
   DrawFace(canvas, halves.left, 0, OnLeftFace, surroundings);
   DrawFace(canvas, halves.right, hoursOfFace, OnRightFace, surroundings);
 }
 
 void DayDial::DrawFace(Canvas& canvas, const Rect& half, int firstHour, Sector sectorOf,
                        const DialSurroundings& surroundings) const {
-  const Rect face = CalcViewport(half);
+  const Rect face = CalcViewport(half, surroundings.density);
   if (face.IsEmpty()) {
     return;
   }
   DrawExternCircle(canvas, face, firstHour, surroundings);
-  if (DiscOf(face).IsEmpty()) {
+  if (DiscOf(face, surroundings.density).IsEmpty()) {
     return;
   }
   for (const STagSlot& slot : m_slots) {
     if (const auto minutes = sectorOf(slot)) {
-      canvas.Polygon(CreatePolygon(*minutes, face), slot.color, slot.color);
+      canvas.Polygon(CreatePolygon(*minutes, face, surroundings.density), slot.color, slot.color);
     }
   }
 }
@@ -95,10 +97,10 @@ void DayDial::DrawExternCircle(Canvas& canvas, const Rect& face, int firstHour,
   for (int i = 0; i < hoursOfFace; ++i) {
     const HourMark mark = HourMarkOf(i, face);
     canvas.Line(mark.centre, mark.rim, MarkInk(surroundings));
-    DrawLabel(canvas, i, mark.rim, std::to_wstring(firstHour + i), surroundings.ink);
+    DrawLabel(canvas, i, mark.rim, std::to_wstring(firstHour + i), surroundings);
   }
   // Covers the marks but for their ends in the ring.
-  canvas.Ellipse(DiscOf(face), m_bkColor, m_bkColor);
+  canvas.Ellipse(DiscOf(face, surroundings.density), m_bkColor, m_bkColor);
 }
 
 }  // namespace qv

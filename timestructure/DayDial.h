@@ -10,10 +10,11 @@
 
 namespace qv {
 
-/// The colours of the surroundings in which a dial is drawn.
+/// The surroundings in which a dial is drawn.
 struct DialSurroundings {
   Colour ground = 0xF0F0F0;
   Colour ink = 0x000000;  ///< of labels and marks: black, or white on a dark ground
+  Density density{};      ///< of the screen
 };
 
 /// One day as two clock faces, the left for 00:00 to 12:00 and the right for 12:00 to 24:00, in
@@ -42,9 +43,9 @@ class DayDial {
   /// The slots in the order in which they were read and are drawn, neither sorted nor clipped.
   const std::vector<STagSlot>& Slots() const { return m_slots; }
 
-  /// Draws the dial into a canvas of this size, all of which it covers. A later slot covers an
-  /// earlier one. Where there is no room for a face none is drawn, and in a face that is all ring
-  /// no slot. In dark surroundings the marks on a light ring are black.
+  /// Draws the dial into a canvas of this size in dots, all of which it covers. A later slot covers
+  /// an earlier one. Where there is no room for a face none is drawn, and in a face that is all
+  /// ring no slot. In dark surroundings the marks on a light ring are black.
   void Paint(Canvas& canvas, int width, int height, const DialSurroundings& surroundings) const;
 
  private:

@@ -14,13 +14,15 @@ constexpr int ringBreadth = 8;
 
 }  // namespace
 
-DialHalves HalvesOf(int width, int height) {
+DialHalves HalvesOf(int width, int height, Density density) {
   const int middle = width / 2;
-  return {{0, 0, middle - halfOfGap, height}, {middle + halfOfGap, 0, width, height}};
+  const int gap = density.Dots(halfOfGap);
+  return {{0, 0, middle - gap, height}, {middle + gap, 0, width, height}};
 }
 
-Rect CalcViewport(const Rect& half) {
-  Rect face{half.left + margin, margin, half.right - margin, half.Height() - margin};
+Rect CalcViewport(const Rect& half, Density density) {
+  const int room = density.Dots(margin);
+  Rect face{half.left + room, room, half.right - room, half.Height() - room};
   const int width = face.Width();
   const int height = face.Height();
   if (width >= height) {
@@ -33,9 +35,9 @@ Rect CalcViewport(const Rect& half) {
   return face;
 }
 
-Rect DiscOf(const Rect& face) {
-  return {face.left + ringBreadth, face.top + ringBreadth, face.right - ringBreadth,
-          face.bottom - ringBreadth};
+Rect DiscOf(const Rect& face, Density density) {
+  const int ring = density.Dots(ringBreadth);
+  return {face.left + ring, face.top + ring, face.right - ring, face.bottom - ring};
 }
 
 HourMark HourMarkOf(int i, const Rect& face) {
@@ -90,10 +92,10 @@ std::optional<FaceMinutes> OnRightFace(const STagSlot& slot) {
   return FaceMinutes{std::max(part->from, minutesOfFace) - minutesOfFace, part->to - minutesOfFace};
 }
 
-std::vector<Point> CreatePolygon(FaceMinutes minutes, const Rect& face) {
+std::vector<Point> CreatePolygon(FaceMinutes minutes, const Rect& face, Density density) {
   const double hw = face.Width() * 0.5;
   const double hh = face.Height() * 0.5;
-  const double r = hw - ringBreadth;
+  const double r = hw - density.Dots(ringBreadth);
   std::vector<Point> points;
   points.reserve(static_cast<std::size_t>(minutes.last - minutes.first) + 2);
   points.push_back({static_cast<int>(face.left + hw), static_cast<int>(face.top + hh)});

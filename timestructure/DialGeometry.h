@@ -5,9 +5,11 @@
 
 #include "timestructure/STagSlot.h"
 #include "tools/Canvas.h"
+#include "tools/Density.h"
 
 /// Where the parts of a day dial lie: two clock faces side by side, of which each turns once in 12
-/// hours. All is in whole pixels, and every conversion to them truncates towards zero.
+/// hours. All is in whole dots, and every conversion to them truncates towards zero. Lengths that
+/// are told in pixels have as many dots as the density says.
 namespace qv {
 
 /// The minutes of one face, and its hours.
@@ -19,14 +21,14 @@ struct DialHalves {
   Rect left;
   Rect right;
 };
-DialHalves HalvesOf(int width, int height);
+DialHalves HalvesOf(int width, int height, Density density = {});
 
 /// The square of the face in one half, centred in it with a margin of 14 pixels for the labels.
 /// Counts on the half's top being 0. In a half without room the square is empty, or turned over.
-Rect CalcViewport(const Rect& half);
+Rect CalcViewport(const Rect& half, Density density = {});
 
-/// The disc inside the ring of a face; empty for faces of up to 16 pixels.
-Rect DiscOf(const Rect& face);
+/// The disc inside the ring of a face, which is 8 pixels broad; empty for faces of up to 16.
+Rect DiscOf(const Rect& face, Density density = {});
 
 /// The mark of an hour: a line from the centre to the rim.
 struct HourMark {
@@ -58,6 +60,6 @@ std::optional<FaceMinutes> OnRightFace(const STagSlot& slot);
 
 /// The sector of these minutes, which fills the disc of the face: its centre, then one point for
 /// each minute. The disc must not be empty.
-std::vector<Point> CreatePolygon(FaceMinutes minutes, const Rect& face);
+std::vector<Point> CreatePolygon(FaceMinutes minutes, const Rect& face, Density density = {});
 
 }  // namespace qv

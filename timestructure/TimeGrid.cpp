@@ -27,7 +27,7 @@ Colour LineInk(const TimeGrid::Picture& picture) {
 
 }  // namespace
 
-/// The grid in the painted area, once the height of the labels is known.
+/// The grid on its surface, in dots, once the height of the labels is known.
 struct TimeGrid::Cells {
   Rect area;  ///< of labels and cells
   int top;    ///< of the cells
@@ -45,33 +45,40 @@ Rect TimeGrid::HitArea() const {
   return {8, labelHeight + headerHeight, m_width - 9, m_height - 9};
 }
 
-TimeGrid::Cells TimeGrid::CellsOf(int labels) const {
+/// The painted area in its own coordinates.
+Rect TimeGrid::Surface(Density density) const {
   const Rect painted = PaintedArea();
-  const Rect area{margin, 0, painted.Width() - margin, painted.Height() - margin};
+  return {0, 0, density.Dots(painted.Width()), density.Dots(painted.Height())};
+}
+
+TimeGrid::Cells TimeGrid::CellsOf(int labels, Density density) const {
+  const Rect surface = Surface(density);
+  const int room = density.Dots(margin);
+  const Rect area{room, 0, surface.right - room, surface.bottom - room};
   const int height = area.Height() - labels;
   return {area, area.top + labels, area.Width() / static_cast<double>(hoursOfDay),
           height / static_cast<double>(minutesOfHour), height * 0.25};
 }
 
-int TimeGrid::DrawBackground(Canvas& canvas, const Picture& picture) const {
-  const Rect painted = PaintedArea();
-  canvas.Rectangle({0, 0, painted.Width(), painted.Height()}, picture.ground, picture.ground);
-  const Cells cells = CellsOf(0);
+int TimeGrid::DrawBackground(Canvas& canvas, const Picture& picture, Density density) const {
+  canvas.Rectangle(Surface(density), picture.ground, picture.ground);
+  const Cells cells = CellsOf(0, density);
+  const int letters = density.Dots(labelHeight);
   int height = 0;
   for (const int hour : {0, 6, 12, 18, 23}) {
     const std::wstring label = std::to_wstring(hour);
-    const Extent extent = canvas.TextExtent(label, labelHeight);
+    const Extent extent = canvas.TextExtent(label, letters);
     const double x = (cells.column - extent.cx) * 0.5 + cells.X(hour);
-    canvas.Text({static_cast<int>(x), cells.area.top}, label, labelHeight, picture.ink);
+    canvas.Text({static_cast<int>(x), cells.area.top}, label, letters, picture.ink);
     height = extent.cy;
   }
-  canvas.Rectangle({margin, height, painted.Width() - margin, painted.Height() - margin},
+  canvas.Rectangle({cells.area.left, height, cells.area.right, cells.area.bottom},
                    picture.dayColour, picture.dayColour);
   return height;
 }
 
-void TimeGrid::Paint(Canvas& canvas, const Picture& picture) const {
-  const Cells cells = CellsOf(DrawBackground(canvas, picture));
+void TimeGrid::Paint(Canvas& canvas, const Picture& picture, Density density) const {
+  const Cells cells = CellsOf(DrawBackground(canvas, picture, density), density);
   if (picture.selection) {
     for (int minute = picture.selection->from; minute < picture.selection->to; ++minute) {
       const double x = cells.X(minute / minutesOfHour);
@@ -81,22 +88,22 @@ void TimeGrid::Paint(Canvas& canvas, const Picture& picture) const {
                        picture.selectionColour, picture.selectionColour);
     }
   }
-  DrawLines(canvas, cells, LineInk(picture));
+  DrawLines(canvas, cells, LineInk(picture), density.LineBreadth());
 }
 
-void TimeGrid::DrawLines(Canvas& canvas, const Cells& cells, Colour lineInk) {
+void TimeGrid::DrawLines(Canvas& canvas, const Cells& cells, Colour ink, int breadth) {
+  const int right = cells.area.right + breadth;
+  const int bottom = cells.area.bottom + breadth;
   for (int hour = 0; hour <= hoursOfDay; ++hour) {
     const int x = static_cast<int>(cells.X(hour));
-    canvas.Line({x, cells.top}, {x, cells.area.bottom}, lineInk);
+    canvas.Line({x, cells.top}, {x, cells.area.bottom}, ink);
   }
   for (int band = 0; band <= quartersOfHour; ++band) {
     const int y = static_cast<int>(band * cells.band + cells.top);
-    canvas.Line({cells.area.left, y}, {cells.area.right + 1, y}, lineInk);
+    canvas.Line({cells.area.left, y}, {right, y}, ink);
   }
-  const int right = cells.area.right + 1;
-  const int bottom = cells.area.bottom + 1;
-  canvas.Line({right, cells.top + 1}, {right, bottom}, grey);
-  canvas.Line({cells.area.left + 1, bottom}, {right, bottom}, grey);
+  canvas.Line({right, cells.top + breadth}, {right, bottom}, grey);
+  canvas.Line({cells.area.left + breadth, bottom}, {right, bottom}, grey);
 }
 
 std::optional<int> TimeGrid::MinuteAt(Point place) const {

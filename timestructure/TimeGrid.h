@@ -4,6 +4,7 @@
 
 #include "discriminator/DayMinutes.h"
 #include "tools/Canvas.h"
+#include "tools/Density.h"
 
 namespace qv {
 
@@ -30,8 +31,8 @@ class TimeGrid {
   /// What is painted, in the coordinates of the box. Its own coordinates begin at its corner.
   Rect PaintedArea() const;
 
-  /// Paints all of that area.
-  void Paint(Canvas& canvas, const Picture& picture) const;
+  /// Paints all of that area, on a canvas of so many dots to the pixel.
+  void Paint(Canvas& canvas, const Picture& picture, Density density = {}) const;
 
   /// The start of the quarter at this place of the box (0 to 1425); nothing outside the grid. The
   /// right and the bottom edge belong to the last column and row.
@@ -41,9 +42,10 @@ class TimeGrid {
   struct Cells;
 
   Rect HitArea() const;
-  int DrawBackground(Canvas& canvas, const Picture& picture) const;
-  Cells CellsOf(int labelHeight) const;
-  static void DrawLines(Canvas& canvas, const Cells& cells, Colour ink);
+  Rect Surface(Density density) const;
+  Cells CellsOf(int labels, Density density) const;
+  int DrawBackground(Canvas& canvas, const Picture& picture, Density density) const;
+  static void DrawLines(Canvas& canvas, const Cells& cells, Colour ink, int breadth);
 
   int m_width;
   int m_height;

@@ -1,33 +1,43 @@
 #include "toolkit/OffScreen.h"
 
+#include <QImage>
+#include <QPainter>
 #include <cmath>
 
 #include "toolkit/PaintBox.h"
 #include "toolkit/PainterCanvas.h"
 
 namespace qv {
+namespace {
 
-QImage OffScreen(QSize size, const QPainter& painter) {
-  // The device knows only of the screen, while its picture may be asked for at any density.
-  const double density = std::sqrt(std::abs(painter.deviceTransform().determinant()));
-  const QSize dots(static_cast<int>(std::ceil(size.width() * density)),
-                   static_cast<int>(std::ceil(size.height() * density)));
-  QImage surface(dots, QImage::Format_RGB32);
-  surface.setDevicePixelRatio(density);
-  return surface;
+/// The device knows only of the screen, while its picture may be asked for at any density.
+Density DensityOf(const QPainter& painter) {
+  return {std::sqrt(std::abs(painter.deviceTransform().determinant()))};
 }
 
-void PaintOffScreen(QWidget& widget, const std::function<void(Canvas&, Colour)>& paint) {
+QImage SurfaceFor(QSize size, Density density) {
+  const QSize dots(static_cast<int>(std::ceil(size.width() * density.dotsPerPixel)),
+                   static_cast<int>(std::ceil(size.height() * density.dotsPerPixel)));
+  return {dots, QImage::Format_RGB32};
+}
+
+}  // namespace
+
+void PaintOffScreen(QWidget& widget, const std::function<void(const OffScreenSurface&)>& paint) {
   QPainter screen(&widget);
-  QImage surface = OffScreen(widget.size(), screen);
+  const Density density = DensityOf(screen);
+  QImage surface = SurfaceFor(widget.size(), density);
   if (surface.isNull()) {
     return;
   }
+  const QColor ground = widget.palette().color(widget.backgroundRole());
+  surface.fill(ground);
   {
     QPainter painter(&surface);
-    PainterCanvas canvas(painter);
-    paint(canvas, FromQColor(widget.palette().color(widget.backgroundRole())));
+    PainterCanvas canvas(painter, density.LineBreadth());
+    paint({canvas, {surface.width(), surface.height()}, density, FromQColor(ground)});
   }
+  surface.setDevicePixelRatio(density.dotsPerPixel);
   screen.drawImage(0, 0, surface);
 }
 

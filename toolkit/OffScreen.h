@@ -1,21 +1,22 @@
 #pragma once
 
-#include <QImage>
-#include <QPainter>
-#include <QSize>
 #include <QWidget>
 #include <functional>
 
 #include "tools/Canvas.h"
+#include "tools/Density.h"
 
 namespace qv {
 
-/// A surface for so many pixels, with all the dots that `painter` draws for them. What is painted
-/// there is copied to `painter` in one step.
-QImage OffScreen(QSize size, const QPainter& painter);
+/// What a widget is painted on, before it is shown.
+struct OffScreenSurface {
+  Canvas& canvas;  ///< in dots of the screen
+  Extent size;     ///< in dots
+  Density density;
+  Colour ground;  ///< on which the widget stands; the surface has this colour all over
+};
 
 /// Paints all of `widget` off screen and shows it in one step; to be called by its paint event.
-/// `paint` is given the canvas and the colour of the ground that the widget stands on.
-void PaintOffScreen(QWidget& widget, const std::function<void(Canvas&, Colour ground)>& paint);
+void PaintOffScreen(QWidget& widget, const std::function<void(const OffScreenSurface&)>& paint);
 
 }  // namespace qv

@@ -35,41 +35,34 @@ QFont FontOfHeight(int height) {
   return FontOfPixels(1);
 }
 
-/// `area` without an outline of one pixel.
+/// `area` without an outline of one dot.
 Rect Inside(const Rect& area) {
   return {area.left + 1, area.top + 1, area.right - 1, area.bottom - 1};
 }
 
-/// How many pixels a line has that ends before `to`.
-int PixelsOfLine(Point from, Point to) {
-  return std::max(std::abs(to.x - from.x), std::abs(to.y - from.y));
-}
+bool IsLevel(Point from, Point to) { return std::abs(to.x - from.x) > std::abs(to.y - from.y); }
 
-/// The middle of the last of them. It lies on the line itself, so that the slope stays.
-QPointF LastPixel(Point from, Point to) {
-  const double pixels = PixelsOfLine(from, to);
+/// The last dot of a line that ends before `to`. It lies on the line itself, so that the slope
+/// stays.
+QPointF LastDot(Point from, Point to) {
+  const double dots = std::max(std::abs(to.x - from.x), std::abs(to.y - from.y));
   const QPointF way(to.x - from.x, to.y - from.y);
-  return QPointF(from.x, from.y) + way * ((pixels - 1) / pixels);
+  return QPointF(from.x, from.y) + way * ((dots - 1) / dots);
 }
 
 }  // namespace
 
-PainterCanvas::PainterCanvas(QPainter& painter) : m_painter(painter) {
+PainterCanvas::PainterCanvas(QPainter& painter, int lineBreadth)
+    : m_painter(painter), m_lineBreadth(lineBreadth) {
   m_painter.save();
   m_painter.setRenderHint(QPainter::Antialiasing, false);
-  if (m_painter.deviceTransform().isScaling()) {
-    // A scaled pen goes through the corners of pixels; an unscaled one is rounded to their middles.
-    m_middle = 0.5;
-    m_painter.translate(m_middle, m_middle);
-  }
 }
 
 PainterCanvas::~PainterCanvas() { m_painter.restore(); }
 
 void PainterCanvas::Fill(const Rect& area, Colour brush) {
   if (!area.IsEmpty()) {
-    const QRectF pixels(area.left, area.top, area.Width(), area.Height());
-    m_painter.fillRect(pixels.translated(-m_middle, -m_middle), ToQColor(brush));
+    m_painter.fillRect(area.left, area.top, area.Width(), area.Height(), ToQColor(brush));
   }
 }
 
@@ -85,7 +78,7 @@ void PainterCanvas::Ellipse(const Rect& area, Colour pen, Colour brush) {
   }
   m_painter.setPen(QPen(ToQColor(pen), 1));
   m_painter.setBrush(ToQColor(brush));
-  // The painter's ellipse reaches one pixel further than the size that it is given.
+  // The painter's ellipse reaches one dot further than the size that it is given.
   m_painter.drawEllipse(area.left, area.top, area.Width() - 1, area.Height() - 1);
 }
 
@@ -101,23 +94,22 @@ void PainterCanvas::Polygon(std::span<const Point> points, Colour pen, Colour br
 }
 
 void PainterCanvas::Line(Point from, Point to, Colour pen) {
-  const int pixels = PixelsOfLine(from, to);
-  if (pixels == 1) {
-    // Between two ends in one place a scaled pen would draw both their caps.
-    Fill({from.x, from.y, from.x + 1, from.y + 1}, pen);
-  } else if (pixels > 1) {
-    m_painter.setPen(QPen(ToQColor(pen), 1));
-    m_painter.drawLine(QPointF(from.x, from.y), LastPixel(from, to));
+  if (from == to) {
+    return;
+  }
+  const QLineF line(QPointF(from.x, from.y), LastDot(from, to));
+  m_painter.setPen(QPen(ToQColor(pen), 1));
+  for (int beside = 0; beside < m_lineBreadth; ++beside) {
+    m_painter.drawLine(IsLevel(from, to) ? line.translated(0, beside) : line.translated(beside, 0));
   }
 }
 
 void PainterCanvas::Text(Point at, std::wstring_view text, int height, Colour colour) {
   const Face& face = FaceOf(height);
   const int baseline = (height - HeightOf(face.metrics)) / 2 + face.metrics.ascent();
-  const QPointF start(at.x - m_middle, at.y + baseline - m_middle);
   m_painter.setFont(face.font);
   m_painter.setPen(ToQColor(colour));
-  m_painter.drawText(start, ToQString(text));
+  m_painter.drawText(QPoint(at.x, at.y + baseline), ToQString(text));
 }
 
 Extent PainterCanvas::TextExtent(std::wstring_view text, int height) const {

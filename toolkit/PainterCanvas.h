@@ -9,13 +9,12 @@
 
 namespace qv {
 
-/// A canvas on a painter. Its pixels are the painter's units: on a screen of double density each is
-/// two by two dots, and slopes, curves and letters are drawn with every dot.
+/// A canvas on a painter, which draws nothing smoothed but letters.
 class PainterCanvas : public Canvas {
  public:
   /// Draws with `painter`, which must be active as long as this object lives and is then as it was
-  /// before.
-  explicit PainterCanvas(QPainter& painter);
+  /// before. Its units have to be the dots of its device. Lines are so many of them broad.
+  explicit PainterCanvas(QPainter& painter, int lineBreadth = 1);
   ~PainterCanvas() override;
 
   void Fill(const Rect& area, Colour brush) override;
@@ -39,7 +38,7 @@ class PainterCanvas : public Canvas {
   const Face& FaceOf(int height) const;
 
   QPainter& m_painter;
-  double m_middle = 0;  ///< from a pixel's corner to the place through which its pen goes
+  int m_lineBreadth;
   /// The one that was used last, since texts of one height follow each other.
   mutable std::optional<Face> m_face;
 };

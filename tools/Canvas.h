@@ -39,8 +39,8 @@ struct Rect {
 /// Takes a picture as a short list of primitives, so that what is drawn can be computed and tested
 /// without a window.
 ///
-/// Units are pixels. Pens are solid and one pixel wide, brushes solid. An outline lies inside the
-/// rectangle that it is given for; what is empty draws nothing.
+/// Units are the dots of the surface. Brushes are solid, outlines one dot wide and inside the
+/// rectangle that they are given for; what is empty draws nothing.
 class Canvas {
  public:
   Canvas() = default;
@@ -57,7 +57,8 @@ class Canvas {
   /// even number of times it is not filled. Two points are a line with both its ends.
   virtual void Polygon(std::span<const Point> points, Colour pen, Colour brush) = 0;
 
-  /// A line from `from` up to `to`, which is not drawn.
+  /// A line from `from` up to `to`, which is not drawn. On a dense surface it may be broader than
+  /// a dot: to its right, or below it if it is rather level than steep.
   virtual void Line(Point from, Point to, Colour pen) = 0;
 
   /// A line of text in an upright sans-serif face whose ascent plus descent is `height`; `at` is

@@ -157,6 +157,27 @@ TEST(CreatePolygon, APartHasTheSamePointsAsTheWhole) {
   }
 }
 
+/// The face of a screen with two dots to the pixel has the points of one that is twice as large,
+/// but for the breadth of margins and ring.
+TEST(DialGeometry, OnADenseScreenItIsInDots) {
+  constexpr Density doubled{2};
+  EXPECT_EQ(HalvesOf(400, 200, doubled).left, (Rect{0, 0, 186, 200}));
+  EXPECT_EQ(HalvesOf(400, 200, doubled).right, (Rect{214, 0, 400, 200}));
+  const Rect dense = CalcViewport({0, 0, 186, 200}, doubled);
+  EXPECT_EQ(dense, (Rect{28, 35, 158, 165}));
+  EXPECT_EQ(DiscOf(dense, doubled), (Rect{44, 51, 142, 149}));
+  const auto points = CreatePolygon({0, 180}, dense, doubled);
+  EXPECT_EQ(points.front(), (Point{93, 100}));
+  EXPECT_EQ(points.back(), (Point{142, 100}));
+}
+
+TEST(DialGeometry, AtABrokenDensityLengthsAreTheNearestDots) {
+  constexpr Density half{1.5};
+  EXPECT_EQ(HalvesOf(300, 150, half).left, (Rect{0, 0, 139, 150}));
+  EXPECT_EQ(CalcViewport({0, 0, 139, 150}, half), (Rect{21, 26, 118, 123}));
+  EXPECT_EQ(DiscOf({21, 26, 118, 123}, half), (Rect{33, 38, 106, 111}));
+}
+
 TEST(CreatePolygon, OfOneMinuteIsALine) { EXPECT_EQ(CreatePolygon({300, 300}, face).size(), 2U); }
 
 /// The minute whose point on the disc's rim `point` is, found back by its angle.

@@ -143,6 +143,18 @@ TEST(TimeGrid, DrawsWhatItDrewBefore) {
   EXPECT_EQ(canvas.lines, Golden("TimeGrid.txt", canvas.lines));
 }
 
+TEST(TimeGrid, OnADenseScreenAllLengthsAreInItsDots) {
+  RecordingCanvas dots;
+  TimeGrid(300, 200).Paint(dots, {.dayColour = 0x80CCFF}, Density{2});
+  const std::vector<std::string> expected = {"rectangle 0,0 590,356 pen F0F0F0 brush F0F0F0",
+                                             "text 20,0 \"0\" height 24 colour 000000"};
+  EXPECT_EQ(std::vector(dots.lines.begin(), dots.lines.begin() + 2), expected);
+  EXPECT_EQ(dots.lines[6], "rectangle 12,24 578,344 pen 80CCFF brush 80CCFF");
+  EXPECT_EQ(dots.lines[7], "line 12,24 12,344 pen 000000");
+  EXPECT_EQ(dots.lines[8], "line 35,24 35,344 pen 000000");
+  EXPECT_EQ(dots.lines.back(), "line 14,346 580,346 pen 808080");
+}
+
 TEST(TimeGrid, ABoxOfAnySizeIsPainted) {
   for (const int side : {0, 1, 20, 33, 34, 100, 5000}) {
     RecordingCanvas canvas;

@@ -49,10 +49,9 @@ void QVDayCtrl::Setup(const XmlDocument::XmlNode* day, const XmlDocument::XmlNod
 QSize QVDayCtrl::sizeHint() const { return naturalSize; }
 
 void QVDayCtrl::paintEvent(QPaintEvent*) {
-  // The faces stand on the ground of the dialog itself. Sizes stay those of the layout on a dense
-  // screen, where the same picture has more dots: labels of 14 dots could not be read there.
-  qv::PaintOffScreen(*this, [this](qv::Canvas& canvas, qv::Colour ground) {
-    m_dial->Paint(canvas, width(), height(), {ground, qv::InkOn(ground)});
+  qv::PaintOffScreen(*this, [this](const qv::OffScreenSurface& surface) {
+    m_dial->Paint(surface.canvas, surface.size.cx, surface.size.cy,
+                  {surface.ground, qv::InkOn(surface.ground), surface.density});
   });
 }
 

@@ -24,11 +24,11 @@ void TimeGridView::FitIntoBox() {
 }
 
 void TimeGridView::paintEvent(QPaintEvent*) {
-  PaintOffScreen(*this, [this](Canvas& canvas, Colour ground) {
+  PaintOffScreen(*this, [this](const OffScreenSurface& surface) {
     TimeGrid::Picture picture = m_picture();
-    picture.ground = ground;
-    picture.ink = InkOn(ground);
-    Grid().Paint(canvas, picture);
+    picture.ground = surface.ground;
+    picture.ink = InkOn(surface.ground);
+    Grid().Paint(surface.canvas, picture, surface.density);
   });
 }
 

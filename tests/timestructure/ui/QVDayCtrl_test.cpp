@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QPaintEvent>
+#include <algorithm>
 #include <vector>
 
 #include "tests/toolkit/PictureFiles.h"
@@ -144,8 +145,8 @@ TEST(QVDayCtrl, IsDrawnWithEveryDotOfADenseScreen) {
   SetupWholeDay(dial);
   const QImage dense = PictureOf(dial, {200, 100}, 2);
   QImage enlarged = PictureOf(dial, {200, 100}).scaled(400, 200);
-  EXPECT_EQ(dense.pixelColor(150, 99), QColor(Qt::black)) << "a mark is two dots broad";
-  EXPECT_EQ(dense.pixelColor(150, 98), QColor(Qt::black));
+  EXPECT_EQ(dense.pixelColor(150, 100), QColor(Qt::black)) << "a mark is two dots broad";
+  EXPECT_EQ(dense.pixelColor(150, 101), QColor(Qt::black));
   int differing = 0;
   for (int x = 0; x < 400; ++x) {
     for (int y = 0; y < 200; ++y) {
@@ -153,6 +154,69 @@ TEST(QVDayCtrl, IsDrawnWithEveryDotOfADenseScreen) {
     }
   }
   EXPECT_GT(differing, 100);
+}
+
+/// How long the runs of equal first coloured dots are, line by line, over the upper left quarter
+/// of the disc in a face: the steps of its rim where it is rather steep than level.
+std::vector<int> StepsOfRim(const QImage& image, const QColor& colour) {
+  std::vector<int> steps;
+  int before = -1;
+  for (int y = 0; y < image.height() / 2; ++y) {
+    int x = 0;
+    while (x < image.width() / 2 && image.pixelColor(x, y) != colour) {
+      ++x;
+    }
+    if (x < image.width() / 2 && before >= 0) {
+      steps.push_back(before - x);
+    }
+    before = x < image.width() / 2 ? x : -1;
+  }
+  return steps;
+}
+
+TEST(QVDayCtrl, ARimHasStepsOfOneDot) {
+  for (const double density : {1.5, 2.0, 3.0}) {
+    QVDayCtrl dial;
+    SetupWholeDay(dial);
+    const QImage image = PictureOf(dial, {200, 100}, density);
+    const auto steps = StepsOfRim(image, Qt::red);
+    // Below 10:30 a rim is steeper than level: each line goes one dot further at most.
+    const auto steep = steps.end() - static_cast<int>(24 * density * 0.6);
+    EXPECT_LE(*std::max_element(steep, steps.end()), 1) << density;
+    EXPECT_GT(std::count(steep, steps.end(), 1), 3) << density;
+  }
+}
+
+TEST(QVDayCtrl, NothingButLettersIsSmoothed) {
+  QVDayCtrl dial;
+  SetupWholeDay(dial);
+  const QImage image = PictureOf(dial, {200, 100}, 1.5);
+  const QImage disc = image.copy(QRect(33, 38, 73, 73));
+  const auto plain = qv::CountPixels(disc, Qt::red) + qv::CountPixels(disc, Qt::black) +
+                     qv::CountPixels(disc, Qt::green) + qv::CountPixels(disc, ground);
+  EXPECT_EQ(plain, disc.width() * disc.height());
+}
+
+TEST(QVDayCtrl, ShowsEachDotAlsoWhereItsCornerIsInTheMiddleOfOne) {
+  QWidget parent;
+  auto* dial = new QVDayCtrl(&parent);
+  dial->move(11, 7);
+  SetupWholeDay(*dial);
+  for (const double density : {1.25, 1.5}) {
+    QVDayCtrl alone;
+    SetupWholeDay(alone);
+    const QImage expected = PictureOf(alone, {200, 100}, density);
+    dial->resize(200, 100);
+    parent.setPalette(PaletteOn(ground));
+    parent.resize(300, 200);
+    QImage image(parent.size() * density, QImage::Format_RGB32);
+    image.setDevicePixelRatio(density);
+    parent.render(&image);
+    const QPoint corner = (QPointF(11, 7) * density).toPoint();
+    EXPECT_EQ(image.copy(QRect(corner, expected.size()).adjusted(2, 2, -2, -2)),
+              expected.copy(expected.rect().adjusted(2, 2, -2, -2)))
+        << density;
+  }
 }
 
 TEST(QVDayCtrl, OfItsOwnSizeHasRoomForItsLabels) {
