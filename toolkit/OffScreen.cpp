@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "toolkit/BoxGround.h"
 #include "toolkit/PaintBox.h"
 #include "toolkit/PainterCanvas.h"
 
@@ -30,7 +31,7 @@ void PaintOffScreen(QWidget& widget, const std::function<void(const OffScreenSur
   if (surface.isNull()) {
     return;
   }
-  const QColor ground = widget.palette().color(widget.backgroundRole());
+  const QColor ground = GroundOf(widget);
   surface.fill(ground);
   {
     QPainter painter(&surface);

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QImage>
 #include <QPaintEvent>
+#include <QStyle>
+#include <QStyleFactory>
 #include <algorithm>
 #include <vector>
 
@@ -217,6 +220,17 @@ TEST(QVDayCtrl, ShowsEachDotAlsoWhereItsCornerIsInTheMiddleOfOne) {
               expected.copy(expected.rect().adjusted(2, 2, -2, -2)))
         << density;
   }
+}
+
+TEST(QVDayCtrl, InABoxIsOnItsGround) {
+  const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("Fusion")));
+  QGroupBox box;
+  box.setStyle(style.get());
+  box.resize(300, 200);
+  QVDayCtrl dial(&box);
+  dial.setGeometry(20, 40, 200, 100);
+  const QImage image = box.grab().toImage();
+  EXPECT_EQ(image.pixelColor(21, 41), image.pixelColor(250, 150)) << "inside the box, beside it";
 }
 
 TEST(QVDayCtrl, OfItsOwnSizeHasRoomForItsLabels) {

@@ -59,5 +59,15 @@ TEST(TimeGridView, AWhiteDayKeepsItsLinesInADarkWindow) {
   EXPECT_EQ(BlackRuns(Painted(1, QColor(0x2b2d30)), false).size(), 25U);
 }
 
+TEST(TimeGridView, IsOnTheGroundOfItsBox) {
+  const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("Fusion")));
+  QGroupBox box;
+  box.setStyle(style.get());
+  box.setPalette(QPalette(QColor(240, 240, 240)));
+  box.resize(517, 163);
+  const QPoint belowTheGrid(258, 157);
+  EXPECT_EQ(Painted(1).pixelColor(belowTheGrid), box.grab().toImage().pixelColor(belowTheGrid));
+}
+
 }  // namespace
 }  // namespace qv
