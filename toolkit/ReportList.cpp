@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "toolkit/Caption.h"
+#include "toolkit/RowDelegate.h"
 
 namespace qv {
 namespace {
@@ -26,7 +27,7 @@ bool IsForTheDialog(const QKeyEvent& event) {
 ReportList::ReportList(QWidget* parent) : QTreeWidget(parent) {
   setRootIsDecorated(false);
   setUniformRowHeights(true);
-  setAllColumnsShowFocus(true);
+  setItemDelegate(new RowDelegate(this));
   setSelectionMode(QAbstractItemView::ExtendedSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setTabKeyNavigation(false);
