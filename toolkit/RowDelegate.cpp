@@ -1,6 +1,7 @@
 #include "toolkit/RowDelegate.h"
 
 #include <QPainter>
+#include <QRegularExpression>
 
 namespace qv {
 namespace {
@@ -19,6 +20,11 @@ RowDelegate::RowDelegate(QAbstractItemView* view) : QStyledItemDelegate(view), m
   // The view paints only the cell that was current anew, but the frame is around all of its row.
   connect(view->selectionModel(), &QItemSelectionModel::currentRowChanged, view->viewport(),
           qOverload<>(&QWidget::update));
+}
+
+QString RowDelegate::displayText(const QVariant& value, const QLocale& locale) const {
+  static const QRegularExpression lineBreaks(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]+"));
+  return QStyledItemDelegate::displayText(value, locale).replace(lineBreaks, QStringLiteral(" "));
 }
 
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {

@@ -6,7 +6,8 @@
 namespace qv {
 
 /// Draws the rows of a list or of a drop-down list. Icons keep their colours: neither a selection
-/// tints them nor the frame of the current row, which goes around all columns.
+/// tints them nor the frame of the current row, which goes around all columns. A text of several
+/// lines shows in one.
 class RowDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -15,6 +16,7 @@ class RowDelegate : public QStyledItemDelegate {
   /// around its rows by itself.
   explicit RowDelegate(QAbstractItemView* view);
 
+  QString displayText(const QVariant& value, const QLocale& locale) const override;
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
 

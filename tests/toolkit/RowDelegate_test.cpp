@@ -100,5 +100,17 @@ TEST_F(RowDelegateTest, TheFrameLeavesNothingBehind) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return !isFramed(0) && isFramed(2); }));
 }
 
+TEST_F(RowDelegateTest, ATextOfSeveralLinesShowsInOne) {
+  const int height = Cell(0, 1).height();
+  const QString lines = QStringLiteral("first\nsecond\r\nthird\n\n\u2028fourth");
+  list.topLevelItem(0)->setText(1, lines);
+  QApplication::processEvents();
+  EXPECT_EQ(Cell(0, 1).height(), height);
+  const auto* delegate = qobject_cast<RowDelegate*>(list.itemDelegate());
+  ASSERT_TRUE(delegate);
+  EXPECT_EQ(delegate->displayText(lines, QLocale()), "first second third fourth");
+  EXPECT_EQ(list.topLevelItem(0)->text(1), lines) << "what it holds stays";
+}
+
 }  // namespace
 }  // namespace qv
