@@ -171,8 +171,7 @@ void MainWindow::MakeCentre() {
 
 void MainWindow::OnOpen() {
   const QString directory = QFileDialog::getExistingDirectory(
-      this, m_workspace.Words(OwnText::OpenInstallation).remove(QLatin1Char('&')),
-      m_workspace.Directory());
+      this, TitleOf(m_workspace.Words(OwnText::OpenInstallation)), m_workspace.Directory());
   if (!directory.isEmpty()) {
     Open(directory);
   }

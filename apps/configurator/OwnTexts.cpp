@@ -119,4 +119,8 @@ QString Words(OwnText text, qv::Language language) {
   return QString::fromUtf8(texts[text].In(language));
 }
 
+QString TitleOf(QString menuText) {
+  return menuText.remove(QLatin1Char('&')).remove(QChar(0x2026));
+}
+
 }  // namespace configurator

@@ -73,4 +73,8 @@ enum class OwnText {
 /// The text in this language. A letter that follows "&" is the key that selects it.
 QString Words(OwnText text, qv::Language language);
 
+/// The title of the window that a menu's entry of this text opens: without the mark of its key, and
+/// without the ellipsis that announces a window.
+QString TitleOf(QString menuText);
+
 }  // namespace configurator

@@ -109,6 +109,21 @@ TEST_F(MainWindowTest, SwitchesTheLanguageOfAllTexts) {
   EXPECT_FALSE(Find<QAction>("language-es")->isChecked());
 }
 
+TEST_F(MainWindowTest, TheWindowThatOpensAnInstallationHasATitleNotAMenuText) {
+  const auto openByMenu = [this] {
+    for (QAction* action : window->findChildren<QAction*>()) {
+      if (action->shortcut() == QKeySequence(Qt::CTRL | Qt::Key_O)) {
+        action->trigger();
+      }
+    }
+    return 0;
+  };
+  qv::Drive(openByMenu, [] {
+    EXPECT_EQ(qv::TopWindow()->windowTitle(), "Open installation");
+    QTest::keyClick(qv::TopWindow(), Qt::Key_Escape);
+  });
+}
+
 TEST_F(MainWindowTest, ShowsEachNotice) {
   QVVornelGuids::get()->invalidateGuid(QVVornelGuids::Discriminators, true);
   EXPECT_EQ(Told(), "Discriminator files changed (8)");
