@@ -16,7 +16,8 @@ class DayDial;
 /// needs no service of the host.
 ///
 /// Colours have red in the lowest byte, then green, then blue. The setters store and don't repaint:
-/// call `update` behind them. Marks, labels and the ground follow the palette.
+/// call `update` behind them. Marks, labels and the ground follow the palette; in a group box the
+/// ground is that of the box.
 ///
 /// For people who can't see it, its accessible description tells the slots. Name and description
 /// are in words if the host's language has them, which is asked for at construction and at each
