@@ -60,6 +60,8 @@ FileHandle Open(const fs::path& name, const char* mode) {
 #endif
 }
 
+std::error_code Reason(int number) { return {number, std::generic_category()}; }
+
 bool FlushToDisk(std::FILE* file) {
   if (std::fflush(file) != 0) {
     return false;
@@ -72,33 +74,52 @@ bool FlushToDisk(std::FILE* file) {
 #endif
 }
 
+/// Why what is there, but no regular file, isn't read.
+std::error_code ReasonOfKind(const fs::path& name) {
+  std::error_code ignored;
+  return Reason(fs::is_directory(name, ignored) ? EISDIR : EINVAL);
+}
+
 class DiskReader : public FileReader {
  public:
-  explicit DiskReader(FileHandle file) : m_file(std::move(file)) {}
+  DiskReader(Files& files, FileHandle file) : m_files(files), m_file(std::move(file)) {}
 
   std::ptrdiff_t Read(char* buffer, std::size_t size) override {
     const std::size_t count = std::fread(buffer, 1, size, m_file.get());
-    return count == 0 && std::ferror(m_file.get()) ? -1 : static_cast<std::ptrdiff_t>(count);
+    if (count == 0 && std::ferror(m_file.get())) {
+      m_files.NoteFailure(Reason(errno));
+      return -1;
+    }
+    return static_cast<std::ptrdiff_t>(count);
   }
 
  private:
+  Files& m_files;
   FileHandle m_file;
 };
 
 class DiskWriter : public FileWriter {
  public:
-  explicit DiskWriter(FileHandle file) : m_file(std::move(file)) {}
+  DiskWriter(Files& files, FileHandle file) : m_files(files), m_file(std::move(file)) {}
 
   bool Write(std::string_view bytes) override {
-    return std::fwrite(bytes.data(), 1, bytes.size(), m_file.get()) == bytes.size();
+    return Noted(std::fwrite(bytes.data(), 1, bytes.size(), m_file.get()) == bytes.size());
   }
 
   bool Close() override {
-    const bool flushed = FlushToDisk(m_file.get());
-    return std::fclose(m_file.release()) == 0 && flushed;
+    const bool flushed = Noted(FlushToDisk(m_file.get()));
+    return Noted(std::fclose(m_file.release()) == 0) && flushed;
   }
 
  private:
+  bool Noted(bool done) {
+    if (!done) {
+      m_files.NoteFailure(Reason(errno));
+    }
+    return done;
+  }
+
+  Files& m_files;
   FileHandle m_file;
 };
 
@@ -106,18 +127,34 @@ class DiskFiles : public Files {
  public:
   std::unique_ptr<FileReader> OpenForReading(std::wstring_view path) override {
     const auto name = SystemPath(path);
-    std::error_code ignored;
+    std::error_code error = name ? std::error_code() : Reason(EINVAL);
     // Only what has an end is read: a pipe of such a name would be waited for.
-    auto file = name && fs::is_regular_file(*name, ignored) ? Open(*name, "rb") : nullptr;
-    return file ? std::make_unique<DiskReader>(std::move(file)) : nullptr;
+    if (!name || !fs::is_regular_file(*name, error)) {
+      NoteFailure(error ? error : ReasonOfKind(*name));
+      return nullptr;
+    }
+    auto file = Open(*name, "rb");
+    if (!file) {
+      NoteFailure(Reason(errno));
+      return nullptr;
+    }
+    return std::make_unique<DiskReader>(*this, std::move(file));
   }
 
   std::unique_ptr<FileWriter> OpenForWriting(std::wstring_view path) override {
     const auto name = SystemPath(path);
     std::error_code ignored;
     // What may not be removed may not be emptied either, whoever runs the program.
-    auto file = name && !IsWriteProtected(fs::status(*name, ignored)) ? Open(*name, "wb") : nullptr;
-    return file ? std::make_unique<DiskWriter>(std::move(file)) : nullptr;
+    if (!name || IsWriteProtected(fs::status(*name, ignored))) {
+      NoteFailure(Reason(name ? EACCES : EINVAL));
+      return nullptr;
+    }
+    auto file = Open(*name, "wb");
+    if (!file) {
+      NoteFailure(Reason(errno));
+      return nullptr;
+    }
+    return std::make_unique<DiskWriter>(*this, std::move(file));
   }
 
   bool Exists(std::wstring_view path) override {
@@ -133,11 +170,12 @@ class DiskFiles : public Files {
     if (!name || status.type() == fs::file_type::not_found) {
       return Removal::Missing;
     }
-    if (error || fs::is_directory(status) || IsWriteProtected(status)) {
-      return Removal::Refused;
+    if (!error && (fs::is_directory(status) || IsWriteProtected(status))) {
+      error = Reason(fs::is_directory(status) ? EISDIR : EACCES);
     }
-    const bool removed = fs::remove(*name, error);
+    const bool removed = !error && fs::remove(*name, error);
     if (error) {
+      NoteFailure(error);
       return Removal::Refused;
     }
     return removed ? Removal::Removed : Removal::Missing;
@@ -150,6 +188,9 @@ class DiskFiles : public Files {
       return false;
     }
     fs::create_directories(*name, error);
+    if (error) {
+      NoteFailure(error);
+    }
     return fs::is_directory(*name, error);
   }
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "tools/Export.h"
@@ -65,6 +66,16 @@ class QVTOOLS_EXPORT Files {
   /// their case. A directory that can't be read gives none. Bytes of a name that aren't UTF-8 come
   /// as U+FFFD.
   virtual std::vector<std::wstring> Walk(std::wstring_view pattern) = 0;
+
+  /// Why the system refused the first verb, reading or writing that has failed since
+  /// `ForgetFailure`; no error if none has. That a file to remove is missing is no failure.
+  const std::error_code& Failure() const { return m_failure; }
+  void ForgetFailure() { m_failure.clear(); }
+  /// For those who do the work: keeps why it failed.
+  void NoteFailure(const std::error_code& failure) { m_failure = m_failure ? m_failure : failure; }
+
+ private:
+  std::error_code m_failure;
 };
 
 }  // namespace qv

@@ -1,19 +1,26 @@
 #include "tests/support/ScriptedFiles.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 
 namespace qv {
 namespace {
 
+std::error_code Reason(int number) { return {number, std::generic_category()}; }
+
 class ScriptedReader : public FileReader {
  public:
-  ScriptedReader(std::string content, std::size_t pieceSize, bool breaks)
-      : m_content(std::move(content)), m_pieceSize(pieceSize), m_breaks(breaks) {}
+  ScriptedReader(ScriptedFiles& files, std::string content, bool breaks)
+      : m_files(files),
+        m_content(std::move(content)),
+        m_pieceSize(files.pieceSize),
+        m_breaks(breaks) {}
 
   std::ptrdiff_t Read(char* buffer, std::size_t size) override {
     const std::size_t end = m_breaks ? m_content.size() / 2 : m_content.size();
     if (m_breaks && m_position >= end) {
+      m_files.NoteFailure(Reason(EIO));
       return -1;
     }
     std::size_t count = std::min(size, end - m_position);
@@ -26,6 +33,7 @@ class ScriptedReader : public FileReader {
   }
 
  private:
+  ScriptedFiles& m_files;
   std::string m_content;
   std::size_t m_pieceSize;
   bool m_breaks;
@@ -44,10 +52,18 @@ class ScriptedWriter : public FileWriter {
       *space -= count;
     }
     m_files.contents[m_path] += bytes.substr(0, count);
+    if (count != bytes.size()) {
+      m_files.NoteFailure(Reason(ENOSPC));
+    }
     return count == bytes.size();
   }
 
-  bool Close() override { return !m_files.failClose; }
+  bool Close() override {
+    if (m_files.failClose) {
+      m_files.NoteFailure(Reason(EIO));
+    }
+    return !m_files.failClose;
+  }
 
  private:
   ScriptedFiles& m_files;
@@ -61,9 +77,10 @@ std::unique_ptr<FileReader> ScriptedFiles::OpenForReading(std::wstring_view path
   log.push_back(L"read " + name);
   const auto file = contents.find(name);
   if (file == contents.end() || unreadable.contains(name)) {
+    NoteFailure(Reason(file == contents.end() ? ENOENT : EACCES));
     return nullptr;
   }
-  return std::make_unique<ScriptedReader>(file->second, pieceSize, breakingReads.contains(name));
+  return std::make_unique<ScriptedReader>(*this, file->second, breakingReads.contains(name));
 }
 
 std::unique_ptr<FileWriter> ScriptedFiles::OpenForWriting(std::wstring_view path) {
@@ -72,6 +89,7 @@ std::unique_ptr<FileWriter> ScriptedFiles::OpenForWriting(std::wstring_view path
   const std::size_t length = name.size() - (name.find_last_of(L'/') + 1);
   if (length == 0 || length > longestName || unwritable.contains(name) ||
       directories.contains(name)) {
+    NoteFailure(Reason(directories.contains(name) ? EISDIR : EACCES));
     return nullptr;
   }
   contents[name].clear();
@@ -87,6 +105,7 @@ Removal ScriptedFiles::Remove(std::wstring_view path) {
   const std::wstring name(path);
   log.push_back(L"remove " + name);
   if (directories.contains(name) || (contents.contains(name) && writeProtected.contains(name))) {
+    NoteFailure(Reason(directories.contains(name) ? EISDIR : EACCES));
     return Removal::Refused;
   }
   return contents.erase(name) == 0 ? Removal::Missing : Removal::Removed;
@@ -95,6 +114,7 @@ Removal ScriptedFiles::Remove(std::wstring_view path) {
 bool ScriptedFiles::MakeDirectory(std::wstring_view path) {
   log.push_back(L"mkdir " + std::wstring(path));
   if (refuseDirectories) {
+    NoteFailure(Reason(EACCES));
     return false;
   }
   directories.insert(std::wstring(path));

@@ -13,8 +13,9 @@ namespace qv {
 
 /// A disk in memory whose operations fail where the test says so.
 ///
-/// Files are kept by their full path. A failing write leaves the bytes that still fitted. Each
-/// operation is written into `log`, as in "write /cfg/a.xdct", in the order in which it came.
+/// Each failure has the reason that a disk gives for it. Files are kept by their full path. A
+/// failing write leaves the bytes that still fitted. Each operation is written into `log`, as in
+/// "write /cfg/a.xdct", in the order in which it came.
 class ScriptedFiles : public Files {
  public:
   /// The files by path.

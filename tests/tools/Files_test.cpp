@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #endif
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -269,13 +270,70 @@ TEST_F(DiskFiles, WalkShowsBytesThatAreNoUtf8AsReplacements) {
   EXPECT_EQ(Walk(L".xdct"), Names{L"a\uFFFD.xdct"});
 }
 
+/// The reasons that the disk gives.
+class FailuresOfDiskFiles : public DiskFiles {
+ protected:
+  FailuresOfDiskFiles() { files.ForgetFailure(); }
+  ~FailuresOfDiskFiles() override { files.ForgetFailure(); }
+
+  /// Why the verbs in `fail` failed.
+  template <class Fail>
+  std::error_code Reason(const Fail& fail) {
+    files.ForgetFailure();
+    fail();
+    return files.Failure();
+  }
+
+  static std::error_code Number(int number) { return {number, std::generic_category()}; }
+};
+
+TEST_F(FailuresOfDiskFiles, HaveTheReasonOfTheSystem) {
+  const fs::path locked = Put("locked");
+  fs::permissions(locked, fs::perms::owner_read);
+  fs::create_directory(directory.Path() / "sub");
+  const auto open = [this](std::wstring_view name) {
+    return Reason([&] { EXPECT_EQ(files.OpenForReading(Path(name)), nullptr); });
+  };
+  EXPECT_EQ(open(L"gone"), Number(ENOENT));
+  EXPECT_EQ(open(L"sub"), Number(EISDIR));
+  EXPECT_EQ(Reason([&] { EXPECT_EQ(files.OpenForWriting(Path(L"no/a")), nullptr); }),
+            Number(ENOENT));
+  EXPECT_EQ(Reason([&] { EXPECT_EQ(files.OpenForWriting(Path(L"locked")), nullptr); }),
+            Number(EACCES));
+  EXPECT_EQ(Reason([&] { EXPECT_EQ(files.Remove(Path(L"locked")), Removal::Refused); }),
+            Number(EACCES));
+  EXPECT_EQ(Reason([&] { EXPECT_EQ(files.Remove(Path(L"sub")), Removal::Refused); }),
+            Number(EISDIR));
+  EXPECT_EQ(Reason([&] { EXPECT_FALSE(files.MakeDirectory(Path(L"locked/a"))); }), Number(ENOTDIR));
+}
+
+TEST_F(FailuresOfDiskFiles, WhatSucceedsAndWhatIsMissingAreNone) {
+  EXPECT_EQ(files.Remove(Path(L"gone")), Removal::Missing);
+  const auto writer = files.OpenForWriting(Path(L"a"));
+  ASSERT_NE(writer, nullptr);
+  EXPECT_TRUE(writer->Write("x") && writer->Close());
+  EXPECT_NE(files.OpenForReading(Path(L"a")), nullptr);
+  EXPECT_FALSE(files.Failure());
+}
+
+TEST_F(FailuresOfDiskFiles, TheFirstOneIsKeptUntilItIsForgotten) {
+  EXPECT_EQ(files.OpenForReading(Path(L"gone")), nullptr);
+  fs::create_directory(directory.Path() / "sub");
+  EXPECT_EQ(files.Remove(Path(L"sub")), Removal::Refused);
+  EXPECT_EQ(files.Failure(), Number(ENOENT));
+  files.ForgetFailure();
+  EXPECT_FALSE(files.Failure());
+}
+
 TEST_F(DiskFiles, AFullDiskFailsTheWriteOrTheClose) {
   for (const std::size_t size : {std::size_t{1}, std::size_t{1000000}}) {
+    files.ForgetFailure();
     const auto writer = files.OpenForWriting(L"/dev/full");
     ASSERT_NE(writer, nullptr);
     const bool written = writer->Write(std::string(size, 'x'));
     const bool closed = writer->Close();
     EXPECT_FALSE(written && closed) << size;
+    EXPECT_EQ(files.Failure(), std::errc::no_space_on_device) << size;
   }
 }
 
@@ -304,8 +362,10 @@ TEST_F(DiskFiles, AnErrorWhileReadingIsTold) {
   const auto reader = files.OpenForReading(L"/proc/self/mem");
   ASSERT_NE(reader, nullptr);
   char byte = 'x';
+  files.ForgetFailure();
   EXPECT_EQ(reader->Read(&byte, 1), -1);
   EXPECT_EQ(reader->Read(&byte, 1), -1);
+  EXPECT_EQ(files.Failure(), std::errc::io_error);
 }
 #endif
 
