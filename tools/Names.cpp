@@ -28,6 +28,21 @@ bool IsControl(wchar_t character) {
   return character < 0x20 || (character >= 0x7F && character < 0xA0);
 }
 
+bool IsSpace(wchar_t character) {
+  const auto category = utf8proc_category(static_cast<utf8proc_int32_t>(character));
+  return category == UTF8PROC_CATEGORY_ZS || category == UTF8PROC_CATEGORY_ZL ||
+         category == UTF8PROC_CATEGORY_ZP;
+}
+
+/// Whether nothing is to be seen of a character that is no space: zero-width ones, marks of
+/// direction, soft hyphens, fillers, selectors of variants.
+bool IsUnseen(wchar_t character) {
+  // Separators of lines, the blank of Braille and the marks of annotations aren't in the property.
+  constexpr std::wstring_view others = L"\u2028\u2029\u2800\uFFF9\uFFFA\uFFFB";
+  return utf8proc_get_property(static_cast<utf8proc_int32_t>(character))->ignorable != 0 ||
+         others.find(character) != std::wstring_view::npos;
+}
+
 wchar_t Lowered(wchar_t character) {
   return static_cast<wchar_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(character)));
 }
@@ -40,8 +55,10 @@ wchar_t Uppered(wchar_t character) {
 
 bool IsValidId(const wchar_t* text, bool asFileName) {
   const std::wstring_view name(text ? text : L"");
-  return !name.empty() && name.find_first_of(L".?=/<>:|*") == std::wstring_view::npos &&
+  return !name.empty() && !IsSpace(name.front()) && !IsSpace(name.back()) &&
+         name.find_first_of(L".?=/<>:|*") == std::wstring_view::npos &&
          std::none_of(name.begin(), name.end(), IsControl) && qv::IsXmlText(name) &&
+         std::none_of(name.begin(), name.end(), IsUnseen) &&
          (!asFileName || CanStandInFileName(name));
 }
 

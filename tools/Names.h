@@ -5,7 +5,8 @@
 
 #include "tools/Export.h"
 
-/// Whether `text` may be used as a name. Refused are a null or empty text, control characters and
+/// Whether `text` may be used as a name. Refused are a null or empty text, white space at either
+/// end, characters that can't be seen (zero-width, marks of direction), control characters and
 /// whatever else XML can't carry, and `.` `?` `=` `/` `<` `>` `:` `|` `*`, which separate names in
 /// file names and paths. With `asFileName` also a name too long for the file `<id>.<name>.xdctI`,
 /// and the characters that this platform's file names can't hold (`"` and `\` on Windows).

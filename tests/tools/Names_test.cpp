@@ -21,8 +21,8 @@ std::wstring Repeated(std::wstring_view text, int times) {
 
 TEST(IsValidId, AcceptsNames) {
   for (const wchar_t* name :
-       {L"a", L"Working day", L" ", L" a ", L"Tarifa 2,0 (a) [b] {c} #1 & $5 @%+-_~!^`;'",
-        L"se\u00F1al", L"\u20AC", L"\u4E2D\u6587", L"\U0001F600", L"CON", L"\u00A0", L"\uFFFD"}) {
+       {L"a", L"Working day", L"a\u00A0b", L"Tarifa 2,0 (a) [b] {c} #1 & $5 @%+-_~!^`;'",
+        L"se\u00F1al", L"\u20AC", L"\u4E2D\u6587", L"\U0001F600", L"CON", L"\uFFFD"}) {
     EXPECT_TRUE(IsValidId(name, true)) << std::wstring(name);
     EXPECT_TRUE(IsValidId(name, false)) << std::wstring(name);
   }
@@ -47,6 +47,30 @@ TEST(IsValidId, RefusesCharactersThatPartNamesOrXmlCannotCarry) {
     for (const auto& name : {std::wstring(1, character), std::wstring{L'a', character, L'b'}}) {
       EXPECT_FALSE(IsValidId(name.c_str(), true)) << static_cast<unsigned>(character);
       EXPECT_FALSE(IsValidId(name.c_str(), false)) << static_cast<unsigned>(character);
+    }
+  }
+}
+
+TEST(IsValidId, RefusesWhiteSpaceAtEitherEnd) {
+  for (const wchar_t space : {L' ', L'\u00A0', L'\u2003', L'\u3000'}) {
+    const std::wstring text(1, space);
+    for (const auto& name : {text, text + text, text + L"a", L"a" + text}) {
+      EXPECT_FALSE(IsValidId(name.c_str(), true)) << static_cast<unsigned>(space);
+      EXPECT_FALSE(IsValidId(name.c_str(), false)) << static_cast<unsigned>(space);
+    }
+    EXPECT_TRUE(IsValidId((L"a" + text + L"b").c_str(), true)) << static_cast<unsigned>(space);
+  }
+}
+
+TEST(IsValidId, RefusesCharactersThatCannotBeSeen) {
+  for (const wchar_t character :
+       {L'\u00AD', L'\u034F', L'\u061C', L'\u115F',     L'\u17B4',    L'\u180E', L'\u200B',
+        L'\u200C', L'\u200D', L'\u200E', L'\u200F',     L'\u2028',    L'\u2029', L'\u202A',
+        L'\u202E', L'\u2060', L'\u2066', L'\u2069',     L'\u2800',    L'\u3164', L'\uFE0F',
+        L'\uFEFF', L'\uFFA0', L'\uFFF9', L'\U000E0001', L'\U000E0100'}) {
+    for (const auto& name : {std::wstring(1, character), std::wstring{L'a', character},
+                             std::wstring{L'a', character, L'b'}}) {
+      EXPECT_FALSE(IsValidId(name.c_str(), true)) << static_cast<unsigned>(character);
     }
   }
 }
