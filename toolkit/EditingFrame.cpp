@@ -12,7 +12,7 @@ std::optional<int> EditingFrame::OnCreate() {
   if (const auto refused = CDialog::OnCreate()) {
     return refused;
   }
-  m_boxes = std::make_unique<MessageBoxes>(this, Services().loadString);
+  m_boxes = std::make_unique<MessageBoxes>(this, Services());
   return std::nullopt;
 }
 

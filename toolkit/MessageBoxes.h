@@ -1,20 +1,22 @@
 #pragma once
 
+#include <QIcon>
 #include <QPointer>
 #include <QWidget>
 
+#include "host/Host.h"
 #include "host/Prompter.h"
-#include "host/QVLoadString.h"
 
 class QMessageBox;
 
 namespace qv {
 
 /// Speaks to the user by modal boxes over a window. A box carries the number of its text in the
-/// dynamic property "textNumber".
+/// dynamic property "textNumber". A window that
+/// doesn't show yet lends its title, and the box stands over the nearest of its owners that does.
 class MessageBoxes : public Prompter {
  public:
-  MessageBoxes(QWidget* window, const QVLoadString& loadString);
+  MessageBoxes(QWidget* window, const Host& host);
 
   void Show(Text text, const Arguments& arguments = {}) override;
   /// Anything but Yes counts as No, closing the box included.
@@ -23,11 +25,13 @@ class MessageBoxes : public Prompter {
 
  private:
   QString Worded(Text text, const Arguments& arguments) const;
-  void Prepare(QMessageBox& box, const QString& text) const;
-  void Rename(QMessageBox& box, int button, Text caption) const;
+  QWidget* VisibleWindow() const;
+  void Prepare(QMessageBox& box, const QString& text, const wchar_t* picture) const;
+  void Dress(QMessageBox& box, int button, Text caption, const wchar_t* picture) const;
+  QIcon Picture(const wchar_t* fileName) const;
 
   QPointer<QWidget> m_window;
-  const QVLoadString& m_loadString;
+  Host m_host;
 };
 
 }  // namespace qv

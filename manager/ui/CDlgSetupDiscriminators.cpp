@@ -75,7 +75,7 @@ std::optional<int> CDlgSetupDiscriminators::OnCreate() {
   if (const auto refused = CDialog::OnCreate()) {
     return refused;
   }
-  m_boxes = std::make_unique<qv::MessageBoxes>(this, Services().loadString);
+  m_boxes = std::make_unique<qv::MessageBoxes>(this, Services());
   m_view = std::make_unique<View>(*this);
   m_list = std::make_unique<qv::DiscriminatorList>(Services(), qv::Files::Disk(), *m_boxes, *m_view,
                                                    m_deviceGroups);

@@ -8,6 +8,7 @@
 
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/TemporaryDirectory.h"
 #include "toolkit/Texts.h"
 
 namespace qv {
@@ -36,9 +37,11 @@ class MessageBoxesTest : public testing::Test {
     Drive([&] { return boxes.Show(text, arguments), 0; }, script);
   }
 
+  FakeHost host;
   Wordings texts;
   QWidget window;
-  MessageBoxes boxes{&window, texts};
+  MessageBoxes boxes{
+      &window, {host.setup, host.mainCfg, host.guids, texts, host.createIndex, host.clipboard}};
 };
 
 TEST_F(MessageBoxesTest, ABoxShowsItsTextAndCarriesItsNumber) {
@@ -115,6 +118,78 @@ TEST_F(MessageBoxesTest, TheTitleIsThatOfTheWindow) {
   window.setWindowTitle(QStringLiteral("Manager"));
   ShowAnd(Text::DiscriminatorNameMissing, {}, [] {
     EXPECT_EQ(Box()->windowTitle(), "Manager");
+    Box()->close();
+  });
+}
+
+TEST_F(MessageBoxesTest, BeforeItsWindowShowsABoxStandsOverTheOwnerThatDoes) {
+  window.setWindowTitle(QStringLiteral("Manager"));
+  QDialog middle(&window);
+  QDialog dialog(&middle);
+  dialog.setWindowTitle(QStringLiteral("Editor"));
+  MessageBoxes early(&dialog, host.Services());
+  const auto parentOfBox = [&early] {
+    const QWidget* parent = nullptr;
+    Drive([&] { return early.Show(Text::DiscriminatorNameMissing), 0; },
+          [&] {
+            parent = Box()->parentWidget();
+            EXPECT_EQ(Box()->windowTitle(), "Editor");
+            Box()->close();
+          });
+    return parent;
+  };
+  EXPECT_EQ(parentOfBox(), nullptr) << "none of them shows";
+  window.show();
+  EXPECT_EQ(parentOfBox(), &window);
+  dialog.show();
+  EXPECT_EQ(parentOfBox(), &dialog);
+}
+
+/// Boxes of a host that has pictures.
+class PicturesOfBoxes : public MessageBoxesTest {
+ protected:
+  void SetUp() override {
+    for (const char* name : {"WARNING-32", "QUESTION-32", "OK-16", "CANCEL-16"}) {
+      const int size = QByteArray(name).endsWith("32") ? 32 : 16;
+      SavePicture(name, size, Qt::red);
+      SavePicture(QByteArray(name) + "@2x", 2 * size, Qt::blue);
+    }
+    host.setup.imagePath = QVWideString(directory.WidePath());
+  }
+
+  void SavePicture(const QByteArray& name, int size, Qt::GlobalColor colour) const {
+    QImage image(size, size, QImage::Format_RGB32);
+    image.fill(colour);
+    const auto path = directory.Path() / (name.toStdString() + ".png");
+    EXPECT_TRUE(image.save(QString::fromStdString(path.string())));
+  }
+
+  static QColor ColourOf(const QPixmap& pixmap) { return pixmap.toImage().pixelColor(5, 5); }
+
+  TemporaryDirectory directory;
+};
+
+TEST_F(PicturesOfBoxes, AreTheHosts) {
+  AskAnd([] {
+    EXPECT_EQ(ColourOf(Box()->iconPixmap()), QColor(Qt::red));
+    EXPECT_EQ(Box()->iconPixmap().deviceIndependentSize(), QSizeF(32, 32));
+    for (const auto button : {QMessageBox::Yes, QMessageBox::No}) {
+      EXPECT_EQ(ColourOf(Box()->button(button)->icon().pixmap(QSize(16, 16), 1)), QColor(Qt::red));
+      EXPECT_EQ(ColourOf(Box()->button(button)->icon().pixmap(QSize(16, 16), 2)), QColor(Qt::blue));
+    }
+    Box()->close();
+  });
+  ShowAnd(Text::DiscriminatorNameMissing, {}, [] {
+    EXPECT_EQ(ColourOf(Box()->iconPixmap()), QColor(Qt::red));
+    EXPECT_FALSE(Box()->button(QMessageBox::Ok)->icon().isNull());
+    Box()->close();
+  });
+}
+
+TEST_F(MessageBoxesTest, WithoutPicturesOfTheHostBoxesHaveThoseOfTheStyle) {
+  AskAnd([] {
+    EXPECT_EQ(Box()->icon(), QMessageBox::Question);
+    EXPECT_FALSE(Box()->iconPixmap().isNull());
     Box()->close();
   });
 }
