@@ -89,7 +89,7 @@ SaveEnd DiscriminatorForm::Save(const DiscriminatorFields& typed) {
     AddDiscriminatorToDeviceGroupsNode(m_services.deviceGroups, Root());
   }
   if (!written) {
-    return {SaveOutcome::NotWritten, Refused(Text::DiscriminatorNotSaved)};
+    return {SaveOutcome::NotWritten, Refused(Text::DiscriminatorNotSaved, AboutNewFile())};
   }
   // The index service is asked by the name alone, without the id.
   host.createIndex(host.setup.CfgPath(), Root().Value(tag::Name) + discriminatorExtension);
@@ -140,7 +140,15 @@ void DiscriminatorForm::RemoveOldFiles() {
   m_services.files.Remove(IndexPath(m_filePath).ToView());
 }
 
-bool DiscriminatorForm::WriteFile() { return Directory().Save(*m_document); }
+bool DiscriminatorForm::WriteFile() {
+  m_services.files.ForgetFailure();
+  return Directory().Save(*m_document);
+}
+
+Addition DiscriminatorForm::AboutNewFile() const {
+  const QVWideString stem = FileStem(Root().Value(tag::Id), Root().Value(tag::Name));
+  return AboutFile(Directory().PathOfStem(stem).ToView(), m_services.files.Failure());
+}
 
 DiscriminatorDirectory DiscriminatorForm::Directory() const {
   return {m_services.host.setup.CfgPath(), m_services.files};

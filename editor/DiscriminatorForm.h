@@ -94,6 +94,7 @@ class DiscriminatorForm {
   void TakeOver(const wchar_t* tag, const QVWideString& value);
   void RemoveOldFiles();
   bool WriteFile();
+  Addition AboutNewFile() const;
   DiscriminatorDirectory Directory() const;
 
   EditorServices m_services;

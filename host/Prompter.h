@@ -3,6 +3,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/Addition.h"
 #include "host/Export.h"
 #include "host/Text.h"
 #include "tools/Format.h"
@@ -18,10 +19,10 @@ class QVHOST_EXPORT Prompter {
 
   virtual ~Prompter() = default;
 
-  /// Shows the text, with its placeholders filled in.
-  virtual void Show(Text text, const Arguments& arguments = {}) = 0;
-  /// Asks the text as a question; true for Yes.
-  virtual bool Ask(Text text, const Arguments& arguments = {}) = 0;
+  /// Shows the text, with its placeholders filled in, and below it what there is to add.
+  virtual void Show(Text text, const Arguments& arguments = {}, const Addition& addition = {}) = 0;
+  /// Asks the text as a question, likewise; true for Yes.
+  virtual bool Ask(Text text, const Arguments& arguments = {}, const Addition& addition = {}) = 0;
   /// Shows a text that has no number, as it stands.
   virtual void ShowText(std::wstring_view text) = 0;
 };

@@ -5,7 +5,7 @@ namespace qv {
 void Tell(Prompter& prompter, const Refusal& refusal) {
   if (refusal.text) {
     const std::vector<FormatArgument> arguments(refusal.arguments.begin(), refusal.arguments.end());
-    prompter.Show(*refusal.text, arguments);
+    prompter.Show(*refusal.text, arguments, refusal.addition);
   } else {
     prompter.ShowText(refusal.words);
   }

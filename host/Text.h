@@ -144,6 +144,14 @@ enum class Text : unsigned {
   OneVariableAtMost = 32336,  ///< message: more than the one variable allowed
   VariablesAtMost = 197,      ///< message: more than the %d variables allowed
 
+  // What messages and questions say more, below their texts
+  DiscriminatorToRemove = 60030,  ///< one of those that the question is about: its name %s
+  AndMore = 60031,                ///< after a list that was cut: how many more there are, %d
+  FailedFile = 60032,             ///< the file that could not be had: its path %s
+  FailureReason = 60033,          ///< why not, in the words of the system: %s
+  SlotTold = 60037,               ///< a slot that is at fault: %s from %s to %s
+  GapTold = 60038,                ///< minutes that no slot covers: from %s to %s
+
   // Message boxes
   MessageYes = 60001,  ///< button Yes of a question
   MessageNo = 60002,   ///< button No of a question

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 #include "discriminator/DeviceLinks.h"
 #include "discriminator/Fields.h"
@@ -114,14 +115,17 @@ RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows) {
   if (selectedRows.empty()) {
     return {RemovalOutcome::NothingSelected};
   }
-  if (!m_prompter.Ask(Text::RemoveDiscriminatorsQuestion)) {
+  if (!AskToRemove(selectedRows)) {
     return {RemovalOutcome::Declined};
   }
   int last = 0;
   for (std::size_t removed = 0; removed < selectedRows.size(); ++removed) {
     last = selectedRows[removed] - static_cast<int>(removed);
     if (!RemoveRow(last)) {
-      return {RemovalOutcome::Stopped, {}, Refused(Text::DiscriminatorFileNotDeleted)};
+      return {RemovalOutcome::Stopped,
+              {},
+              Refused(Text::DiscriminatorFileNotDeleted,
+                      AboutFile(PathOf(last).ToView(), m_files.Failure()))};
     }
     m_view.RemoveRow(last);
     m_host.guids.invalidateGuid(QVVornelGuids::Discriminators, true);
@@ -130,8 +134,18 @@ RemovalEnd DiscriminatorList::OnRemove(const std::vector<int>& selectedRows) {
   return {RemovalOutcome::Done, NearestRow(last, m_rows.size())};
 }
 
+bool DiscriminatorList::AskToRemove(const std::vector<int>& rows) const {
+  Addition names;
+  for (const int row : rows) {
+    const auto& name = m_rows.at(static_cast<std::size_t>(row)).shown.name;
+    names.push_back({Text::DiscriminatorToRemove, {std::wstring(name.ToView())}});
+  }
+  return m_prompter.Ask(Text::RemoveDiscriminatorsQuestion, {}, Shortened(std::move(names)));
+}
+
 bool DiscriminatorList::RemoveRow(int row) {
   const QVWideString path = PathOf(row);
+  m_files.ForgetFailure();
   if (m_files.Remove(path.ToView()) == Removal::Refused) {
     return false;
   }

@@ -71,10 +71,10 @@ class DiscriminatorList {
   /// editor ended; without a row, as if it had been cancelled.
   EditorEnd OnModify(const std::vector<int>& selectedRows, const RunEditor& runEditor);
 
-  /// Asks, and removes the discriminators of the selected rows (in ascending order): files, index
-  /// files, entries in the device groups, rows, with two notices for each; the row goes from the
-  /// view between them. It stops at the first file that can't be deleted, and leaves that row and
-  /// those after it.
+  /// Asks, naming some of them, and removes the discriminators of the selected rows (in ascending
+  /// order): files, index files, entries in the device groups, rows, with two notices for each; the
+  /// row goes from the view between them. It stops at the first file that can't be deleted, and
+  /// leaves that row and those after it.
   RemovalEnd OnRemove(const std::vector<int>& selectedRows);
 
   /// Takes a new discriminator, whose document has this root, into the host's configuration: an
@@ -92,6 +92,7 @@ class DiscriminatorList {
   bool Read(Progress& progress);
   void EnsureDeviceGroups();
   std::unique_ptr<XmlDocument> CopyOfDeviceGroups() const;
+  bool AskToRemove(const std::vector<int>& rows) const;
   bool RemoveRow(int row);
   DiscriminatorDirectory Directory() const;
 

@@ -45,6 +45,8 @@ class DaySlots {
   [[nodiscard]] std::optional<SlotFault> FirstFault() const;
   /// Whether rows without a fault leave no minute of the day free.
   [[nodiscard]] bool IsCovered() const;
+  /// The minutes that they leave free.
+  std::vector<MinuteRange> Gaps() const { return GapsOfSlots(Ranges()); }
 
  private:
   std::vector<SlotRange> Ranges() const;

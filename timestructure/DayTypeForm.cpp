@@ -1,5 +1,8 @@
 #include "timestructure/DayTypeForm.h"
 
+#include <utility>
+
+#include "discriminator/DayMinutes.h"
 #include "discriminator/EditedCopies.h"
 #include "discriminator/Fields.h"
 #include "discriminator/NewChildNode.h"
@@ -10,6 +13,24 @@ namespace {
 
 constexpr TypeIdentity::Messages messages{Text::DayTypeNameMissing, Text::DayTypeNameForbidden};
 constexpr wchar_t midnight[] = L"00:00";
+
+AddedLine Told(const SlotRow& row) {
+  return {Text::SlotTold,
+          {std::wstring(row.hourType.ToView()), std::wstring(row.from.ToView()),
+           std::wstring(row.to.ToView())}};
+}
+
+std::wstring TimeOfMinute(int minute) {
+  return std::wstring(TimeText({minute / minutesOfHour, minute % minutesOfHour}).ToView());
+}
+
+Addition Told(const std::vector<MinuteRange>& gaps) {
+  Addition lines;
+  for (const MinuteRange& gap : gaps) {
+    lines.push_back({Text::GapTold, {TimeOfMinute(gap.from), TimeOfMinute(gap.to)}});
+  }
+  return Shortened(std::move(lines));
+}
 
 }  // namespace
 
@@ -22,7 +43,16 @@ DayTypeForm::DayTypeForm(XmlNode& day, DayTypes dayTypes, HourTypes hourTypes, P
 
 std::optional<Refusal> DayTypeForm::FaultOfSlots() const {
   const auto fault = m_slots.FirstFault();
-  return fault ? std::optional(Refused(fault->text)) : std::nullopt;
+  if (!fault) {
+    return std::nullopt;
+  }
+  Refusal refusal = Refused(fault->text);
+  refusal.row = static_cast<int>(fault->slot);
+  if (fault->overlapped) {
+    refusal.addition.push_back(Told(Rows()[*fault->overlapped]));
+  }
+  refusal.addition.push_back(Told(Rows()[fault->slot]));
+  return refusal;
 }
 
 ListEnd DayTypeForm::OnAdd(const RunSlotEditor& runEditor) {
@@ -70,7 +100,8 @@ SaveEnd DayTypeForm::Save(const QVWideString& name) {
   if (auto fault = FaultOfSlots()) {
     return {SaveOutcome::Refused, std::move(fault)};
   }
-  if (!m_slots.IsCovered() && !m_prompter.Ask(Text::DayNotCoveredQuestion)) {
+  if (!m_slots.IsCovered() &&
+      !m_prompter.Ask(Text::DayNotCoveredQuestion, {}, Told(m_slots.Gaps()))) {
     return {SaveOutcome::Refused};
   }
   m_day.SetValue(tag::Name, name);

@@ -26,7 +26,8 @@ class DayTypeForm {
   void Fill() { m_slots.Fill(); }
   const std::vector<SlotRow>& Rows() const { return m_slots.Rows(); }
 
-  /// What is told of the slots as they stand, as when the editor opens: gaps are no fault.
+  /// What is told of the slots as they stand, as when the editor opens, with the slots that it is
+  /// about and the row of the one at fault: gaps are no fault.
   [[nodiscard]] std::optional<Refusal> FaultOfSlots() const;
 
   /// Runs the editor of a slot on a slot and on a copy of the hour types, which is taken over when

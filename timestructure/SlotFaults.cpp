@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "discriminator/DayMinutes.h"
-
 namespace qv {
 namespace {
 
@@ -55,6 +53,26 @@ int MinutesOfSlots(const std::vector<SlotRange>& slots) {
   return std::accumulate(slots.begin(), slots.end(), 0, [](int minutes, const SlotRange& slot) {
     return minutes + MinutesOf(slot).Length();
   });
+}
+
+std::vector<MinuteRange> GapsOfSlots(const std::vector<SlotRange>& slots) {
+  std::vector<MinuteRange> covered = {{minutesOfDay, minutesOfDay}};
+  for (const SlotRange& slot : slots) {
+    if (MinutesOf(slot).Length() > 0) {
+      covered.push_back(MinutesOf(slot));
+    }
+  }
+  std::sort(covered.begin(), covered.end(),
+            [](const MinuteRange& a, const MinuteRange& b) { return a.from < b.from; });
+  std::vector<MinuteRange> gaps;
+  int end = 0;
+  for (const MinuteRange& minutes : covered) {
+    if (minutes.from > end) {
+      gaps.push_back({end, minutes.from});
+    }
+    end = minutes.to;
+  }
+  return gaps;
 }
 
 }  // namespace qv

@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "discriminator/DayMinutes.h"
 #include "discriminator/ValueForms.h"
 #include "host/Text.h"
 
@@ -37,5 +38,8 @@ struct SlotFault {
 /// How many minutes the slots come to, which is all of the day's where none is wrong and none is
 /// missing.
 int MinutesOfSlots(const std::vector<SlotRange>& slots);
+
+/// The minutes of the day that no slot covers, from 00:00 on, for slots of which none is wrong.
+std::vector<MinuteRange> GapsOfSlots(const std::vector<SlotRange>& slots);
 
 }  // namespace qv

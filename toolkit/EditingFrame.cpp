@@ -30,6 +30,9 @@ void EditingFrame::OnDestroy() { m_boxes.reset(); }
 
 void EditingFrame::ShowRefusal(const Refusal& refusal) {
   Tell(*m_boxes, refusal);
+  if (refusal.row) {
+    MakeRowCurrent(*refusal.row);
+  }
   QWidget* control = refusal.field ? ControlOf(*refusal.field) : nullptr;
   if (!control) {
     return;

@@ -33,6 +33,9 @@ class EditingFrame : public CDialog {
   void OnOK() override;
   void OnDestroy() override;
 
+  /// Makes the row of the list that a refusal is about the current one, without selecting it.
+  virtual void MakeRowCurrent(int /*row*/) {}
+
   /// Tells the user of a refusal, and gives the focus to the control that it is about, if any.
   void ShowRefusal(const Refusal& refusal);
   MessageBoxes& Boxes() { return *m_boxes; }

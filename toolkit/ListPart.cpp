@@ -91,6 +91,12 @@ void ListPart::Select(int row) {
                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
+void ListPart::MakeCurrent(int row) {
+  QTreeWidgetItem* item = m_controls.view->topLevelItem(row);
+  m_controls.view->setCurrentItem(item, 0, QItemSelectionModel::NoUpdate);
+  m_controls.view->scrollToItem(item);
+}
+
 std::optional<int> ListPart::SelectedRow() const {
   const auto rows = SelectedRows();
   return rows.empty() ? std::nullopt : std::optional(rows.front());

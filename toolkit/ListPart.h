@@ -59,6 +59,8 @@ class ListPart : public QObject {
   /// Takes a row away. The buttons follow with the next selection, or `EnableDisableButtons`.
   void RemoveRow(int row);
   void Select(int row);
+  /// Makes a row the current one, to be seen, and leaves the selection as it is.
+  void MakeCurrent(int row);
   void Clear() { m_controls.view->clear(); }
 
   /// The numbers of the selected rows, from the top.

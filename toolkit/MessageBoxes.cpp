@@ -1,6 +1,7 @@
 #include "toolkit/MessageBoxes.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QMessageBox>
 #include <QStyle>
 
@@ -20,20 +21,22 @@ constexpr wchar_t questionPicture[] = L"QUESTION-32.png";
 
 MessageBoxes::MessageBoxes(QWidget* window, const Host& host) : m_window(window), m_host(host) {}
 
-void MessageBoxes::Show(Text text, const Arguments& arguments) {
+void MessageBoxes::Show(Text text, const Arguments& arguments, const Addition& addition) {
   QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, VisibleWindow());
   box.setProperty(textNumberProperty, Number(text));
   Prepare(box, Worded(text, arguments), warningPicture);
+  Add(box, addition);
   box.exec();
 }
 
-bool MessageBoxes::Ask(Text text, const Arguments& arguments) {
+bool MessageBoxes::Ask(Text text, const Arguments& arguments, const Addition& addition) {
   QMessageBox box(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No,
                   VisibleWindow());
   box.setProperty(textNumberProperty, Number(text));
   box.setDefaultButton(QMessageBox::Yes);
   box.setEscapeButton(QMessageBox::No);
   Prepare(box, Worded(text, arguments), questionPicture);
+  Add(box, addition);
   return box.exec() == QMessageBox::Yes;
 }
 
@@ -68,6 +71,15 @@ void MessageBoxes::Prepare(QMessageBox& box, const QString& text, const wchar_t*
   Dress(box, QMessageBox::Ok, Text::MessageOk, L"OK-16.png");
   Dress(box, QMessageBox::Yes, Text::MessageYes, L"OK-16.png");
   Dress(box, QMessageBox::No, Text::MessageNo, L"CANCEL-16.png");
+}
+
+void MessageBoxes::Add(QMessageBox& box, const Addition& addition) const {
+  box.setInformativeText(ToQString(InWords(addition, m_host.loadString)));
+  // The box gives its own format to the text alone, and would take names with tags for rich text.
+  const auto labels = box.findChildren<QLabel*>();
+  for (QLabel* label : labels) {
+    label->setTextFormat(Qt::PlainText);
+  }
 }
 
 void MessageBoxes::Dress(QMessageBox& box, int button, Text caption, const wchar_t* picture) const {

@@ -15,20 +15,21 @@ UserPrompter::UserPrompter(const Terminal& terminal, const QVLoadString& texts,
                            std::optional<bool> answer, Outcome& outcome)
     : m_terminal(terminal), m_texts(texts), m_answer(answer), m_outcome(outcome) {}
 
-void UserPrompter::Show(Text text, const Arguments& arguments) {
-  Tell(Number(text), Worded(text, arguments));
+void UserPrompter::Show(Text text, const Arguments& arguments, const qv::Addition& addition) {
+  const std::wstring message = Worded(text, arguments);
+  m_outcome.texts.push_back({Number(text), message, false, std::nullopt});
+  m_terminal.err << Utf8(WithAddition(message, addition)) << '\n';
 }
 
-void UserPrompter::ShowText(std::wstring_view text) { Tell(0, std::wstring(text)); }
-
-void UserPrompter::Tell(unsigned number, const std::wstring& text) {
-  m_outcome.texts.push_back({number, text, false, std::nullopt});
+void UserPrompter::ShowText(std::wstring_view text) {
+  m_outcome.texts.push_back({0, std::wstring(text), false, std::nullopt});
   m_terminal.err << Utf8(text) << '\n';
 }
 
-bool UserPrompter::Ask(Text text, const Arguments& arguments) {
+bool UserPrompter::Ask(Text text, const Arguments& arguments, const qv::Addition& addition) {
   const std::wstring question = Worded(text, arguments);
-  m_terminal.err << Utf8(question) << ' ';
+  const std::wstring asked = WithAddition(question, addition);
+  m_terminal.err << Utf8(asked) << (asked == question ? ' ' : '\n');
   const auto answer = AnswerTo(question);
   m_outcome.texts.push_back({Number(text), question, true, answer});
   if (!answer) {
@@ -58,6 +59,12 @@ std::optional<bool> UserPrompter::AnswerTo(const std::wstring& question) const {
     }
   }
   return false;
+}
+
+std::wstring UserPrompter::WithAddition(const std::wstring& text,
+                                        const qv::Addition& addition) const {
+  const std::wstring words = qv::InWords(addition, m_texts);
+  return words.empty() ? text : text + L'\n' + words;
 }
 
 std::wstring UserPrompter::Worded(Text text, const Arguments& arguments) const {

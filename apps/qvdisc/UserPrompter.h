@@ -9,7 +9,8 @@
 
 namespace qvdisc {
 
-/// Tells and asks on standard error, and keeps what was said.
+/// Tells and asks on standard error, what there is to add on lines of its own below, and keeps what
+/// was said.
 ///
 /// A question takes the answer of the call; without one a user at a terminal is asked, and where
 /// there is none the answer is No and the call fails.
@@ -19,13 +20,13 @@ class UserPrompter : public qv::Prompter {
   UserPrompter(const Terminal& terminal, const QVLoadString& texts, std::optional<bool> answer,
                Outcome& outcome);
 
-  void Show(Text text, const Arguments& arguments = {}) override;
-  bool Ask(Text text, const Arguments& arguments = {}) override;
+  void Show(Text text, const Arguments& arguments = {}, const qv::Addition& addition = {}) override;
+  bool Ask(Text text, const Arguments& arguments = {}, const qv::Addition& addition = {}) override;
   void ShowText(std::wstring_view text) override;
 
  private:
   std::wstring Worded(Text text, const Arguments& arguments) const;
-  void Tell(unsigned number, const std::wstring& text);
+  std::wstring WithAddition(const std::wstring& text, const qv::Addition& addition) const;
   std::optional<bool> AnswerTo(const std::wstring& question) const;
 
   const Terminal& m_terminal;

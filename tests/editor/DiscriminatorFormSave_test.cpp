@@ -1,5 +1,6 @@
 #include "editor/DiscriminatorForm.h"
 
+#include <cerrno>
 #include <functional>
 
 #include "tests/editor/FormFixture.h"
@@ -236,6 +237,21 @@ TEST_F(FormTest, AFullDiskAtAnyByteIsToldAndLeavesNoFile) {
     EXPECT_EQ(form->Root().Value(L"name"), L"new");
   }
   EXPECT_EQ(host.createIndex.calls.size(), 1U) << "no index after a failed save";
+}
+
+TEST_F(FormTest, AFailedSaveTellsTheFileAndTheReason) {
+  const auto reason = [this](DiscriminatorForm& form) {
+    const SaveEnd end = form.Save(Named(L"new", L"d"));
+    EXPECT_EQ(end.outcome, SaveOutcome::NotWritten);
+    return end.refusal ? end.refusal->addition : Addition();
+  };
+  const std::wstring path = L"/cfg/1.new.xdct";
+  auto form = OpenContent(wholeFile);
+  files.writeProtected = {L"/cfg/1.old.xdct"};  // an earlier failure, which nobody is told of
+  files.diskSpace = 7;
+  EXPECT_EQ(reason(*form), AboutFile(path, {ENOSPC, std::generic_category()}));
+  files.unwritable = {path};
+  EXPECT_EQ(reason(*form), AboutFile(path, {EACCES, std::generic_category()}));
 }
 
 TEST_F(FormTest, AFailedSaveMayBeTriedAgainWithAnotherRevision) {

@@ -23,8 +23,8 @@ using qv::XmlNode;
 /// A user who confirms whatever is said.
 class Silent : public qv::Prompter {
  public:
-  void Show(Text, const Arguments&) override {}
-  bool Ask(Text, const Arguments&) override { return true; }
+  void Show(Text, const Arguments&, const qv::Addition&) override {}
+  bool Ask(Text, const Arguments&, const qv::Addition&) override { return true; }
   void ShowText(std::wstring_view) override {}
 };
 

@@ -21,6 +21,14 @@ TEST(Refusal, WithoutATextIsToldByItsWords) {
   Tell(prompter, {.text = {}, .words = L"division by zero"});
 }
 
+TEST(Refusal, IsToldWithWhatIsAddedToIt) {
+  const Addition addition = {{Text::FailedFile, {L"/a"}}};
+  ScriptedPrompter prompter({{Text::DiscriminatorNotSaved}});
+  Tell(prompter, Refused(Text::DiscriminatorNotSaved, addition));
+  ASSERT_EQ(prompter.Heard().size(), 1U);
+  EXPECT_EQ(prompter.Heard()[0].addition, addition);
+}
+
 TEST(SaveEnd, IsDoneIfItWasSavedOrThereWasNothingToSave) {
   EXPECT_TRUE((SaveEnd{SaveOutcome::Saved, {}}).IsDone());
   EXPECT_TRUE((SaveEnd{SaveOutcome::Unchanged, {}}).IsDone());

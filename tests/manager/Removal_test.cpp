@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 #include "discriminator/DeviceLinks.h"
 #include "manager/DiscriminatorList.h"
 #include "tests/manager/QuietListView.h"
@@ -63,6 +65,12 @@ class RemovalTest : public testing::Test {
     return list.OnRemove(rows);
   }
 
+  /// What is told of a write-protected file.
+  static Refusal NotDeleted(const std::wstring& name) {
+    const std::error_code reason(EACCES, std::generic_category());
+    return Refused(Text::DiscriminatorFileNotDeleted, AboutFile(Path(name), reason));
+  }
+
   std::wstring Names() const {
     std::wstring names;
     for (const auto& row : list.Rows()) {
@@ -92,6 +100,27 @@ using Log = std::vector<std::wstring>;
 
 TEST_F(RemovalTest, WithoutARowNothingIsAsked) {
   EXPECT_EQ(list.OnRemove({}).outcome, RemovalOutcome::NothingSelected);
+}
+
+TEST_F(RemovalTest, TheQuestionNamesWhatGoes) {
+  EXPECT_EQ(Remove({1, 3}, false).outcome, RemovalOutcome::Declined);
+  EXPECT_EQ(prompter.Heard().back().addition,
+            (Addition{{Text::DiscriminatorToRemove, {L"beta"}},
+                      {Text::DiscriminatorToRemove, {L"gamma"}}}));
+}
+
+TEST_F(RemovalTest, OfManyTheQuestionNamesFiveAndHowManyMore) {
+  for (const wchar_t* name : {L"omega", L"phi", L"xi"}) {
+    const std::string narrow(name, name + std::wcslen(name));
+    files.contents[Path(name)] =
+        "<main><id>" + narrow.substr(0, 1) + "</id><name>" + narrow + "</name></main>";
+  }
+  list.Refresh();
+  EXPECT_EQ(Remove({0, 1, 2, 3, 4, 5, 6}, false).outcome, RemovalOutcome::Declined);
+  const Addition& addition = prompter.Heard().back().addition;
+  ASSERT_EQ(addition.size(), 6U);
+  EXPECT_EQ(addition[4], (AddedLine{Text::DiscriminatorToRemove, {L"omega"}}));
+  EXPECT_EQ(addition[5], (AddedLine{Text::AndMore, {L"2"}}));
 }
 
 TEST_F(RemovalTest, NoChangesNothing) {
@@ -150,7 +179,7 @@ TEST_F(RemovalTest, AFileThatCannotBeDeletedStopsTheRemoval) {
   prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
   const auto end = list.OnRemove({0, 1, 2});
   EXPECT_EQ(end.outcome, RemovalOutcome::Stopped);
-  EXPECT_EQ(end.refusal, Refused(Text::DiscriminatorFileNotDeleted));
+  EXPECT_EQ(end.refusal, NotDeleted(L"beta"));
   EXPECT_EQ(end.rowToSelect, std::nullopt);
   EXPECT_EQ(Names(), L"beta delta gamma ");
   EXPECT_TRUE(files.contents.contains(Path(L"beta") + L"I"));
@@ -162,7 +191,7 @@ TEST_F(RemovalTest, AFileThatCannotBeDeletedStopsTheRemoval) {
 TEST_F(RemovalTest, AFirstFileThatCannotBeDeletedChangesNothing) {
   files.writeProtected.insert(Path(L"alpha"));
   prompter.ExpectAsk(Text::RemoveDiscriminatorsQuestion, true);
-  EXPECT_EQ(list.OnRemove({0}).refusal, Refused(Text::DiscriminatorFileNotDeleted));
+  EXPECT_EQ(list.OnRemove({0}).refusal, NotDeleted(L"alpha"));
   EXPECT_TRUE(view.removed.empty());
   EXPECT_FALSE(list.Changed());
 }

@@ -52,12 +52,12 @@ void ScriptedPrompter::ExpectText(std::wstring words) {
   m_script.push_back({{std::nullopt, false, {}, std::move(words)}, false});
 }
 
-void ScriptedPrompter::Show(Text text, const Arguments& arguments) {
-  Hear({text, false, Shown(arguments), {}});
+void ScriptedPrompter::Show(Text text, const Arguments& arguments, const Addition& addition) {
+  Hear({text, false, Shown(arguments), {}, addition});
 }
 
-bool ScriptedPrompter::Ask(Text text, const Arguments& arguments) {
-  return Hear({text, true, Shown(arguments), {}});
+bool ScriptedPrompter::Ask(Text text, const Arguments& arguments, const Addition& addition) {
+  return Hear({text, true, Shown(arguments), {}, addition});
 }
 
 void ScriptedPrompter::ShowText(std::wstring_view words) {

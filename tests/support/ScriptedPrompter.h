@@ -26,6 +26,7 @@ class ScriptedPrompter : public Prompter {
     bool isQuestion = false;              ///< whether an answer was asked for
     std::vector<std::wstring> arguments;  ///< for the placeholders, as `%s` and `%d` show them
     std::wstring words;                   ///< of a text without number
+    Addition addition{};                  ///< what was said below the text
 
     friend bool operator==(const Said&, const Said&) = default;
   };
@@ -40,9 +41,9 @@ class ScriptedPrompter : public Prompter {
   void ExpectAsk(Text text, bool answer);
   void ExpectText(std::wstring words);
 
-  void Show(Text text, const Arguments& arguments = {}) override;
+  void Show(Text text, const Arguments& arguments = {}, const Addition& addition = {}) override;
   /// Answers as the script says, and No to what it doesn't expect.
-  bool Ask(Text text, const Arguments& arguments = {}) override;
+  bool Ask(Text text, const Arguments& arguments = {}, const Addition& addition = {}) override;
   void ShowText(std::wstring_view words) override;
 
   /// All that was said, expected or not, in order.
@@ -50,7 +51,7 @@ class ScriptedPrompter : public Prompter {
 
  private:
   struct Expected {
-    Said said;  ///< its arguments aren't compared
+    Said said;  ///< neither its arguments nor what is added are compared
     bool answer = false;
   };
 

@@ -228,6 +228,7 @@ TEST_F(DaySlotsTest, RandomDaysAreJudgedAsMinuteByMinute) {
     const auto fault = slots.FirstFault();
     ASSERT_EQ(fault ? std::optional(fault->text) : std::nullopt, expected.fault) << round;
     ASSERT_TRUE(fault || slots.IsCovered() == expected.covered) << round;
+    ASSERT_TRUE(fault || slots.Gaps().empty() == expected.covered) << round;
     ++seen[expected.fault ? (*expected.fault == Text::SlotsOverlap ? 0 : 1)
                           : (expected.covered ? 2 : 3)];
   }

@@ -112,7 +112,47 @@ TEST_F(DayTypeFormTest, ReportingAsksNothing) {
   EXPECT_EQ(form.FaultOfSlots(), std::nullopt);
   Day(L"work").Node(L"slot")->SetValue(L"to", L"11:00");
   form.Fill();
-  EXPECT_EQ(form.FaultOfSlots(), Refused(Text::SlotStartAfterEnd));
+  const auto fault = form.FaultOfSlots();
+  ASSERT_TRUE(fault);
+  EXPECT_EQ(fault->text, Text::SlotStartAfterEnd);
+  EXPECT_EQ(fault->addition, (Addition{{Text::SlotTold, {L"Peak", L"12:00", L"11:00"}}}));
+  EXPECT_EQ(fault->row, 0);
+  EXPECT_EQ(fault->field, std::nullopt);
+}
+
+TEST_F(DayTypeFormTest, AnOverlapTellsBothSlotsAndIsAboutTheLaterRow) {
+  hours->NewChild(L"hour", nullptr)->SetValue(L"id", L"v");
+  hours->NodeV(L"hour?id=%s?", L"v")->SetValue(L"name", L"Valley");
+  XmlNode& later = **std::prev(Day(L"work").ChildsEnd());
+  later.SetValue(L"id", L"v");
+  later.SetValue(L"from", L"11:59");
+  form.Fill();
+  const SaveEnd end = form.Save(L"work");
+  ASSERT_TRUE(end.refusal);
+  EXPECT_EQ(end.refusal->text, Text::SlotsOverlap);
+  EXPECT_EQ(end.refusal->addition, (Addition{{Text::SlotTold, {L"Peak", L"00:00", L"12:00"}},
+                                             {Text::SlotTold, {L"Valley", L"11:59", L"24:00"}}}));
+  EXPECT_EQ(end.refusal->row, 1);
+}
+
+TEST_F(DayTypeFormTest, TheQuestionTellsTheFirstFiveGaps) {
+  XmlNode& feast = Day(L"feast");
+  for (const wchar_t* hour : {L"01", L"03", L"05", L"07", L"09"}) {
+    XmlNode* slot = feast.NewChild(L"slot", nullptr);
+    slot->SetValue(L"id", L"h");
+    slot->SetValue(L"from", QVWideString(hour) + L":00");
+    slot->SetValue(L"to", QVWideString(hour) + L":30");
+  }
+  DayTypeForm other(feast, DayTypes(*days), HourTypes(*hours), prompter);
+  other.Fill();
+  prompter.ExpectAsk(Text::DayNotCoveredQuestion, true);
+  EXPECT_TRUE(Told(prompter, other.Save(L"feast")));
+  EXPECT_EQ(prompter.Heard().back().addition, (Addition{{Text::GapTold, {L"00:00", L"01:00"}},
+                                                        {Text::GapTold, {L"01:30", L"03:00"}},
+                                                        {Text::GapTold, {L"03:30", L"05:00"}},
+                                                        {Text::GapTold, {L"05:30", L"07:00"}},
+                                                        {Text::GapTold, {L"07:30", L"09:00"}},
+                                                        {Text::AndMore, {L"1"}}}));
 }
 
 TEST_F(DayTypeFormTest, TheUserAcceptsGapsOrStays) {

@@ -38,5 +38,18 @@ TEST(SlotFaults, TheMinutesOfAllSlotsAreAddedUp) {
   EXPECT_EQ(MinutesOfSlots({Range(L"00:00", L"00:01"), Range(L"12:00", L"24:00")}), 721);
 }
 
+TEST(SlotFaults, GapsAreWhatNoSlotCoversInTheOrderOfTheDay) {
+  EXPECT_THAT(GapsOfSlots({}), ElementsAre(MinuteRange{0, 1440}));
+  EXPECT_THAT(GapsOfSlots({Range(L"00:00", L"24:00")}), IsEmpty());
+  EXPECT_THAT(GapsOfSlots({Range(L"12:00", L"13:00"), Range(L"08:00", L"10:00"),
+                           Range(L"10:00", L"11:59")}),
+              ElementsAre(MinuteRange{0, 480}, MinuteRange{719, 720}, MinuteRange{780, 1440}));
+}
+
+TEST(SlotFaults, ASlotOfNoLengthPartsNoGap) {
+  EXPECT_THAT(GapsOfSlots({Range(L"10:00", L"10:00"), Range(L"24:00", L"24:00")}),
+              ElementsAre(MinuteRange{0, 1440}));
+}
+
 }  // namespace
 }  // namespace qv

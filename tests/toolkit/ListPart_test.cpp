@@ -136,6 +136,13 @@ TEST_F(ListPartTest, AListTakesTheFocusOfAButtonThatItDisables) {
   EXPECT_TRUE(add.hasFocus()) << "it stays enabled";
 }
 
+TEST_F(ListPartTest, ARowMadeCurrentIsNotSelected) {
+  part.Select(0);
+  part.MakeCurrent(2);
+  EXPECT_EQ(view.currentIndex().row(), 2);
+  EXPECT_EQ(part.SelectedRows(), std::vector<int>{0});
+}
+
 TEST_F(ListPartTest, SelectingARowLeavesNoOtherSelected) {
   view.selectAll();
   EXPECT_EQ(part.SelectedRows(), (std::vector<int>{0, 1, 2}));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -120,6 +121,30 @@ TEST_F(MessageBoxesTest, TheTitleIsThatOfTheWindow) {
     EXPECT_EQ(Box()->windowTitle(), "Manager");
     Box()->close();
   });
+}
+
+TEST_F(MessageBoxesTest, WhatIsAddedStandsBelowTheTextAsItStands) {
+  texts.additions = {Text::DiscriminatorToRemove, Text::AndMore};
+  texts.wordings[Text::DiscriminatorToRemove] = L"- %s";
+  const Addition addition = {{Text::DiscriminatorToRemove, {L"<b>a</b>"}}, {Text::AndMore}};
+  const auto look = [] {
+    EXPECT_EQ(Box()->text(), "[32368]");
+    EXPECT_EQ(Box()->informativeText(), "- <b>a</b>\n[60031]");
+    for (const QLabel* label : Box()->findChildren<QLabel*>()) {
+      EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+    }
+    Box()->close();
+  };
+  Drive([&] { return boxes.Ask(Text::RemoveDiscriminatorsQuestion, {}, addition); }, look);
+  Drive([&] { return boxes.Show(Text::RemoveDiscriminatorsQuestion, {}, addition), 0; }, look);
+}
+
+TEST_F(MessageBoxesTest, WithoutTextsForItNothingIsAdded) {
+  Drive([this] { return boxes.Show(Text::DiscriminatorNotSaved, {}, AboutFile(L"/a", {})), 0; },
+        [] {
+          EXPECT_EQ(Box()->informativeText(), "");
+          Box()->close();
+        });
 }
 
 TEST_F(MessageBoxesTest, BeforeItsWindowShowsABoxStandsOverTheOwnerThatDoes) {

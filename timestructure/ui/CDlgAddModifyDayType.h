@@ -24,6 +24,7 @@ class CDlgAddModifyDayType : public qv::EditingDialog<qv::DayTypeForm> {
   void OnInitDialog() override;
   void PositioningControls() override;
   qv::SaveEnd Save() override;
+  void MakeRowCurrent(int row) override { m_list->MakeCurrent(row); }
   void OnDestroy() override;
   void paintEvent(QPaintEvent* event) override;
 

@@ -246,6 +246,13 @@ TEST_F(VerbsTest, AtATerminalTheUserIsAsked) {
   EXPECT_FALSE(std::filesystem::exists(File(dayAndNight + ".xdct")));
 }
 
+TEST_F(VerbsTest, WhatAQuestionIsAboutStandsOnLinesBelowIt) {
+  const Ended no = Do({"remove", dayAndNight, station, "--no"});
+  EXPECT_THAT(no.errors, HasSubstr("undone.\n• Day and night\n• Transformer station state\n"));
+  const Json json = DoJson({"remove", dayAndNight, "--no"});
+  EXPECT_THAT(std::string(json["texts"][0]["text"]), Not(HasSubstr("Day and night")));
+}
+
 TEST_F(VerbsTest, AFileThatCannotBeDeletedStopsTheRemoval) {
   std::filesystem::permissions(File(tariff2 + ".xdct"), std::filesystem::perms::owner_read);
   const Json json = DoJson({"remove", dayAndNight, tariff2, station, "--yes"});

@@ -106,6 +106,26 @@ TEST_F(DayTypeEditor, FaultsAreToldBeforeTheWindowShowsAndGapsOnlyAtOk) {
   EXPECT_FALSE(modified);
 }
 
+TEST_F(DayTypeEditor, TheLaterOfTwoSlotsThatOverlapIsTheCurrentRowUnselected) {
+  const auto expectLaterIsCurrent = [] {
+    EXPECT_EQ(List(typeList)->currentIndex().row(), 1);
+    EXPECT_TRUE(SelectedRows(typeList).empty());
+  };
+  Day(L"work").Node(L"slot")->SetValue(L"to", L"13:00");
+  CDlgAddModifyDayType editor(nullptr, &Day(L"work"), days.get(), hours.get());
+  Play(editor, [&] {
+    WhenNextWindow([&] {
+      expectLaterIsCurrent();
+      List(typeList)->setCurrentItem(nullptr);
+      AnswerNextBox(Text::SlotsOverlap, QMessageBox::Ok);
+      Click(IDOK);
+      expectLaterIsCurrent();
+      Click(IDCANCEL);
+    });
+    AnswerBox(Text::SlotsOverlap, QMessageBox::Ok);
+  });
+}
+
 TEST_F(DayTypeEditor, SlotsOfARemovedHourTypeAreGone) {
   hours->RemoveChild(hours->NodeV(L"hour?id=%s?", L"p"));
   Run(Day(L"work"), [] {
