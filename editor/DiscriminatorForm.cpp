@@ -1,5 +1,8 @@
 #include "editor/DiscriminatorForm.h"
 
+#include <string>
+#include <utility>
+
 #include "discriminator/DeviceLinks.h"
 #include "discriminator/DiscriminatorDocument.h"
 #include "discriminator/EditedCopies.h"
@@ -9,18 +12,41 @@
 #include "host/Installation.h"
 #include "tools/Guid.h"
 #include "tools/Names.h"
+#include "tools/XmlReader.h"
 
 namespace qv {
+namespace {
+
+/// Why the file isn't opened: what the system says, or where its text is damaged.
+Refusal NotOpened(const QVWideString& path, const std::error_code& failure, const XmlError& error) {
+  Addition addition = AboutFile(path.ToView(), failure);
+  if (!failure && error.line > 0) {
+    addition.push_back({Text::DiscriminatorDamagedAt,
+                        {std::to_wstring(error.line), std::to_wstring(error.column)}});
+  } else if (!failure) {
+    addition.push_back({Text::DiscriminatorDamaged});
+  }
+  return Refused(Text::DiscriminatorNotOpened, std::move(addition));
+}
+
+}  // namespace
 
 std::unique_ptr<DiscriminatorForm> DiscriminatorForm::Open(const EditorServices& services,
-                                                           const QVWideString* filePath) {
-  auto document = std::make_unique<XmlDocument>();
-  document->Create(tag::Main);
-  if (filePath && !document->Load(*filePath, services.files)) {
-    return nullptr;
+                                                           const QVWideString* filePath,
+                                                           std::optional<Refusal>* refusal) {
+  XmlError error;
+  services.files.ForgetFailure();
+  auto root = filePath ? ReadXmlFile(filePath->ToView(), services.files, &error)
+                       : std::make_unique<XmlNode>(QVWideString(tag::Main));
+  if (root) {
+    auto document = std::make_unique<XmlDocument>(std::move(root));
+    return std::unique_ptr<DiscriminatorForm>(
+        new DiscriminatorForm(services, filePath, std::move(document)));
   }
-  return std::unique_ptr<DiscriminatorForm>(
-      new DiscriminatorForm(services, filePath, std::move(document)));
+  if (refusal) {
+    *refusal = NotOpened(*filePath, services.files.Failure(), error);
+  }
+  return nullptr;
 }
 
 DiscriminatorForm::DiscriminatorForm(const EditorServices& services, const QVWideString* filePath,

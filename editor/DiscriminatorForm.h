@@ -43,9 +43,10 @@ class DiscriminatorForm {
   static constexpr int longestTypedName = 80;
 
   /// A new discriminator if `filePath` is null, else the one of that file, or null if it can't be
-  /// loaded. A file without id gets one.
-  [[nodiscard]] static std::unique_ptr<DiscriminatorForm> Open(const EditorServices& services,
-                                                               const QVWideString* filePath);
+  /// loaded; `refusal`, if given, then says why. A file without id gets one.
+  [[nodiscard]] static std::unique_ptr<DiscriminatorForm> Open(
+      const EditorServices& services, const QVWideString* filePath,
+      std::optional<Refusal>* refusal = nullptr);
 
   /// Whether there was no file to open.
   bool IsNew() const { return m_filePath.Empty(); }

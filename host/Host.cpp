@@ -30,6 +30,11 @@ QVMainCfg::~QVMainCfg() = default;
 
 bool QVLoadString::Has(unsigned /*id*/) const { return false; }
 
+bool QVLoadString::IsMute(Text id) const {
+  constexpr unsigned firstOwn = 60000;
+  return Number(id) >= firstOwn && !Has(Number(id));
+}
+
 QVWideString QVLoadString::Load(Text id) const {
   QVWideString text;
   return (*this)(Number(id), text);

@@ -19,7 +19,8 @@ class QVHOST_EXPORT Prompter {
 
   virtual ~Prompter() = default;
 
-  /// Shows the text, with its placeholders filled in, and below it what there is to add.
+  /// Shows the text, with its placeholders filled in, and below it what there is to add. One of the
+  /// library's own that the language lacks isn't shown.
   virtual void Show(Text text, const Arguments& arguments = {}, const Addition& addition = {}) = 0;
   /// Asks the text as a question, likewise; true for Yes.
   virtual bool Ask(Text text, const Arguments& arguments = {}, const Addition& addition = {}) = 0;

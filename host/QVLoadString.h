@@ -20,6 +20,10 @@ class QVHOST_EXPORT QVLoadString : public HostService<QVLoadString> {
   /// only: a host that doesn't answer has none of them, and they stay mute.
   virtual bool Has(unsigned id) const;
 
+  /// Whether `id` is one of the library's own additions and the language lacks it, so that nothing
+  /// is to be said.
+  bool IsMute(Text id) const;
+
   /// The text by value.
   QVWideString Load(Text id) const;
 };

@@ -54,6 +54,9 @@ enum class Text : unsigned {
   DescriptionWithQuote = 32366,      ///< message: the description holds a double quote
   LinkNotReady = 60005,              ///< tooltip of a big button that can't open its part yet
   DiscriminatorNotSaved = 32362,     ///< message: the file can't be written
+  DiscriminatorNotOpened = 60034,    ///< message: the file can't be opened
+  DiscriminatorDamagedAt = 60035,    ///< more of it: not readable from line %d, column %d on
+  DiscriminatorDamaged = 60036,      ///< more of it: not readable as a whole
 
   // Hour type list and hour type editor
   HourTypeListTitle = 478,      ///< list: title

@@ -22,6 +22,9 @@ constexpr wchar_t questionPicture[] = L"QUESTION-32.png";
 MessageBoxes::MessageBoxes(QWidget* window, const Host& host) : m_window(window), m_host(host) {}
 
 void MessageBoxes::Show(Text text, const Arguments& arguments, const Addition& addition) {
+  if (m_host.loadString.IsMute(text)) {
+    return;
+  }
   QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, VisibleWindow());
   box.setProperty(textNumberProperty, Number(text));
   Prepare(box, Worded(text, arguments), warningPicture);

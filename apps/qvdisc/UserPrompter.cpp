@@ -16,6 +16,9 @@ UserPrompter::UserPrompter(const Terminal& terminal, const QVLoadString& texts,
     : m_terminal(terminal), m_texts(texts), m_answer(answer), m_outcome(outcome) {}
 
 void UserPrompter::Show(Text text, const Arguments& arguments, const qv::Addition& addition) {
+  if (m_texts.IsMute(text)) {
+    return;
+  }
   const std::wstring message = Worded(text, arguments);
   m_outcome.texts.push_back({Number(text), message, false, std::nullopt});
   m_terminal.err << Utf8(WithAddition(message, addition)) << '\n';

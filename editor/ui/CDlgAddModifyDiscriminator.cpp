@@ -31,8 +31,14 @@ CDlgAddModifyDiscriminator::CDlgAddModifyDiscriminator(qv::XmlNode* deviceGroups
 }
 
 std::unique_ptr<qv::DiscriminatorForm> CDlgAddModifyDiscriminator::MakeForm() {
-  return qv::DiscriminatorForm::Open({Services(), qv::Files::Disk(), m_deviceGroups},
-                                     m_filePath ? &*m_filePath : nullptr);
+  std::optional<qv::Refusal> refusal;
+  auto form = qv::DiscriminatorForm::Open({Services(), qv::Files::Disk(), m_deviceGroups},
+                                          m_filePath ? &*m_filePath : nullptr, &refusal);
+  if (refusal) {
+    SetTitle(Text::ModifyDiscriminatorTitle);
+    ShowRefusal(*refusal);
+  }
+  return form;
 }
 
 void CDlgAddModifyDiscriminator::OnInitDialog() {

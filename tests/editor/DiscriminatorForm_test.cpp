@@ -1,5 +1,6 @@
 #include "editor/DiscriminatorForm.h"
 
+#include <cerrno>
 #include <stdexcept>
 
 #include "tests/editor/FormFixture.h"
@@ -54,6 +55,51 @@ TEST_F(FormTest, AFileThatCannotBeLoadedGivesNoDocument) {
   EXPECT_FALSE(OpenContent("<main>"));
   EXPECT_FALSE(Open(L"/cfg/missing.xdct"));
   EXPECT_TRUE(files.log.empty());
+}
+
+/// Why the file `path` isn't opened.
+class NotOpened : public FormTest {
+ protected:
+  Addition Reason(const QVWideString& path) {
+    std::optional<Refusal> refusal;
+    EXPECT_FALSE(DiscriminatorForm::Open(Around(), &path, &refusal));
+    EXPECT_TRUE(refusal && refusal->text == Text::DiscriminatorNotOpened);
+    return refusal ? refusal->addition : Addition();
+  }
+
+  static Addition BySystem(const wchar_t* path, int number) {
+    return AboutFile(path, {number, std::generic_category()});
+  }
+};
+
+TEST_F(NotOpened, AFileThatIsNotThereOrNotReadableSaysWhatTheSystemSays) {
+  EXPECT_EQ(Reason(L"/cfg/gone.xdct"), BySystem(L"/cfg/gone.xdct", ENOENT));
+  files.contents[L"/cfg/a.xdct"] = "<main><id>1</id></main>";
+  files.breakingReads = {L"/cfg/a.xdct"};
+  EXPECT_EQ(Reason(L"/cfg/a.xdct"), BySystem(L"/cfg/a.xdct", EIO));
+  files.unreadable = {L"/cfg/a.xdct"};
+  EXPECT_EQ(Reason(L"/cfg/a.xdct"), BySystem(L"/cfg/a.xdct", EACCES));
+}
+
+TEST_F(NotOpened, ADamagedFileSaysWhere) {
+  files.contents[L"/cfg/a.xdct"] = "<main>\n <id>1</name>\n</main>";
+  EXPECT_EQ(Reason(L"/cfg/a.xdct"), (Addition{{Text::FailedFile, {L"/cfg/a.xdct"}},
+                                              {Text::DiscriminatorDamagedAt, {L"2", L"9"}}}));
+}
+
+TEST_F(NotOpened, AnEarlierFailureOfTheDiskIsNoReason) {
+  EXPECT_FALSE(Open(L"/cfg/gone.xdct"));
+  files.contents[L"/cfg/a.xdct"] = "<main>";
+  EXPECT_EQ(Reason(L"/cfg/a.xdct").back().text, Text::DiscriminatorDamagedAt);
+}
+
+TEST_F(NotOpened, WhatIsOpenedHasNoRefusal) {
+  const QVWideString path = L"/cfg/a.xdct";
+  files.contents[L"/cfg/a.xdct"] = "<main/>";
+  std::optional<Refusal> refusal;
+  EXPECT_TRUE(DiscriminatorForm::Open(Around(), &path, &refusal));
+  EXPECT_TRUE(DiscriminatorForm::Open(Around(), nullptr, &refusal));
+  EXPECT_FALSE(refusal);
 }
 
 TEST_F(FormTest, AnEmptyTypeActsAsSlotsAndIsWrittenAtTheNextSave) {

@@ -123,6 +123,15 @@ TEST_F(MessageBoxesTest, TheTitleIsThatOfTheWindow) {
   });
 }
 
+TEST_F(MessageBoxesTest, OneOfTheLibrarysOwnThatTheLanguageLacksIsNotShown) {
+  boxes.Show(Text::DiscriminatorNotOpened);  // would wait for an answer
+  texts.additions = {Text::DiscriminatorNotOpened};
+  ShowAnd(Text::DiscriminatorNotOpened, {}, [] {
+    EXPECT_EQ(Box()->text(), "[60034]");
+    Box()->close();
+  });
+}
+
 TEST_F(MessageBoxesTest, WhatIsAddedStandsBelowTheTextAsItStands) {
   texts.additions = {Text::DiscriminatorToRemove, Text::AndMore};
   texts.wordings[Text::DiscriminatorToRemove] = L"- %s";

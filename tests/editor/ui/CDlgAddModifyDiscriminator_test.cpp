@@ -256,6 +256,23 @@ TEST_F(Editor, AFileThatCannotBeLoadedCancelsAtOnce) {
   EXPECT_EQ(Content("1.old.xdct"), "<main>");
 }
 
+TEST_F(Editor, AFileThatCannotBeLoadedIsToldWithItsReasonWhereTheLanguageHasWords) {
+  host->loadString.additions = {Text::DiscriminatorNotOpened, Text::DiscriminatorDamagedAt};
+  const QVWideString path = ToWide(PutFile("1.old.xdct", "<main>"));
+  CDlgAddModifyDiscriminator editor(deviceGroups.Root(), nullptr, &path);
+  const int result = Play(editor, [&] {
+    EXPECT_FALSE(editor.isVisible());
+    const auto* box = qobject_cast<QMessageBox*>(TopWindow());
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->windowTitle(), TitleOf(Text::ModifyDiscriminatorTitle));
+    EXPECT_EQ(box->informativeText(), TitleOf(Text::DiscriminatorDamagedAt));
+    AnswerBox(Text::DiscriminatorNotOpened, QMessageBox::Ok);
+  });
+  EXPECT_EQ(result, IDCANCEL);
+  EXPECT_FALSE(modified);
+  EXPECT_EQ(Content("1.old.xdct"), "<main>");
+}
+
 TEST_F(Editor, ControlsStandInTheirOrderWithoutOverlap) {
   Add([] {
     const QList<int> column = {discriminatorNameLabel,
