@@ -39,7 +39,7 @@ enum class Text : unsigned {
   RemoveDiscriminatorsQuestion = 32368,  ///< question before the selected rows are removed
   DiscriminatorFileNotDeleted = 32369,   ///< message: the file can't be deleted, removal stops
   ReadingDiscriminators = 60000,         ///< progress of a long first reading: label
-  ReadingProgress = 60004,               ///< progress of a long first reading: %d files of %d
+  ReadingProgress = 60004,               ///< progress of a long first reading: files, %d of %d
 
   // Discriminator editor
   AddDiscriminatorTitle = 32359,     ///< title, for a new discriminator

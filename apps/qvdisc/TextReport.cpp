@@ -187,8 +187,10 @@ void WriteFindings(Writer& writer, const Outcome& outcome) {
   const auto faults = static_cast<unsigned>(
       std::count_if(outcome.checked.findings.begin(), outcome.checked.findings.end(),
                     [](const qv::Finding& finding) { return finding.IsFault(); }));
-  writer.Write(faults == 0 ? writer.Said(Word::NothingFound, {files})
-                           : writer.Said(Word::Found, {faults, files}));
+  const std::wstring inFiles = writer.Said(files == 1 ? Word::OneFile : Word::Files, {files});
+  const std::wstring found = writer.Said(faults == 1 ? Word::OneFinding : Word::Findings, {faults});
+  writer.Write(faults == 0 ? writer.Said(Word::NothingFound, {inFiles.c_str()})
+                           : writer.Said(Word::Found, {found.c_str(), inFiles.c_str()}));
 }
 
 }  // namespace

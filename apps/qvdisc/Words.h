@@ -50,8 +50,12 @@ enum class Word {
   IndexNotNeeded,  ///< the stem
   Reading,         ///< how many of how many
   Listed,          ///< the file
-  NothingFound,    ///< how many files
-  Found,           ///< how many findings in how many files
+  OneFile,
+  Files,  ///< how many
+  OneFinding,
+  Findings,      ///< how many
+  NothingFound,  ///< the files, counted
+  Found,         ///< the findings and the files, counted
 
   // What a check finds
   Unreadable,    ///< reason

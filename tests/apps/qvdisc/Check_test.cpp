@@ -203,7 +203,7 @@ TEST_F(CheckTest, OnlyTheFilesOfTheCallAreTold) {
   EXPECT_EQ(Kinds(Findings(true, {tariff2})), "index-missing\n");
   EXPECT_EQ(Kinds(Findings(true, {"Day and night", "Day and night"})), "unreadable\n");
   EXPECT_TRUE(Findings(false, {station}).empty());
-  EXPECT_EQ(Do({"check", station}).output, station + ".xdct: listed\n1 files, nothing found\n");
+  EXPECT_EQ(Do({"check", station}).output, station + ".xdct: listed\n1 file, nothing found\n");
   const Ended none = Do({"check", "none"});
   EXPECT_EQ(none.status, 1);
   EXPECT_THAT(none.errors, HasSubstr("There is no discriminator “none”"));
@@ -229,7 +229,18 @@ TEST_F(CheckTest, SpeaksSpanish) {
   std::filesystem::remove(File(file + "I"));
   EXPECT_EQ(Do({"check", "--language", "es", dayAndNight}).output,
             file + ": aparece en la lista\n" + file +
-                ": falta el archivo de índice\n1 hallazgos en 1 archivos\n");
+                ": falta el archivo de índice\n1 incidencia en 1 archivo\n");
+}
+
+TEST_F(CheckTest, CountsFilesAndFindingsInWords) {
+  const auto lastLine = [](const std::string& output) {
+    return output.substr(output.find_last_of('\n', output.size() - 2) + 1);
+  };
+  EXPECT_EQ(lastLine(Do({"check", dayAndNight}).output), "1 file, nothing found\n");
+  EXPECT_EQ(lastLine(Do({"check", "--language", "es", dayAndNight}).output),
+            "1 archivo, sin incidencias\n");
+  std::filesystem::remove(File(file + "I"));
+  EXPECT_EQ(lastLine(Do({"check", dayAndNight}).output), "1 finding in 1 file\n");
 }
 
 TEST_F(CheckTest, ABrokenConfigurationIsAFindingAndTheFilesAreStillChecked) {

@@ -135,7 +135,7 @@ TEST_F(ProcessTest, CopiesThroughAPipeIntoAnotherInstallation) {
       " \"$QVDISC\" paste --installation \"$DIR/other\" &&"
       " \"$QVDISC\" check --installation \"$DIR/other\"");
   EXPECT_EQ(ended.status, 1) << "without a configuration there are no entries";
-  EXPECT_THAT(ended.output, HasSubstr("has no entry in the device groups\n1 findings in 1 files"));
+  EXPECT_THAT(ended.output, HasSubstr("has no entry in the device groups\n1 finding in 1 file"));
 }
 
 TEST_F(ProcessTest, BashCompletesVerbsOptionsValuesAndDiscriminators) {
