@@ -1,21 +1,14 @@
-// The primitives of five representative days, line by line. After a change that is meant, run the
-// tests with QV_WRITE_GOLDEN set, and look at what differs.
+// The primitives of five representative days, line by line. After a change that is meant, build the
+// target `golden`, and look at what differs.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
+#include "tests/support/Golden.h"
 #include "tests/support/RecordingCanvas.h"
-#include "tests/support/TemporaryDirectory.h"
 #include "timestructure/DayDial.h"
 #include "tools/XmlDocument.h"
 
 namespace qv {
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr char hourTypes[] =
     "<hourTypes>"
@@ -90,37 +83,14 @@ struct GoldenCase {
   int height;
 };
 
-std::vector<std::string> LinesOf(const fs::path& file) {
-  std::istringstream stream(FileBytes(file));
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(stream, line);) {
-    lines.push_back(line);
-  }
-  return lines;
-}
-
-void Write(const fs::path& file, const std::vector<std::string>& lines) {
-  std::ofstream stream(file);
-  for (const auto& line : lines) {
-    stream << line << '\n';
-  }
-}
-
 class DayDialGolden : public testing::TestWithParam<GoldenCase> {};
 
 TEST_P(DayDialGolden, DrawsThePrimitivesOfTheFile) {
   RecordingCanvas canvas;
   GetParam().dial().Paint(canvas, GetParam().width, GetParam().height, DialSurroundings());
-  const auto file = fs::path(QV_PROJECT_DIR) / "tests/timestructure/golden" /
-                    (std::string(GetParam().name) + ".txt");
-  if (std::getenv("QV_WRITE_GOLDEN")) {
-    Write(file, canvas.lines);
-  }
-  const auto expected = LinesOf(file);
-  ASSERT_EQ(canvas.lines.size(), expected.size());
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_EQ(canvas.lines[i], expected[i]) << "line " << i + 1;
-  }
+  ExpectGolden(
+      std::string(QV_PROJECT_DIR "/tests/timestructure/golden/") + GetParam().name + ".txt",
+      canvas.lines);
 }
 
 INSTANTIATE_TEST_SUITE_P(Days, DayDialGolden,

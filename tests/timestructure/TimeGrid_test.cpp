@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <set>
 #include <string>
 
+#include "tests/support/Golden.h"
 #include "tests/support/RecordingCanvas.h"
 
 namespace qv {
@@ -117,30 +116,12 @@ TEST(TimeGrid, LabelsAreLegibleOnTheGroundWhateverTheDay) {
   }
 }
 
-/// The lines of a golden file. After a change that is meant, run the tests with QV_WRITE_GOLDEN
-/// set, and look at what differs.
-std::vector<std::string> Golden(const std::string& name, const std::vector<std::string>& drawn) {
-  const std::string file = QV_PROJECT_DIR "/tests/timestructure/golden/" + name;
-  if (std::getenv("QV_WRITE_GOLDEN")) {
-    std::ofstream stream(file);
-    for (const std::string& line : drawn) {
-      stream << line << '\n';
-    }
-  }
-  std::ifstream stream(file);
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(stream, line);) {
-    lines.push_back(line);
-  }
-  return lines;
-}
-
-TEST(TimeGrid, DrawsWhatItDrewBefore) {
+TEST(TimeGridGolden, DrawsThePrimitivesOfTheFile) {
   RecordingCanvas canvas;
   TimeGrid(300, 200).Paint(canvas, {.dayColour = 0x80CCFF,
                                     .selection = MinuteRange{12 * 60 + 50, 13 * 60 + 2},
                                     .selectionColour = 0x0000FF});
-  EXPECT_EQ(canvas.lines, Golden("TimeGrid.txt", canvas.lines));
+  ExpectGolden(QV_PROJECT_DIR "/tests/timestructure/golden/TimeGrid.txt", canvas.lines);
 }
 
 TEST(TimeGrid, OnADenseScreenAllLengthsAreInItsDots) {
