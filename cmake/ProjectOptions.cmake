@@ -1,9 +1,24 @@
 # The one place for the language level, warnings, sanitizers and the other switches of a build.
 
+include(CMakeDependentOption)
+
+option(QV_APPS "Build the sample host and qvdisc" ${PROJECT_IS_TOP_LEVEL})
+cmake_dependent_option(QV_TESTS "Build the tests and benchmarks, of the programs too"
+                       ${PROJECT_IS_TOP_LEVEL} QV_APPS OFF)
 option(QV_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(QV_COVERAGE "Build for line coverage" OFF)
 option(QV_TIDY "Run clang-tidy on every file that is compiled" OFF)
 option(QV_FUZZ "Build the libFuzzer targets (needs clang)" OFF)
+
+# A host finds the pictures where its programs are made, unless it names another place.
+if(PROJECT_IS_TOP_LEVEL)
+  set(program_dir "${PROJECT_BINARY_DIR}")
+elseif(CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+  set(program_dir "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+else()
+  set(program_dir "${CMAKE_BINARY_DIR}")
+endif()
+set(QV_IMAGE_DIRECTORY "${program_dir}/images" CACHE PATH "Where the pictures of the dialogs are made")
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -63,6 +78,15 @@ function(qv_target target)
   if(ARG_HEADERS)
     target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}"
                                                     FILES ${ARG_HEADERS})
+  endif()
+endfunction()
+
+# Offers `target` to hosts as QVDiscriminator::`target`.
+function(qv_offer target)
+  add_library(QVDiscriminator::${target} ALIAS ${target})
+  get_target_property(type ${target} TYPE)
+  if(NOT type STREQUAL INTERFACE_LIBRARY)
+    target_compile_features(${target} PUBLIC cxx_std_20)
   endif()
 endfunction()
 

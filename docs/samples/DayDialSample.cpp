@@ -4,15 +4,25 @@
 
 #include "library/QVDiscriminator.h"
 
+namespace {
+
+/// Says in one line why the program can't go on.
+int Fail(const QString& reason) {
+  qCritical("daydialsample: %s", qPrintable(reason));
+  return 1;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   if (argc != 3 && argc != 4) {
-    return 2;  // usage: daydialsample DISCRIMINATOR-FILE DAY-TYPE [PICTURE]
+    return Fail("usage: daydialsample DISCRIMINATOR-FILE DAY-TYPE [PICTURE]");
   }
   const QStringList arguments = QApplication::arguments();
   XmlDocument discriminator;
   if (!discriminator.Load(arguments[1].toStdWString().c_str())) {
-    return 1;
+    return Fail("the discriminator can't be read: " + arguments[1]);
   }
   const XmlDocument::XmlNode* dayTypes = discriminator.Root()->Node(L"dayTypes");
   const XmlDocument::XmlNode* day =
@@ -29,7 +39,7 @@ int main(int argc, char** argv) {
   window.resize(440, 220);
 
   if (argc == 4) {
-    return window.grab().save(arguments[3]) ? 0 : 1;
+    return window.grab().save(arguments[3]) ? 0 : Fail("can't write " + arguments[3]);
   }
   window.show();
   return QApplication::exec();

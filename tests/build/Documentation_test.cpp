@@ -61,7 +61,7 @@ TEST(Documentation, EverySampleIsTheFileThatIsCompiled) {
     for (auto at = text.find(open); at != std::string::npos; at = text.find(open, at + 1)) {
       const auto nameStart = at + open.size();
       const auto name = text.substr(nameStart, text.find(" -->", at) - nameStart);
-      const auto code = text.find("```cpp\n", at) + 7;
+      const auto code = text.find('\n', text.find("```", at)) + 1;
       EXPECT_EQ(text.substr(code, text.find("```\n", code) - code), Content(root / name)) << page;
       ++samples;
     }
