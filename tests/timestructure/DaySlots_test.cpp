@@ -130,6 +130,7 @@ TEST_F(DaySlotsTest, EachFaultHasItsText) {
       {{{L"24:30", L"24:30"}}, Text::SlotHourOutOfRange},
       {{{L"00:00", L"24:01"}}, Text::SlotHourOutOfRange},
       {{{L"00:60", L"02:00"}}, Text::SlotMinuteOutOfRange},
+      {{{L"00:00", L"02:60"}}, Text::SlotMinuteOutOfRange},
       {{{L"00:00", L"02:75"}}, Text::SlotMinuteOutOfRange},
       {{{L"02:00", L"01:59"}}, Text::SlotStartAfterEnd},
       {{{L"00:00", L"12:00"}, {L"11:59", L"24:00"}}, Text::SlotsOverlap},
