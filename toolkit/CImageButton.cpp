@@ -25,6 +25,11 @@ void CImageButton::SetCaption(const QString& caption) {
   Describe();
 }
 
+void CImageButton::SetHint(const QString& hint) {
+  m_hint = hint;
+  Describe();
+}
+
 QString CImageButton::ShownCaption() const {
   return qv::ElidedCaption(m_caption, fontMetrics(), CaptionRoom());
 }
@@ -55,4 +60,4 @@ int CImageButton::CaptionRoom() const {
   return icon().isNull() ? room : room - iconSize().width() - iconGap;
 }
 
-void CImageButton::Describe() { qv::DescribeByCaption(this, m_caption, CaptionRoom()); }
+void CImageButton::Describe() { qv::DescribeByCaption(this, m_caption, CaptionRoom(), m_hint); }

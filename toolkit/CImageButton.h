@@ -19,6 +19,9 @@ class CImageButton : public QPushButton {
   /// Shows `caption`, in which "&" stands before the mnemonic, and makes it the accessible name.
   void SetCaption(const QString& caption);
 
+  /// Shows `hint` in the tooltip, below an elided caption; none for an empty one.
+  void SetHint(const QString& hint);
+
   /// What is to be seen of the caption.
   QString ShownCaption() const;
 
@@ -32,4 +35,5 @@ class CImageButton : public QPushButton {
   void Describe();
 
   QString m_caption;
+  QString m_hint;
 };

@@ -19,20 +19,27 @@ QString ElidedCaption(const QString& caption, const QFontMetrics& font, int widt
   return font.elidedText(caption, Qt::ElideRight, width, Qt::TextShowMnemonic);
 }
 
-void DescribeByCaption(QWidget* widget, const QString& caption, int width) {
+void DescribeByCaption(QWidget* widget, const QString& caption, int width, const QString& hint) {
   const bool elided = ElidedCaption(caption, widget->fontMetrics(), width) != caption;
   const QString reading = WithoutMnemonic(caption);
-  SetPlainToolTip(widget, elided ? reading : QString());
+  QStringList lines = {elided ? reading : QString(), hint};
+  lines.removeAll(QString());
+  SetPlainToolTip(widget, lines.join(QLatin1Char('\n')));
   widget->setAccessibleName(reading);
 }
 
 void SetPlainToolTip(QWidget* widget, const QString& text) {
   widget->setToolTip(PlainToolTip(text));
+  // By itself the description would be the tooltip's text with its tags.
+  widget->setAccessibleDescription(text);
 }
 
 QString PlainToolTip(const QString& text) {
   // Escaped in a pair of tags, since a tooltip takes a text with tags of its own for rich text.
-  return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+  return text.isEmpty()
+             ? QString()
+             : QStringLiteral("<p>%1</p>")
+                   .arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")));
 }
 
 QString DoubledFile(const QString& file) {

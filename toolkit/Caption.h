@@ -21,9 +21,11 @@ int CaptionWidth(const QString& caption, const QFontMetrics& font);
 
 /// Gives `widget` the whole caption, as it reads, for its accessible name, and for its tooltip
 /// exactly if the caption is wider than `width` pixels.
-void DescribeByCaption(QWidget* widget, const QString& caption, int width);
+void DescribeByCaption(QWidget* widget, const QString& caption, int width,
+                       const QString& hint = {});
 
-/// Gives `widget` a tooltip that shows `text` as it stands; none for an empty text.
+/// Gives `widget` a tooltip that shows `text` as it stands, which becomes its accessible
+/// description as well; none for an empty text.
 void SetPlainToolTip(QWidget* widget, const QString& text);
 
 /// `text` for a tooltip that shows it as it stands.

@@ -33,4 +33,12 @@ void ShowPicture(QWidget* control, const QVWideString& path) {
   }
 }
 
+void ShowHint(QWidget* control, const QString& hint) {
+  if (auto* button = qobject_cast<CImageButton*>(control)) {
+    button->SetHint(hint);
+  } else if (auto* link = qobject_cast<QVHyperlink*>(control)) {
+    link->SetHint(hint);
+  }
+}
+
 }  // namespace qv

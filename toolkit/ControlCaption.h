@@ -15,4 +15,7 @@ void ShowCaption(QWidget* control, const QString& caption);
 /// Gives a button or link the picture at `path`; does nothing for any other widget, or null.
 void ShowPicture(QWidget* control, const QVWideString& path);
 
+/// Gives a button or link a hint for its tooltip; does nothing for any other widget, or null.
+void ShowHint(QWidget* control, const QString& hint);
+
 }  // namespace qv

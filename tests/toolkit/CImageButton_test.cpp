@@ -120,6 +120,17 @@ TEST_F(CImageButtonTest, MissingPictureLeavesAPlainButton) {
   EXPECT_EQ(m_button.sizeHint(), plain);
 }
 
+TEST_F(CImageButtonTest, AHintStandsInTheTooltipBelowAnElidedCaption) {
+  m_button.SetCaption(QStringLiteral("Add"));
+  m_button.SetHint(QStringLiteral("Insert key"));
+  EXPECT_EQ(m_button.toolTip(), "<p>Insert key</p>");
+  EXPECT_EQ(m_button.accessibleDescription(), "Insert key");
+  m_button.resize(90, 24);
+  m_button.SetCaption(longCaption);
+  EXPECT_EQ(m_button.accessibleDescription(), longCaption + "\nInsert key");
+  EXPECT_TRUE(m_button.toolTip().endsWith(QLatin1String("<br>Insert key</p>")));
+}
+
 TEST_F(CImageButtonTest, MissingPictureTakesAnOlderOneAway) {
   m_button.SetImage(m_files.Write("A-16.png", 16, Qt::red), noArgument, false);
   m_button.SetImage(m_files.Path("absent.png"), noArgument, false);

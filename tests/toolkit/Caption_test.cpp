@@ -40,6 +40,7 @@ TEST(Caption, TagsInACaptionAreNoTagsInItsTooltip) {
   QWidget widget;
   DescribeByCaption(&widget, QStringLiteral("<b>bold</b>"), 10);
   EXPECT_TRUE(widget.toolTip().contains(QStringLiteral("&lt;b&gt;bold")));
+  EXPECT_FALSE(widget.accessibleDescription().contains(QLatin1Char('&'))) << "plain words";
 }
 
 TEST(PictureIcon, HasThePictureAndItsDoubledForm) {
