@@ -84,5 +84,27 @@ TEST_F(ColourSwatchTest, TooSmallForAColourItIsAllFrame) {
   EXPECT_EQ(CountPixels(Picture(), Qt::red), 0);
 }
 
+TEST_F(ColourSwatchTest, TellsItsValue) {
+  EXPECT_EQ(m_swatch.accessibleDescription(), "#FFFFFF");
+  m_swatch.SetColour(0x0080FF);
+  EXPECT_EQ(m_swatch.toolTip(), "<p>#FF8000</p>");
+  EXPECT_EQ(m_swatch.accessibleDescription(), "#FF8000");
+  EXPECT_EQ(m_swatch.cursor().shape(), Qt::PointingHandCursor);
+}
+
+TEST_F(ColourSwatchTest, AClickOnItsLabelIsOneOnIt) {
+  QLabel label;
+  label.resize(80, 20);
+  m_swatch.TakeLabel(&label);
+  const QSignalSpy clicks(&m_swatch, &QAbstractButton::clicked);
+  QTest::mouseClick(&label, Qt::LeftButton);
+  EXPECT_EQ(clicks.size(), 1);
+  QTest::mouseClick(&label, Qt::RightButton);
+  QTest::mousePress(&label, Qt::LeftButton);
+  QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(200, 5));
+  EXPECT_EQ(clicks.size(), 1) << "neither the other button, nor a release elsewhere";
+  EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
+}
+
 }  // namespace
 }  // namespace qv

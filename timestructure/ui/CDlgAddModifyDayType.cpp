@@ -56,6 +56,7 @@ void CDlgAddModifyDayType::InitializeTexts() {
   SetTitle(isNew ? Text::AddDayTypeTitle : Text::ModifyDayTypeTitle);
   SetLabel(m_ui.labelName, m_ui.editName, Text::Name);
   SetLabel(m_ui.labelColour, m_ui.swatchColour, Text::Colour);
+  m_ui.swatchColour->TakeLabel(m_ui.labelColour);
   SetLabel(m_ui.boxSlots, m_ui.listSlots, Text::TimeSlots);
   SetText(m_ui.boxDial, Text::Diagram);
   m_list->InitializeButtons(Services());

@@ -31,6 +31,7 @@ void CDlgAddModifyHourType::InitializeTexts() {
   SetLabel(m_ui.labelName, m_ui.editName, Text::Name);
   SetLabel(m_ui.labelValue, m_ui.editValue, Text::HourTypeValue);
   SetLabel(m_ui.labelColour, m_ui.swatchColour, Text::Colour);
+  m_ui.swatchColour->TakeLabel(m_ui.labelColour);
   SetOkCancel();
   const bool isNew = m_form->Identity().OpenedName().Empty();
   SetTitle(isNew ? Text::AddHourTypeTitle : Text::ModifyHourTypeTitle);
