@@ -32,6 +32,9 @@ struct TimeOfDay {
 /// "%02d:%02d".
 QVWideString TimeText(TimeOfDay time);
 
+/// The same of a minute of the day, counted from 00:00.
+inline QVWideString TimeText(int minute) { return TimeText({minute / 60, minute % 60}); }
+
 /// Hours from the first two characters and minutes from the last two, as far as they are decimal
 /// numbers.
 TimeOfDay TimeOf(const QVWideString& text);

@@ -88,6 +88,7 @@ enum class Text : unsigned {
   DayDialName = 60006,   ///< name, for people who can't see it
   DayDialSlot = 60007,   ///< one slot in its description: from %s to %s
   DayDialEmpty = 60008,  ///< description of a day without slots
+  DayDialTyped = 60039,  ///< one slot whose hour type %s is known: from %s to %s
 
   // Calendar; the names of its months are those of the fast selection
   CalendarTitle = 919,        ///< title

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "discriminator/DayMinutes.h"
 #include "discriminator/EditedCopies.h"
 #include "discriminator/Fields.h"
 #include "discriminator/NewChildNode.h"
@@ -20,14 +19,12 @@ AddedLine Told(const SlotRow& row) {
            std::wstring(row.to.ToView())}};
 }
 
-std::wstring TimeOfMinute(int minute) {
-  return std::wstring(TimeText({minute / minutesOfHour, minute % minutesOfHour}).ToView());
-}
-
 Addition Told(const std::vector<MinuteRange>& gaps) {
   Addition lines;
   for (const MinuteRange& gap : gaps) {
-    lines.push_back({Text::GapTold, {TimeOfMinute(gap.from), TimeOfMinute(gap.to)}});
+    lines.push_back(
+        {Text::GapTold,
+         {std::wstring(TimeText(gap.from).ToView()), std::wstring(TimeText(gap.to).ToView())}});
   }
   return Shortened(std::move(lines));
 }

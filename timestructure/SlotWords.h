@@ -5,12 +5,28 @@
 #include <vector>
 
 #include "timestructure/STagSlot.h"
+#include "tools/XmlNode.h"
 
 namespace qv {
 
-/// The slots in words, for people who can't see them: each by `form`, in which the first `%s` is
-/// its start and the second its end, as in "from %s to %s", joined by semicolons. Only what lies in
-/// the day is told, in the order of the slots; a slot that isn't drawn is left out. Empty for none.
-std::wstring SlotsInWords(const std::vector<STagSlot>& day, std::wstring_view form);
+/// The forms in which a slot is told.
+struct SlotForms {
+  std::wstring times = L"%s-%s";  ///< by its start and its end, as in "from %s to %s"
+  std::wstring typed{};           ///< by hour type, start and end; empty to tell of no type
+};
+
+/// What of the slot lies in the day, in words; empty for a slot that isn't drawn. `hourType` is the
+/// name of its hour type, empty if that isn't known.
+std::wstring SlotInWords(const STagSlot& slot, const QVWideString& hourType,
+                         const SlotForms& forms);
+
+/// The slots in words, in their order, joined by semicolons. `hourTypes` has the names of their
+/// hour types, as far as they are known. Empty for none.
+std::wstring SlotsInWords(const std::vector<STagSlot>& day,
+                          const std::vector<QVWideString>& hourTypes, const SlotForms& forms);
+
+/// The name of the hour type of each slot of `day`, in their order; empty where there is none. None
+/// if `day` is null.
+std::vector<QVWideString> HourTypesOfSlots(const XmlNode* day, const XmlNode* hourTypes);
 
 }  // namespace qv

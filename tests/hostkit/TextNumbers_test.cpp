@@ -89,6 +89,7 @@ constexpr NumberedText table[] = {
     {Text::DayDialName, 60006},
     {Text::DayDialSlot, 60007},
     {Text::DayDialEmpty, 60008},
+    {Text::DayDialTyped, 60039},
     {Text::CalendarTitle, 919},
     {Text::FastSelectionButton, 433},
     {Text::UnmarkDates, 457},

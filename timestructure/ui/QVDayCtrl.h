@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <memory>
+#include <vector>
 
 #include "toolkit/Export.h"
 #include "toolkit/Types.h"
@@ -19,9 +20,10 @@ class DayDial;
 /// call `update` behind them. Marks, labels and the ground follow the palette; in a group box the
 /// ground is that of the box.
 ///
-/// For people who can't see it, its accessible description tells the slots. Name and description
-/// are in words if the host's language has them, which is asked for at construction and at each
-/// `Setup` of slots; else the description is plain times, as in "08:00-14:00".
+/// For people who can't see it, its accessible description tells the slots; a tooltip tells the one
+/// under the mouse. Name, description and tooltip are in words if the host's language has them,
+/// which is asked for at construction and at each `Setup` of slots; else the description is plain
+/// times, as in "08:00-14:00".
 class QVDISCRIMINATOR_EXPORT QVDayCtrl : public QWidget {
   Q_OBJECT
 
@@ -52,9 +54,12 @@ class QVDISCRIMINATOR_EXPORT QVDayCtrl : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   void DescribeSlots();
+  QString SlotAt(const QPoint& place) const;
 
   std::unique_ptr<qv::DayDial> m_dial;
+  std::vector<QVWideString> m_hourTypes;  ///< names of those of the slots, as far as known
 };

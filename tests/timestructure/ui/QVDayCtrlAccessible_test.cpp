@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QTest>
+#include <QToolTip>
 
 #include "hostkit/LanguageFile.h"
 #include "tests/support/FakeHost.h"
@@ -58,6 +62,33 @@ TEST(QVDayCtrlAccessible, TellsTheSlotsInTheWordsOfTheHost) {
     EXPECT_EQ(Told(dial, QAccessible::Description), empty);
     SetupMorning(dial);
     EXPECT_EQ(Told(dial, QAccessible::Description), told);
+  }
+}
+
+TEST(QVDayCtrlAccessible, TellsHourTypeAndTimesOfTheSlotUnderTheMouse) {
+  qv::LanguageFile language;
+  ASSERT_TRUE(language.Load(qv::FromUtf8(QV_PROJECT_DIR "/languages/en.txt")));
+  const qv::Installed<QVLoadString> installed(language);
+  XmlDocument document;
+  ASSERT_TRUE(document.Parse(
+      "<r><day><slot><id>p</id><from>01:00</from><to>05:00</to></slot></day>"
+      "<hourTypes><hour><id>p</id><name>Peak &lt;b&gt;</name></hour></hourTypes></r>"));
+  QVDayCtrl dial;
+  dial.resize(600, 300);
+  dial.Setup(document.Root()->Node(L"day"), document.Root()->Node(L"hourTypes"));
+  EXPECT_EQ(Told(dial, QAccessible::Description), "Peak <b>: from 01:00 to 05:00");
+  const auto tipAt = [&dial](const QPoint& place) {
+    QHelpEvent help(QEvent::ToolTip, place, dial.mapToGlobal(place));
+    QApplication::sendEvent(&dial, &help);
+    return QToolTip::text();
+  };
+  const QPoint atThree(146 + 60, 150);
+  EXPECT_EQ(tipAt(atThree), "<p>Peak &lt;b&gt;: from 01:00 to 05:00</p>");
+  for (const QPoint place : {QPoint(146 - 60, 150), QPoint(2, 2)}) {
+    tipAt(atThree);
+    tipAt(place);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }))
+        << "neither at nine nor outside";
   }
 }
 
