@@ -3,9 +3,12 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QRegularExpressionValidator>
+#include <QToolTip>
 
+#include "discriminator/ValueForms.h"
 #include "timestructure/ui/CDlgAddModifyHourType.h"
 #include "timestructure/ui/TimeGridView.h"
+#include "toolkit/Caption.h"
 #include "toolkit/ColourIcons.h"
 #include "toolkit/DialogColumn.h"
 #include "toolkit/RunDialog.h"
@@ -43,6 +46,12 @@ CDlgAddModifyTimeSlot::CDlgAddModifyTimeSlot(CWnd* parent, qv::XmlNode* hourType
   m_grid = new qv::TimeGridView(m_ui.boxGrid, [this] { return GridPicture(); });
   m_ui.boxGrid->setAttribute(Qt::WA_TransparentForMouseEvents);
   setMouseTracking(true);
+  // The cross is that of the grid alone: what the pointer may jump to from there has its arrow.
+  for (QWidget* child : findChildren<QWidget*>()) {
+    if (!child->testAttribute(Qt::WA_SetCursor)) {
+      child->setCursor(Qt::ArrowCursor);
+    }
+  }
 }
 
 CDlgAddModifyTimeSlot::~CDlgAddModifyTimeSlot() {
@@ -93,8 +102,12 @@ void CDlgAddModifyTimeSlot::InitializeTexts() {
   SetLabel(m_ui.labelTo, m_ui.editToHours, Text::To);
   for (const FieldControls& controls : m_fields) {
     const QString name = NameOf(controls.field);
-    controls.edit->setAccessibleName(name);
-    controls.spin->setAccessibleName(name);
+    const QString unit = UnitOf(controls.field);
+    for (QWidget* control :
+         {static_cast<QWidget*>(controls.edit), static_cast<QWidget*>(controls.spin)}) {
+      control->setAccessibleName(name);
+      qv::SetPlainToolTip(control, unit);
+    }
   }
   SetText(m_ui.boxGrid, Text::Diagram);
   m_grid->setAccessibleName(Worded(Text::Diagram));
@@ -102,10 +115,13 @@ void CDlgAddModifyTimeSlot::InitializeTexts() {
   SetOkCancel();
 }
 
+QString CDlgAddModifyTimeSlot::UnitOf(qv::TimeField field) const {
+  return qv::OwnText(Services().loadString, field.isHours ? Text::SlotHours : Text::SlotMinutes);
+}
+
 QString CDlgAddModifyTimeSlot::NameOf(qv::TimeField field) const {
   const QString edge = Worded(field.edge == qv::SlotEdge::From ? Text::From : Text::To);
-  const QString unit =
-      qv::OwnText(Services().loadString, field.isHours ? Text::SlotHours : Text::SlotMinutes);
+  const QString unit = UnitOf(field);
   return unit.isEmpty() ? edge : QStringLiteral("%1, %2").arg(edge, unit);
 }
 
@@ -182,7 +198,17 @@ void CDlgAddModifyTimeSlot::mousePressEvent(QMouseEvent* event) {
   }
 }
 
+void CDlgAddModifyTimeSlot::ShowTimeUnder(const QMouseEvent& event) {
+  const auto minute = MinuteAt(event);
+  setCursor(minute ? Qt::CrossCursor : Qt::ArrowCursor);
+  // While a selection is on, the fields show its times.
+  const bool isTold = minute && event.buttons() == Qt::NoButton;
+  QToolTip::showText(event.globalPosition().toPoint(),
+                     isTold ? qv::ToQString(qv::TimeText(*minute)) : QString(), this);
+}
+
 void CDlgAddModifyTimeSlot::mouseMoveEvent(QMouseEvent* event) {
+  ShowTimeUnder(*event);
   if (m_form && m_form->Times().Move(MinuteAt(*event))) {
     ShowTimes();
   }

@@ -47,6 +47,7 @@ class CDlgAddModifyTimeSlot : public qv::EditingDialog<qv::TimeSlotForm> {
 
   void Connect(const FieldControls& controls);
   void InitializeTexts();
+  QString UnitOf(qv::TimeField field) const;
   QString NameOf(qv::TimeField field) const;
   void OnAddHourType();
   void OnSelchangeType(int index);
@@ -56,6 +57,7 @@ class CDlgAddModifyTimeSlot : public qv::EditingDialog<qv::TimeSlotForm> {
   qv::TimeGrid::Picture GridPicture() const;
   void AddTimes(QVHoritzontalLayout& row, qv::SlotEdge edge) const;
   std::optional<int> MinuteAt(const QMouseEvent& event) const;
+  void ShowTimeUnder(const QMouseEvent& event);
 
   Ui::Template1304 m_ui;
   std::array<FieldControls, 4> m_fields;

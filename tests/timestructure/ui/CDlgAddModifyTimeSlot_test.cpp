@@ -1,7 +1,11 @@
 #include "timestructure/ui/CDlgAddModifyTimeSlot.h"
 
+#include <QToolTip>
+
+#include "discriminator/ValueForms.h"
 #include "tests/timestructure/ui/SlotEditorFixture.h"
 #include "toolkit/SpinButtons.h"
+#include "toolkit/Strings.h"
 
 namespace qv {
 namespace {
@@ -47,6 +51,47 @@ TEST_F(SlotEditor, ItsFieldsAreCalledByEdgeAndUnitWhereTheLanguageHasThem) {
               TitleOf(Text::To) + ", " + TitleOf(Text::SlotMinutes));
     EXPECT_EQ(TopControl(toMinutesSpin)->accessibleName(),
               TitleOf(Text::To) + ", " + TitleOf(Text::SlotMinutes));
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(SlotEditor, ItsFieldsTellTheirUnitInTheirTooltips) {
+  host->loadString.additions = {Text::SlotHours, Text::SlotMinutes};
+  Run("p", "01:00", "02:00", [] {
+    for (const int field : {fromHours, toHours, toHoursSpin}) {
+      EXPECT_EQ(TopControl(field)->toolTip(), "<p>" + TitleOf(Text::SlotHours) + "</p>");
+    }
+    for (const int field : {fromMinutes, toMinutes, toMinutesSpin}) {
+      EXPECT_EQ(TopControl(field)->accessibleDescription(), TitleOf(Text::SlotMinutes));
+    }
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(SlotEditor, ThePointerIsACrossOverTheGridAndItsTimeIsTold) {
+  Run("p", "00:00", "24:00", [] {
+    QWidget* window = TopWindow();
+    const QRect box = TopControl(gridBox)->geometry();
+    const auto moveTo = [window](const QPoint& place, Qt::MouseButtons buttons = Qt::NoButton) {
+      QMouseEvent move(QEvent::MouseMove, place, window->mapToGlobal(place), Qt::NoButton, buttons,
+                       Qt::NoModifier);
+      QApplication::sendEvent(window, &move);
+    };
+    moveTo(box.center());
+    EXPECT_EQ(window->cursor().shape(), Qt::CrossCursor);
+    const TimeGrid grid(box.width(), box.height());
+    const QPoint middle = box.center() - box.topLeft();
+    const int minute = grid.MinuteAt({middle.x(), middle.y()}).value();
+    EXPECT_EQ(QToolTip::text(), ToQString(TimeText(minute)));
+    for (const int id : {IDOK, slotTypeCombo, toHoursSpin}) {
+      EXPECT_EQ(TopControl(id)->cursor().shape(), Qt::ArrowCursor) << id;
+    }
+    moveTo(QPoint(1, 1));
+    EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
+    const auto isGone = [] { return QTest::qWaitFor([] { return !QToolTip::isVisible(); }); };
+    EXPECT_TRUE(isGone());
+    moveTo(box.center(), Qt::LeftButton);
+    EXPECT_TRUE(isGone()) << "the fields tell it while a button is down";
     Click(IDCANCEL);
   });
 }
