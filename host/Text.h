@@ -148,6 +148,11 @@ enum class Text : unsigned {
   OneVariableAtMost = 32336,  ///< message: more than the one variable allowed
   VariablesAtMost = 197,      ///< message: more than the %d variables allowed
 
+  // Lists
+  InsertKey = 60040,  ///< tooltip of Add: the key that does the same
+  DeleteKey = 60041,  ///< tooltip of Remove: the key that does the same
+  EmptyList = 60042,  ///< in a list without rows: begin with the button %s
+
   // What messages and questions say more, below their texts
   DiscriminatorToRemove = 60030,  ///< one of those that the question is about: its name %s
   AndMore = 60031,                ///< after a list that was cut: how many more there are, %d

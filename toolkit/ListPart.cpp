@@ -2,9 +2,13 @@
 
 #include <utility>
 
+#include "host/Mnemonic.h"
 #include "toolkit/ColourIcons.h"
 #include "toolkit/ControlCaption.h"
+#include "toolkit/EmptyHint.h"
+#include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
+#include "tools/Format.h"
 
 namespace qv {
 namespace {
@@ -12,6 +16,15 @@ namespace {
 void Initialize(QAbstractButton* button, Text text, const wchar_t* picture, const Host& host) {
   ShowCaption(button, HostCaption(host.loadString, text));
   ShowPicture(button, host.setup.getImageFilePath() + picture);
+}
+
+/// What an empty list says: that its button Add is where to begin.
+QString HowToBegin(const QVLoadString& loadString) {
+  if (!loadString.Has(Number(Text::EmptyList))) {
+    return {};
+  }
+  const std::wstring button = WithoutMnemonic(loadString.Load(Text::Add).ToView());
+  return ToQString(Format(loadString.Load(Text::EmptyList).ToView(), {button.c_str()}));
 }
 
 void Run(const std::function<void()>& verb) {
@@ -23,7 +36,7 @@ void Run(const std::function<void()>& verb) {
 }  // namespace
 
 ListPart::ListPart(const Controls& controls, Verbs verbs)
-    : m_controls(controls), m_verbs(std::move(verbs)) {
+    : m_controls(controls), m_emptyHint(new EmptyHint(*controls.view)), m_verbs(std::move(verbs)) {
   const auto connectButton = [this](QAbstractButton* button, const std::function<void()>& verb) {
     if (button) {
       connect(button, &QAbstractButton::clicked, this, [&verb] { Run(verb); });
@@ -42,6 +55,9 @@ void ListPart::InitializeButtons(const Host& host) {
   Initialize(m_controls.add, Text::Add, L"NEW-16.png", host);
   Initialize(m_controls.modify, Text::Modify, L"MODIFY-16.png", host);
   Initialize(m_controls.remove, Text::Remove, L"REMOVE-16.png", host);
+  ShowHint(m_controls.add, OwnText(host.loadString, Text::InsertKey));
+  ShowHint(m_controls.remove, OwnText(host.loadString, Text::DeleteKey));
+  m_emptyHint->SetHint(HowToBegin(host.loadString));
 }
 
 void ListPart::CreateColumns(const QVLoadString& loadString, const std::vector<Text>& headings) {

@@ -14,6 +14,8 @@
 
 namespace qv {
 
+class EmptyHint;
+
 /// A row of a list: its texts, and the icon before the first one, or none.
 struct ListRow {
   QStringList texts;
@@ -45,7 +47,8 @@ class ListPart : public QObject {
 
   const Controls& Parts() const { return m_controls; }
 
-  /// Gives the buttons their texts and pictures.
+  /// Gives the buttons their texts and pictures and tells their keys; an empty list says how to
+  /// begin.
   void InitializeButtons(const Host& host);
   /// Gives the list its columns, which share its width.
   void CreateColumns(const QVLoadString& loadString, const std::vector<Text>& headings);
@@ -82,6 +85,7 @@ class ListPart : public QObject {
   void OnKeydown(int key);
 
   Controls m_controls;
+  EmptyHint* m_emptyHint;
   Verbs m_verbs;
 };
 

@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 
 #include "tests/support/FakeHost.h"
+#include "toolkit/CImageButton.h"
 #include "toolkit/Texts.h"
 
 namespace qv {
@@ -134,6 +136,40 @@ TEST_F(ListPartTest, AListTakesTheFocusOfAButtonThatItDisables) {
   add.setFocus();
   ShowNames({"x"});
   EXPECT_TRUE(add.hasFocus()) << "it stays enabled";
+}
+
+TEST_F(ListPartTest, AnEmptyListSaysHowToBeginWhereTheLanguageHasWords) {
+  const auto* hint = view.viewport()->findChild<QLabel*>();
+  ASSERT_TRUE(hint);
+  ShowNames({});
+  EXPECT_TRUE(hint->isHidden()) << "no words";
+  host.loadString.additions = {Text::EmptyList};
+  part.InitializeButtons(host.Services());
+  EXPECT_FALSE(hint->isHidden());
+  EXPECT_EQ(hint->text(), HostText(host.loadString, Text::EmptyList));
+  EXPECT_EQ(hint->size(), view.viewport()->size());
+  EXPECT_EQ(view.accessibleDescription(), hint->text());
+  view.resize(250, 150);
+  EXPECT_EQ(hint->size(), view.viewport()->size());
+  ShowNames({"a", "b"});
+  EXPECT_TRUE(hint->isHidden());
+  EXPECT_EQ(view.accessibleDescription(), "");
+  part.RemoveRow(0);
+  EXPECT_TRUE(hint->isHidden());
+  part.RemoveRow(0);
+  EXPECT_FALSE(hint->isHidden());
+}
+
+TEST_F(ListPartTest, TheKeysOfAddAndRemoveAreTold) {
+  CImageButton addWithHint;
+  CImageButton removeWithHint;
+  ListPart told({&view, &addWithHint, nullptr, &removeWithHint}, {});
+  host.loadString.additions = {Text::InsertKey, Text::DeleteKey};
+  told.InitializeButtons(host.Services());
+  addWithHint.resize(addWithHint.sizeHint() * 2);
+  removeWithHint.resize(addWithHint.size());
+  EXPECT_EQ(addWithHint.accessibleDescription(), HostText(host.loadString, Text::InsertKey));
+  EXPECT_EQ(removeWithHint.accessibleDescription(), HostText(host.loadString, Text::DeleteKey));
 }
 
 TEST_F(ListPartTest, ARowMadeCurrentIsNotSelected) {
