@@ -106,7 +106,8 @@ void AddWindowOptions(CLI::App& app, Texts& texts) {
                "in aligned columns, and end")
       ->needs(show);
   Check(AddText(app, "--picture", texts.picture,
-                "Save a picture of the window as this PNG file, and end")
+                "Save a picture of the window as this PNG file, and end. Neither this\n"
+                "nor --list needs a display")
             ->type_name("FILE"),
         NoName);
   Check(AddText(app, "--size", texts.size,

@@ -102,6 +102,15 @@ TEST_F(ConfiguratorTest, ListsTheDiscriminatorsSortedByName) {
   EXPECT_TRUE(lines.at(1).contains("península")) << "not UTF-8";
 }
 
+TEST_F(ConfiguratorTest, PicturesAndListsNeedNoDisplay) {
+  const std::map<QString, QString> none = {
+      {"QT_QPA_PLATFORM", ""}, {"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}};
+  EXPECT_EQ(Picture({"--size", "640x480"}, none).size(), QSize(640, 480));
+  const Ended list = RunOnCopy({"--show", "discriminators", "--list"}, none);
+  EXPECT_EQ(list.status, 0) << list.errors;
+  EXPECT_THAT(list.output, HasSubstr("Day and night"));
+}
+
 TEST_F(ConfiguratorTest, ListsNoConditionsOnAnEmbeddedInstallation) {
   std::ofstream(installation.File("configuration.xml"))
       << "<configuration><commSystem><device><driver>KORVAXEMBEDDED</driver></device>"
