@@ -17,15 +17,10 @@
 namespace qv {
 namespace {
 
-/// Why the file isn't opened: what the system says, or where its text is damaged.
+/// Which file isn't opened, and why.
 Refusal NotOpened(const QVWideString& path, const std::error_code& failure, const XmlError& error) {
-  Addition addition = AboutFile(path.ToView(), failure);
-  if (!failure && error.line > 0) {
-    addition.push_back({Text::DiscriminatorDamagedAt,
-                        {std::to_wstring(error.line), std::to_wstring(error.column)}});
-  } else if (!failure) {
-    addition.push_back({Text::DiscriminatorDamaged});
-  }
+  Addition addition = AboutFile(path.ToView(), {});
+  addition.push_back(WhyUnreadable(failure, error).front());
   return Refused(Text::DiscriminatorNotOpened, std::move(addition));
 }
 

@@ -26,6 +26,17 @@ Addition AboutFile(std::wstring_view path, const std::error_code& reason) {
   return addition;
 }
 
+Addition WhyUnreadable(const std::error_code& reason, const XmlError& error) {
+  if (reason) {
+    return {{Text::FailureReason, {SystemWords(reason)}}};
+  }
+  if (error.line == 0) {
+    return {{Text::DiscriminatorDamaged}};
+  }
+  return {
+      {Text::DiscriminatorDamagedAt, {std::to_wstring(error.line), std::to_wstring(error.column)}}};
+}
+
 std::wstring InWords(const Addition& addition, const QVLoadString& loadString) {
   std::wstring words;
   for (const AddedLine& line : addition) {

@@ -8,6 +8,7 @@
 #include "host/Export.h"
 #include "host/QVLoadString.h"
 #include "host/Text.h"
+#include "tools/XmlReader.h"
 
 namespace qv {
 
@@ -27,6 +28,9 @@ QVHOST_EXPORT Addition Shortened(Addition lines);
 
 /// Which file it was, and why the system refused it. Without a reason the file alone is told.
 QVHOST_EXPORT Addition AboutFile(std::wstring_view path, const std::error_code& reason);
+
+/// Why an XML file can't be read: what the system says, or else where its text is damaged.
+QVHOST_EXPORT Addition WhyUnreadable(const std::error_code& reason, const XmlError& error);
 
 /// The lines in words, with line ends between them. A line whose text the language lacks is left
 /// out, so that nothing may be left.

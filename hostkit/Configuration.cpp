@@ -8,6 +8,7 @@
 #include "discriminator/Fields.h"
 #include "host/Installation.h"
 #include "tools/Guid.h"
+#include "tools/XmlReader.h"
 
 namespace qv {
 namespace {
@@ -38,22 +39,26 @@ Configuration::Configuration(QVMainCfg& document, Files& files)
   m_document.Create(rootTag);
 }
 
-Configuration::Loaded Configuration::Load(std::wstring_view directory) {
+Configuration::Loaded Configuration::Load(std::wstring_view directory, Addition* why) {
   const std::wstring path = std::wstring(directory) + fileName;
-  XmlDocument found;
-  const bool read = found.Load(path.c_str(), m_files);
-  if (!read && m_files.Exists(path)) {
+  XmlError error;
+  m_files.ForgetFailure();
+  const auto found = ReadXmlFile(path, m_files, &error);
+  if (!found && m_files.Exists(path)) {
+    if (why) {
+      *why = WhyUnreadable(m_files.Failure(), error);
+    }
     return Loaded::Unreadable;
   }
-  if (read && found.Root()->Tag() != rootTag) {
+  if (found && found->Tag() != rootTag) {
     return Loaded::Foreign;
   }
   m_path = path;
   m_document.Create(rootTag);
-  if (read) {
-    *m_document.Root() = *found.Root();
+  if (found) {
+    *m_document.Root() = *found;
   }
-  return read ? Loaded::FromFile : Loaded::New;
+  return found ? Loaded::FromFile : Loaded::New;
 }
 
 bool Configuration::Save() { return m_document.SaveAs(m_path.c_str(), m_files); }

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/Addition.h"
 #include "host/QVMainCfg.h"
 #include "tools/Files.h"
 
@@ -27,7 +28,8 @@ class Configuration {
 
   /// Takes over the configuration of `directory`, which ends in its separator. For a file that is
   /// unreadable or foreign the document, and the file that `Save` writes, stay what they were.
-  [[nodiscard]] Loaded Load(std::wstring_view directory);
+  /// `why`, if given, then says why a file is unreadable, in lines of the library's own texts.
+  [[nodiscard]] Loaded Load(std::wstring_view directory, Addition* why = nullptr);
 
   /// Writes the document to its file; false if that isn't possible.
   [[nodiscard]] bool Save();

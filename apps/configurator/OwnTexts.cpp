@@ -77,11 +77,10 @@ constexpr qv::EnumTable texts(std::array{
 
     OwnTextRow{
         OwnText::ConfigurationUnreadable,
-        "No se puede leer la configuración «%1»: no hay permiso de lectura o el archivo está "
-        "dañado. No se ha modificado. Repárelo o muévalo a otro lugar y abra la instalación de "
-        "nuevo.",
-        "The configuration “%1” cannot be read: there is no permission, or the file is damaged. It "
-        "has not been changed. Repair it or move it elsewhere, and open the installation again."},
+        "No se puede leer la configuración «%1». %2 No se ha modificado. Repárela o muévala a otro "
+        "lugar y abra la instalación de nuevo.",
+        "The configuration “%1” cannot be read. %2 It has not been changed. Repair it or move it "
+        "elsewhere, and open the installation again."},
     OwnTextRow{
         OwnText::ConfigurationForeign,
         "El archivo «%1» no es la configuración de una instalación. No se ha modificado. Elija el "

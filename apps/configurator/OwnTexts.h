@@ -59,7 +59,7 @@ enum class OwnText {
   SaveChangesQuestion,  ///< %1 is the directory
 
   // What went wrong, and what to do; %1 is the file or directory
-  ConfigurationUnreadable,
+  ConfigurationUnreadable,  ///< %2 is why
   ConfigurationForeign,
   ConfigurationNotSaved,
   DirectoryMissing,

@@ -11,17 +11,8 @@
 namespace configurator {
 namespace {
 
-std::optional<OwnText> RefusalOf(qv::Configuration::Loaded loaded) {
-  switch (loaded) {
-    case qv::Configuration::Loaded::Unreadable:
-      return OwnText::ConfigurationUnreadable;
-    case qv::Configuration::Loaded::Foreign:
-      return OwnText::ConfigurationForeign;
-    case qv::Configuration::Loaded::FromFile:
-    case qv::Configuration::Loaded::New:
-      break;
-  }
-  return std::nullopt;
+QString InWords(const qv::Addition& addition) {
+  return qv::ToQString(qv::InWords(addition, *QVLoadString::Get()));
 }
 
 }  // namespace
@@ -56,9 +47,14 @@ Workspace::Problem Workspace::Open(const QString& directory) {
   }
   const QString path = QDir::cleanPath(found.absolutePath());
   const qv::DirectorySetup setup(path.toStdWString(), L"", 0);
-  const auto loaded = m_configuration.Load(setup.CfgPath().ToView());
-  if (const auto refusal = RefusalOf(loaded)) {
-    return Words(*refusal).arg(QDir(path).filePath(QStringLiteral("configuration.xml")));
+  const QString file = QDir(path).filePath(QStringLiteral("configuration.xml"));
+  qv::Addition why;
+  const auto loaded = m_configuration.Load(setup.CfgPath().ToView(), &why);
+  if (loaded == qv::Configuration::Loaded::Unreadable) {
+    return Words(OwnText::ConfigurationUnreadable).arg(file, InWords(why));
+  }
+  if (loaded == qv::Configuration::Loaded::Foreign) {
+    return Words(OwnText::ConfigurationForeign).arg(file);
   }
   m_directory = path;
   m_isNew = loaded == qv::Configuration::Loaded::New;

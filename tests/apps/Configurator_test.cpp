@@ -192,7 +192,8 @@ TEST_F(ConfiguratorTest, ABrokenConfigurationIsToldAndNotOverwritten) {
   const Ended ended = RunOnCopy({"--show", "discriminators", "--list", "--language", "en"});
   EXPECT_EQ(ended.status, 1);
   EXPECT_EQ(ended.output, "");
-  EXPECT_THAT(ended.errors, HasSubstr("configuration.xml” cannot be read"));
+  EXPECT_THAT(ended.errors, HasSubstr("configuration.xml” cannot be read. The file is damaged: it "
+                                      "cannot be read from line 1, column 16 on. It has not been"));
   EXPECT_EQ(installation.ConfigurationBytes(), "<configuration>");
 }
 

@@ -47,6 +47,15 @@ class Forms : public NumberTexts {
   }
 };
 
+TEST(Addition, WhatCanNotBeReadHasAReasonOrAPlaceOrIsBadAsAWhole) {
+  const auto denied = std::make_error_code(std::errc::permission_denied);
+  EXPECT_EQ(WhyUnreadable(denied, {"", 3, 4}),
+            (Addition{{Text::FailureReason, {SystemWords(denied)}}}));
+  EXPECT_EQ(WhyUnreadable({}, {"", 3, 4}),
+            (Addition{{Text::DiscriminatorDamagedAt, {L"3", L"4"}}}));
+  EXPECT_EQ(WhyUnreadable({}, {"", 0, 0}), Addition{{Text::DiscriminatorDamaged}});
+}
+
 TEST(Addition, LinesAreWordedOneBelowTheOther) {
   Forms texts;
   texts.additions = {Text::DiscriminatorToRemove, Text::AndMore};

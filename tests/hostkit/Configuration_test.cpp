@@ -72,6 +72,17 @@ TEST_F(ConfigurationTest, ANewOneLeavesNothingOfTheOneBefore) {
   EXPECT_EQ(Code(), Written("<configuration/>"));
 }
 
+TEST_F(ConfigurationTest, SaysWhereAFileIsDamagedAndWhatTheSystemSays) {
+  Addition why;
+  files.contents[path] = "<configuration>\n <a></b>";
+  EXPECT_EQ(configuration.Load(L"/inst/", &why), Loaded::Unreadable);
+  EXPECT_EQ(why, (Addition{{Text::DiscriminatorDamagedAt, {L"2", L"7"}}}));
+  files.unreadable.insert(path);
+  EXPECT_EQ(configuration.Load(L"/inst/", &why), Loaded::Unreadable);
+  ASSERT_EQ(why.size(), 1U);
+  EXPECT_EQ(why.front().text, Text::FailureReason);
+}
+
 TEST_F(ConfigurationTest, ABrokenFileChangesNeitherDocumentNorFile) {
   Load("<configuration><a>1</a></configuration>");
   files.contents[L"/other/configuration.xml"] = "<configuration><a>";
