@@ -1,5 +1,7 @@
 #include "apps/configurator/StatusLine.h"
 
+#include <QEvent>
+#include <QHBoxLayout>
 #include <QStringList>
 #include <algorithm>
 
@@ -15,17 +17,33 @@ constexpr int sideMargin = 6;
 
 StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent),
+      m_line(new QWidget),
       m_told(new ElidedLabel(Qt::ElideRight)),
       m_path(new ElidedLabel(Qt::ElideMiddle)) {
   m_told->setObjectName(QStringLiteral("told"));
   m_path->setObjectName(QStringLiteral("path"));
-  m_told->setContentsMargins(sideMargin, 0, 0, 0);
+  m_told->setContentsMargins(sideMargin, 0, sideMargin, 0);
   m_path->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  addWidget(m_told, 1);
-  addPermanentWidget(m_path, 1);
+  auto* row = new QHBoxLayout(m_line);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(0);
+  row->addWidget(m_told, 1);
+  row->addWidget(m_path);
+  m_line->installEventFilter(this);
+  addWidget(m_line, 1);
 }
 
-void StatusLine::SetPath(const QString& path) { m_path->setText(path); }
+void StatusLine::SetPath(const QString& path) {
+  m_path->setText(path);
+  ShareRoom();
+}
+
+bool StatusLine::eventFilter(QObject* line, QEvent* event) {
+  if (event->type() == QEvent::Resize) {
+    ShareRoom();
+  }
+  return QStatusBar::eventFilter(line, event);
+}
 
 void StatusLine::Tell(OwnText text) {
   m_text = text;
@@ -57,6 +75,16 @@ void StatusLine::Refresh() {
     told += Notice(id) + (times > 1 ? QStringLiteral(" ×%1").arg(times) : QString());
   }
   m_told->setText(told.isEmpty() ? Words(m_text, m_language) : told.join(QStringLiteral(" · ")));
+  ShareRoom();
+}
+
+void StatusLine::ShareRoom() {
+  constexpr int leastShare = 3;
+  const int room = m_line->width();
+  const int path = std::min(m_path->sizeHint().width(),
+                            std::max(room - m_told->sizeHint().width(), room / leastShare));
+  m_path->setMaximumWidth(path);
+  m_told->setMaximumWidth(room - path);
 }
 
 QString StatusLine::Notice(int id) const {

@@ -11,6 +11,8 @@ class QLabel;
 namespace configurator {
 
 /// The status bar: what happened last on the left, the path of the open installation on the right.
+/// Each may have all the room that the other leaves; where both are too long, the path is cut to a
+/// third.
 ///
 /// The notices of changes add up until something else is told, in the order in which each first
 /// came, with how often it came.
@@ -32,10 +34,15 @@ class StatusLine : public QStatusBar {
   /// What stands on the left.
   QString Told() const;
 
+ protected:
+  bool eventFilter(QObject* line, QEvent* event) override;
+
  private:
   void Refresh();
+  void ShareRoom();
   QString Notice(int id) const;
 
+  QWidget* m_line;
   QLabel* m_told;
   QLabel* m_path;
   qv::Language m_language = qv::Language::English;
