@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "apps/configurator/DeviceGroupLines.h"
 #include "discriminator/Fields.h"
 #include "tools/QVBasicString.h"
 
@@ -15,55 +16,7 @@ namespace {
 using qv::XmlNode;
 using NodeSet = std::set<const XmlNode*>;
 
-constexpr const wchar_t* groupsTag = qv::tag::Groups;
-constexpr const wchar_t* devicesTag = qv::tag::Devices;
-
-/// A line of the tree, and the container that its node is a child of. `Node` is `XmlNode`, or
-/// `const XmlNode` where it is only read.
-template <class Node>
-struct LineOf {
-  Node* container = nullptr;
-  Node* node = nullptr;
-  bool isGroup = false;
-
-  friend bool operator==(const LineOf&, const LineOf&) = default;
-};
 using Line = LineOf<XmlNode>;
-
-template <class Node>
-void AddLines(Node* container, bool areGroups, std::vector<LineOf<Node>>& lines) {
-  if (container) {
-    std::transform(container->ChildsBegin(), container->ChildsEnd(), std::back_inserter(lines),
-                   [&](Node* child) {
-                     return LineOf<Node>{container, child, areGroups};
-                   });
-  }
-}
-
-template <class Node>
-std::vector<LineOf<Node>> LinesOf(Node& level) {
-  std::vector<LineOf<Node>> lines;
-  AddLines(level.Node(groupsTag), true, lines);
-  AddLines(level.Node(devicesTag), false, lines);
-  return lines;
-}
-
-/// The line at `place`; one without a node if there is none.
-template <class Node>
-LineOf<Node> Find(Node& deviceGroups, const TreePlace& place) {
-  LineOf<Node> line{nullptr, &deviceGroups, true};
-  for (const int row : place) {
-    if (!line.isGroup) {
-      return {};
-    }
-    const auto lines = LinesOf(*line.node);
-    if (row < 0 || row >= static_cast<int>(lines.size())) {
-      return {};
-    }
-    line = lines[static_cast<std::size_t>(row)];
-  }
-  return line;
-}
 
 bool IsAtOrBelow(const TreePlace& place, const TreePlace& above) {
   return above.size() <= place.size() && std::equal(above.begin(), above.end(), place.begin());
@@ -92,11 +45,6 @@ int Depth(const LineOf<Node>& line) {
     below = std::max(below, Depth(child));
   }
   return below + 1;
-}
-
-XmlNode& FindOrMake(XmlNode& level, const wchar_t* containerTag) {
-  XmlNode* container = level.Node(containerTag);
-  return container ? *container : *level.NewChild(containerTag, nullptr);
 }
 
 /// The children of a level before which something is put, or null for behind all.
@@ -130,7 +78,7 @@ XmlNode* Transfer(const Line& line, XmlNode& container) {
 /// child `before` or behind all for null. Gives the nodes that stand there now.
 NodeSet MoveKind(const std::vector<Line>& lines, bool areGroups, XmlNode& level,
                  const XmlNode* before) {
-  const wchar_t* const tag = areGroups ? groupsTag : devicesTag;
+  const wchar_t* const tag = areGroups ? qv::tag::Groups : qv::tag::Devices;
   NodeSet moved;
   for (const Line& line : lines) {
     if (line.isGroup == areGroups) {
@@ -174,6 +122,11 @@ void AddGroups(const XmlNode& level, const TreePlace& place, std::vector<GroupLi
 
 }  // namespace
 
+TreePlace GroupFor(const XmlNode& deviceGroups, const Places& selected) {
+  const TreePlace place = selected.size() == 1 ? selected.front() : TreePlace();
+  return IsGroupPlace(deviceGroups, place) ? place : ParentOf(place);
+}
+
 TreePlace ParentOf(TreePlace place) {
   place.pop_back();
   return place;
@@ -207,7 +160,7 @@ std::optional<TreePlace> AddGroup(XmlNode& deviceGroups, const TreePlace& parent
   if (!line.isGroup || parent.size() >= maxGroupDepth) {
     return std::nullopt;
   }
-  XmlNode& groups = FindOrMake(*line.node, groupsTag);
+  XmlNode& groups = FindOrMake(*line.node, qv::tag::Groups);
   groups.NewChild(L"group", nullptr)->SetValue(qv::tag::Name, QVWideString(name));
   TreePlace place = parent;
   place.push_back(static_cast<int>(std::distance(groups.ChildsBegin(), groups.ChildsEnd())) - 1);

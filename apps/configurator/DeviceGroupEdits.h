@@ -24,6 +24,10 @@ inline constexpr int maxGroupDepth = 100;
 /// Whether a group stands at `place`; the empty place counts as one.
 bool IsGroupPlace(const qv::XmlNode& deviceGroups, const TreePlace& place);
 
+/// The group into which something new goes: the one that is selected, or the one around the only
+/// selected line, or else the top.
+TreePlace GroupFor(const qv::XmlNode& deviceGroups, const Places& selected);
+
 /// A group and where it stands.
 struct GroupLine {
   TreePlace place;
