@@ -4,7 +4,6 @@
 #include <QItemSelectionModel>
 #include <QKeySequence>
 #include <QMenu>
-#include <QUndoCommand>
 #include <algorithm>
 #include <utility>
 
@@ -18,45 +17,17 @@ namespace configurator {
 namespace {
 
 using qv::XmlNode;
-using Snapshot = std::shared_ptr<const XmlNode>;
-
-/// Each step holds the device groups as they were before and after it.
-constexpr int maxSteps = 100;
-
 constexpr int indentation = 4;
-
-class DeviceGroupsChange : public QUndoCommand {
- public:
-  DeviceGroupsChange(qv::Configuration& configuration, OwnText what, Snapshot before,
-                     Snapshot after)
-      : m_configuration(configuration),
-        m_what(what),
-        m_before(std::move(before)),
-        m_after(std::move(after)) {}
-
-  OwnText What() const { return m_what; }
-  void undo() override { m_configuration.SetDeviceGroups(m_before.get()); }
-  void redo() override { m_configuration.SetDeviceGroups(m_after.get()); }
-
- private:
-  qv::Configuration& m_configuration;
-  OwnText m_what;
-  Snapshot m_before;
-  Snapshot m_after;
-};
-
-/// "Undo" and what, or the bare word if there is nothing to undo.
-QString StepText(const QUndoStack& stack, int index, OwnText bare, OwnText named,
-                 qv::Language language) {
-  const auto* step = dynamic_cast<const DeviceGroupsChange*>(stack.command(index));
-  return step ? Words(named, language).arg(Words(step->What(), language)) : Words(bare, language);
-}
 
 }  // namespace
 
 DeviceTreeEditor::DeviceTreeEditor(Workspace& workspace, DeviceTreeView& view, QObject* parent)
-    : QObject(parent), m_workspace(workspace), m_view(view), m_moveTo(new QMenu) {
-  MakeUndo();
+    : QObject(parent),
+      m_workspace(workspace),
+      m_view(view),
+      m_undo(workspace, view, this),
+      m_moveTo(new QMenu) {
+  connect(&m_undo, &DeviceGroupsUndo::Changed, this, &DeviceTreeEditor::Changed);
   m_newGroup = NewCommand(OwnText::NewGroup, Qt::CTRL | Qt::SHIFT | Qt::Key_N,
                           &DeviceTreeEditor::OnNewGroup);
   m_rename = NewCommand(OwnText::RenameGroup, Qt::Key_F2, &DeviceTreeEditor::OnRename);
@@ -69,10 +40,7 @@ DeviceTreeEditor::DeviceTreeEditor(Workspace& workspace, DeviceTreeView& view, Q
   ListenToView();
 }
 
-DeviceTreeEditor::~DeviceTreeEditor() {
-  // The stack tells of its end, when there is nothing left to show it with.
-  m_undo.disconnect(this);
-}
+DeviceTreeEditor::~DeviceTreeEditor() = default;
 
 QAction* DeviceTreeEditor::NewCommand(OwnText text, const QKeySequence& keys,
                                       void (DeviceTreeEditor::*run)()) {
@@ -87,26 +55,6 @@ QAction* DeviceTreeEditor::NewCommand(OwnText text, const QKeySequence& keys,
   m_commands.emplace_back(command, text);
   m_view.addAction(command);
   return command;
-}
-
-void DeviceTreeEditor::MakeUndo() {
-  m_undo.setUndoLimit(maxSteps);
-  m_undoCommand = new QAction(this);
-  m_undoCommand->setShortcut(QKeySequence::Undo);
-  connect(m_undoCommand, &QAction::triggered, this, [this] {
-    m_view.CommitName();
-    m_undo.undo();
-  });
-  m_redoCommand = new QAction(this);
-  m_redoCommand->setShortcuts(QKeySequence::Redo);
-  connect(m_redoCommand, &QAction::triggered, this, [this] {
-    m_view.CommitName();
-    m_undo.redo();
-  });
-  connect(&m_undo, &QUndoStack::indexChanged, this, [this] {
-    ShowUndoTexts();
-    emit Changed();
-  });
 }
 
 void DeviceTreeEditor::ListenToView() {
@@ -124,8 +72,7 @@ void DeviceTreeEditor::ListenToView() {
 }
 
 void DeviceTreeEditor::AddTo(QMenu& menu) {
-  menu.addAction(m_undoCommand);
-  menu.addAction(m_redoCommand);
+  m_undo.AddTo(menu);
   menu.addSeparator();
   for (const auto& [command, text] : m_commands) {
     menu.addAction(command);
@@ -136,29 +83,14 @@ void DeviceTreeEditor::ShowTexts() {
   for (const auto& [command, text] : m_commands) {
     command->setText(m_workspace.Words(text));
   }
-  ShowUndoTexts();
-}
-
-void DeviceTreeEditor::ShowUndoTexts() {
-  const int next = m_undo.index();
-  const qv::Language language = m_workspace.CurrentLanguage();
-  m_undoCommand->setText(StepText(m_undo, next - 1, OwnText::Undo, OwnText::UndoEdit, language));
-  m_undoCommand->setEnabled(m_undo.canUndo());
-  m_redoCommand->setText(StepText(m_undo, next, OwnText::Redo, OwnText::RedoEdit, language));
-  m_redoCommand->setEnabled(m_undo.canRedo());
-}
-
-TreePlace DeviceTreeEditor::ParentOfNewGroup() const {
-  const auto selected = m_view.Selected();
-  const TreePlace place = selected.size() == 1 ? selected.front() : TreePlace();
-  return IsGroupPlace(Groups(), place) ? place : ParentOf(place);
+  m_undo.ShowTexts();
 }
 
 void DeviceTreeEditor::OnNewGroup() {
   std::optional<TreePlace> made;
-  Apply(OwnText::GroupMade, [&](XmlNode& groups) {
+  m_undo.Apply(OwnText::GroupMade, [&](XmlNode& groups) {
     const auto name = m_workspace.Words(OwnText::NewGroupName).toStdWString();
-    made = AddGroup(groups, ParentOfNewGroup(), name);
+    made = AddGroup(groups, GroupFor(groups, m_view.Selected()), name);
     return made ? Places{*made} : Places();
   });
   if (made) {
@@ -169,7 +101,7 @@ void DeviceTreeEditor::OnNewGroup() {
 void DeviceTreeEditor::OnRename() { m_view.EditName(m_view.Selected().front()); }
 
 void DeviceTreeEditor::OnRemove() {
-  Apply(OwnText::GroupRemoved, [place = m_view.Selected().front()](XmlNode& groups) {
+  m_undo.Apply(OwnText::GroupRemoved, [place = m_view.Selected().front()](XmlNode& groups) {
     return RemoveGroup(groups, place) ? Places{place} : Places();
   });
 }
@@ -180,14 +112,15 @@ void DeviceTreeEditor::OnDown() { MoveBy(1); }
 void DeviceTreeEditor::Rename(const TreePlace& place, const QString& name) {
   const std::wstring wide = name.trimmed().toStdWString();
   if (!wide.empty() && qv::IsXmlText(wide)) {
-    Apply(OwnText::GroupRenamed, [&](XmlNode& groups) {
+    m_undo.Apply(OwnText::GroupRenamed, [&](XmlNode& groups) {
       return RenameGroup(groups, place, wide) ? Places{place} : Places();
     });
   }
 }
 
 void DeviceTreeEditor::Move(const Places& what, const TreePlace& group, std::optional<int> row) {
-  Apply(OwnText::LinesMoved, [&](XmlNode& groups) { return MoveLines(groups, what, group, row); });
+  m_undo.Apply(OwnText::LinesMoved,
+               [&](XmlNode& groups) { return MoveLines(groups, what, group, row); });
 }
 
 void DeviceTreeEditor::MoveBy(int rows) {
@@ -195,26 +128,8 @@ void DeviceTreeEditor::MoveBy(int rows) {
   Move({place}, ParentOf(place), place.back() + (rows < 0 ? rows : rows + 1));
 }
 
-void DeviceTreeEditor::Apply(OwnText what, const Edit& edit) {
-  qv::Configuration& configuration = m_workspace.Config();
-  const XmlNode* groups = configuration.DeviceGroups();
-  const Snapshot before = groups ? std::make_shared<const XmlNode>(*groups) : nullptr;
-  const auto after = std::make_shared<XmlNode>(Groups());
-  const Places places = edit(*after);
-  if (!places.empty() && *after != Groups()) {
-    m_undo.push(new DeviceGroupsChange(configuration, what, before, after));
-    m_view.Select(places);
-  }
-}
-
-void DeviceTreeEditor::Forget() {
-  const QSignalBlocker silent(m_undo);
-  m_undo.clear();
-  ShowUndoTexts();
-}
-
 void DeviceTreeEditor::ShowState() {
-  m_newGroup->setEnabled(ParentOfNewGroup().size() < maxGroupDepth);
+  m_newGroup->setEnabled(GroupFor(Groups(), m_view.Selected()).size() < maxGroupDepth);
   const bool isGroup = IsSelectedGroup();
   m_rename->setEnabled(isGroup);
   m_remove->setEnabled(isGroup);

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <QObject>
-#include <QUndoStack>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "apps/configurator/DeviceGroupEdits.h"
+#include "apps/configurator/DeviceGroupsUndo.h"
 #include "apps/configurator/Workspace.h"
 
 class QAction;
@@ -26,7 +25,6 @@ class DeviceTreeEditor : public QObject {
  public:
   /// Both outlive the editor; `view` shows the device groups of the open installation.
   DeviceTreeEditor(Workspace& workspace, DeviceTreeView& view, QObject* parent);
-
   ~DeviceTreeEditor() override;
 
   /// Adds the commands to `menu`.
@@ -35,18 +33,14 @@ class DeviceTreeEditor : public QObject {
   void ShowTexts();
   /// Takes back the chance to undo and redo, since something else changed the device groups. They
   /// have to be shown by whoever calls this.
-  void Forget();
+  void Forget() { m_undo.Forget(); }
 
  signals:
   /// The device groups are others now: they have to be shown.
   void Changed();
 
  private:
-  /// Changes the tree and gives the places to select then; no change if none.
-  using Edit = std::function<Places(qv::XmlNode&)>;
-
   QAction* NewCommand(OwnText text, const QKeySequence& keys, void (DeviceTreeEditor::*run)());
-  void MakeUndo();
   void ListenToView();
 
   void OnNewGroup();
@@ -58,23 +52,18 @@ class DeviceTreeEditor : public QObject {
   void Move(const Places& what, const TreePlace& group, std::optional<int> row);
   void MoveBy(int rows);
 
-  void Apply(OwnText what, const Edit& edit);
   void ShowState();
-  void ShowUndoTexts();
   void FillMoveTo();
   void AddTarget(const QString& name, const TreePlace& group);
 
   const qv::XmlNode& Groups() const;
   bool IsSelectedGroup() const;
   bool CanMoveBy(int rows) const;
-  TreePlace ParentOfNewGroup() const;
 
   Workspace& m_workspace;
   DeviceTreeView& m_view;
-  QUndoStack m_undo;
+  DeviceGroupsUndo m_undo;
   std::vector<std::pair<QAction*, OwnText>> m_commands;
-  QAction* m_undoCommand = nullptr;
-  QAction* m_redoCommand = nullptr;
   QAction* m_newGroup = nullptr;
   QAction* m_rename = nullptr;
   QAction* m_remove = nullptr;
