@@ -1,6 +1,5 @@
 #include "apps/configurator/MainWindow.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
@@ -16,6 +15,7 @@
 #include "apps/configurator/DeviceTreeEditor.h"
 #include "apps/configurator/DeviceTreeView.h"
 #include "apps/configurator/DiscriminatorManager.h"
+#include "apps/configurator/LanguageMenu.h"
 #include "apps/configurator/StatusLine.h"
 
 namespace configurator {
@@ -31,9 +31,7 @@ QString WithoutMark(QString text) {
 }  // namespace
 
 MainWindow::MainWindow(Workspace& workspace)
-    : m_workspace(workspace),
-      m_languageChoice(new QActionGroup(this)),
-      m_statusLine(new StatusLine(this)) {
+    : m_workspace(workspace), m_statusLine(new StatusLine(this)) {
   MakeCentre();
   MakeFileMenu();
   MakeEditMenu();
@@ -86,8 +84,8 @@ QAction* MainWindow::Captioned(QAction* action, OwnText text) {
   return action;
 }
 
-QMenu* MainWindow::NewMenu(QMenu* parent, OwnText text) {
-  QMenu* menu = parent ? parent->addMenu(QString()) : menuBar()->addMenu(QString());
+QMenu* MainWindow::NewMenu(OwnText text) {
+  QMenu* menu = menuBar()->addMenu(QString());
   Captioned(menu->menuAction(), text);
   return menu;
 }
@@ -96,7 +94,7 @@ void MainWindow::MakeFileMenu() {
   const auto icon = [this](const char* name, QStyle::StandardPixmap otherwise) {
     return QIcon::fromTheme(QString::fromLatin1(name), style()->standardIcon(otherwise));
   };
-  QMenu* menu = NewMenu(nullptr, OwnText::FileMenu);
+  QMenu* menu = NewMenu(OwnText::FileMenu);
   m_open = Captioned(menu->addAction(icon("document-open", QStyle::SP_DialogOpenButton), QString(),
                                      this, &MainWindow::OnOpen),
                      OwnText::OpenInstallation);
@@ -116,34 +114,23 @@ void MainWindow::MakeFileMenu() {
 
 void MainWindow::MakeEditMenu() {
   m_editor = new DeviceTreeEditor(m_workspace, *m_tree, this);
-  m_editor->AddTo(*NewMenu(nullptr, OwnText::EditMenu));
+  m_editor->AddTo(*NewMenu(OwnText::EditMenu));
   connect(m_editor, &DeviceTreeEditor::Changed, this, &MainWindow::ShowDocument);
 }
 
 void MainWindow::MakeSettingsMenu() {
-  QMenu* menu = NewMenu(nullptr, OwnText::SettingsMenu);
-  MakeLanguageMenu(menu);
+  QMenu* menu = NewMenu(OwnText::SettingsMenu);
+  m_languages = new LanguageMenu(menu);
+  Captioned(menu->addMenu(m_languages), OwnText::LanguageMenu);
+  connect(m_languages, &LanguageMenu::Chosen, this, &MainWindow::OnLanguage);
   m_embedded = Captioned(menu->addAction(QString()), OwnText::EmbeddedInstallation);
   m_embedded->setObjectName(QStringLiteral("embedded"));
   m_embedded->setCheckable(true);
   connect(m_embedded, &QAction::triggered, this, &MainWindow::OnEmbedded);
 }
 
-void MainWindow::MakeLanguageMenu(QMenu* settings) {
-  QMenu* menu = NewMenu(settings, OwnText::LanguageMenu);
-  for (const qv::LanguageName& known : qv::languageNames) {
-    // A language is called by its own name in every language.
-    QAction* action = m_languageChoice->addAction(menu->addAction(QString::fromUtf8(known.name)));
-    action->setObjectName(QStringLiteral("language-") + QString::fromLatin1(known.code));
-    action->setCheckable(true);
-    connect(action, &QAction::triggered, this,
-            [this, language = known.language] { OnLanguage(language); });
-    m_languages[known.language] = action;
-  }
-}
-
 void MainWindow::MakeHelpMenu() {
-  QMenu* menu = NewMenu(nullptr, OwnText::HelpMenu);
+  QMenu* menu = NewMenu(OwnText::HelpMenu);
   Captioned(menu->addAction(QString(), this, &MainWindow::OnAbout), OwnText::About)
       ->setObjectName(QStringLiteral("about"));
 }
@@ -226,7 +213,7 @@ void MainWindow::ShowTexts() {
   }
   m_toolbar->setWindowTitle(m_workspace.Words(OwnText::Toolbar));
   m_discriminators->setText(m_workspace.Words(OwnText::Discriminators));
-  m_languages.at(m_workspace.CurrentLanguage())->setChecked(true);
+  m_languages->Mark(m_workspace.CurrentLanguage());
   m_statusLine->SetLanguage(m_workspace.CurrentLanguage());
   m_editor->ShowTexts();
   ShowDocument();

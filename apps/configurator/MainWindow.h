@@ -1,14 +1,12 @@
 #pragma once
 
 #include <QMainWindow>
-#include <map>
 #include <utility>
 #include <vector>
 
 #include "apps/configurator/Workspace.h"
 
 class QAction;
-class QActionGroup;
 class QMenu;
 class QPushButton;
 class QToolBar;
@@ -17,6 +15,7 @@ namespace configurator {
 
 class DeviceTreeEditor;
 class DeviceTreeView;
+class LanguageMenu;
 class StatusLine;
 
 /// Shows the device groups of the open installation, and from it the user opens and saves
@@ -41,12 +40,11 @@ class MainWindow : public QMainWindow {
   void MakeFileMenu();
   void MakeEditMenu();
   void MakeSettingsMenu();
-  void MakeLanguageMenu(QMenu* settings);
   void MakeHelpMenu();
   void MakeToolbar();
   void MakeCentre();
   QAction* Captioned(QAction* action, OwnText text);
-  QMenu* NewMenu(QMenu* parent, OwnText text);
+  QMenu* NewMenu(OwnText text);
 
   void OnOpen();
   bool OnSave();
@@ -65,11 +63,10 @@ class MainWindow : public QMainWindow {
 
   Workspace& m_workspace;
   std::vector<std::pair<QAction*, OwnText>> m_captions;
-  QActionGroup* m_languageChoice;
-  std::map<qv::Language, QAction*> m_languages;
   QAction* m_open = nullptr;
   QAction* m_save = nullptr;
   QAction* m_embedded = nullptr;
+  LanguageMenu* m_languages = nullptr;
   QToolBar* m_toolbar = nullptr;
   DeviceTreeView* m_tree = nullptr;
   DeviceTreeEditor* m_editor = nullptr;
