@@ -21,6 +21,9 @@ struct DeviceTreeItem {
   std::wstring name;
   std::vector<DeviceTreeItem> below;
 
+  /// Whether it is an entry that leads nowhere.
+  bool IsBroken() const { return kind != Kind::Group && name.empty(); }
+
   friend bool operator==(const DeviceTreeItem&, const DeviceTreeItem&) = default;
 };
 

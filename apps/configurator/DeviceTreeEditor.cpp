@@ -26,6 +26,7 @@ DeviceTreeEditor::DeviceTreeEditor(Workspace& workspace, DeviceTreeView& view, Q
       m_workspace(workspace),
       m_view(view),
       m_undo(workspace, view, this),
+      m_entries(workspace, view, m_undo, this),
       m_moveTo(new QMenu) {
   connect(&m_undo, &DeviceGroupsUndo::Changed, this, &DeviceTreeEditor::Changed);
   m_newGroup = NewCommand(OwnText::NewGroup, Qt::CTRL | Qt::SHIFT | Qt::Key_N,
@@ -77,6 +78,8 @@ void DeviceTreeEditor::AddTo(QMenu& menu) {
   for (const auto& [command, text] : m_commands) {
     menu.addAction(command);
   }
+  menu.addSeparator();
+  m_entries.AddTo(menu);
 }
 
 void DeviceTreeEditor::ShowTexts() {
@@ -84,6 +87,7 @@ void DeviceTreeEditor::ShowTexts() {
     command->setText(m_workspace.Words(text));
   }
   m_undo.ShowTexts();
+  m_entries.ShowTexts();
 }
 
 void DeviceTreeEditor::OnNewGroup() {

@@ -8,6 +8,7 @@
 
 #include "apps/configurator/DeviceGroupEdits.h"
 #include "apps/configurator/DeviceGroupsUndo.h"
+#include "apps/configurator/EntryCommands.h"
 #include "apps/configurator/Workspace.h"
 
 class QAction;
@@ -63,6 +64,7 @@ class DeviceTreeEditor : public QObject {
   Workspace& m_workspace;
   DeviceTreeView& m_view;
   DeviceGroupsUndo m_undo;
+  EntryCommands m_entries;
   std::vector<std::pair<QAction*, OwnText>> m_commands;
   QAction* m_newGroup = nullptr;
   QAction* m_rename = nullptr;

@@ -3,7 +3,9 @@
 #include <QHash>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <algorithm>
 #include <functional>
 #include <iterator>
@@ -19,6 +21,9 @@ namespace {
 /// a number that tells it from others of that name beside it.
 constexpr int keyRole = Qt::UserRole;
 
+constexpr int discriminatorRole = Qt::UserRole + 2;
+constexpr int brokenRole = Qt::UserRole + 3;
+
 constexpr int gapBetweenColumns = 24;
 
 void ForEachLine(const QAbstractItemModel& model, const QModelIndex& parent,
@@ -28,6 +33,10 @@ void ForEachLine(const QAbstractItemModel& model, const QModelIndex& parent,
     visit(line);
     ForEachLine(model, line, visit);
   }
+}
+
+bool IsDiscriminator(const QModelIndex& index) {
+  return index.siblingAtColumn(0).data(discriminatorRole).toBool();
 }
 
 QStandardItem* Cell(const QString& text) {
@@ -85,6 +94,25 @@ void DeviceTreeView::CommitName() {
     commitData(editors.last());
     closeEditor(editors.last(), QAbstractItemDelegate::NoHint);
     m_model->TellNow();
+  }
+}
+
+bool DeviceTreeView::IsBroken(const TreePlace& place) const {
+  return IndexOf(place).data(brokenRole).toBool();
+}
+
+void DeviceTreeView::keyPressEvent(QKeyEvent* event) {
+  QTreeView::keyPressEvent(event);
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isReturn && IsDiscriminator(currentIndex())) {
+    emit DiscriminatorActivated();
+  }
+}
+
+void DeviceTreeView::mouseDoubleClickEvent(QMouseEvent* event) {
+  QTreeView::mouseDoubleClickEvent(event);
+  if (event->button() == Qt::LeftButton && IsDiscriminator(indexAt(event->position().toPoint()))) {
+    emit DiscriminatorActivated();
   }
 }
 
@@ -158,6 +186,8 @@ QList<QStandardItem*> DeviceTreeView::Line(const DeviceTreeItem& item, const QSt
   name->setIcon(IconOf(item));
   name->setData(key, keyRole);
   name->setData(qv::ToQString(item.name), DeviceTreeModel::nameRole);
+  name->setData(item.kind == DeviceTreeItem::Kind::Discriminator, discriminatorRole);
+  name->setData(item.IsBroken(), brokenRole);
   name->setEditable(isGroup);
   name->setDropEnabled(isGroup);
   type->setDropEnabled(false);
@@ -176,7 +206,7 @@ QString DeviceTreeView::NameText(const DeviceTreeItem& item) const {
 
 QString DeviceTreeView::TypeText(const DeviceTreeItem& item) const {
   QString type = qv::ToQString(item.type);
-  if (item.kind == DeviceTreeItem::Kind::Group || !item.name.empty()) {
+  if (!item.IsBroken()) {
     return type;
   }
   const OwnText hint = item.kind == DeviceTreeItem::Kind::Device ? OwnText::DeviceNotFound
@@ -188,7 +218,7 @@ QIcon DeviceTreeView::IconOf(const DeviceTreeItem& item) const {
   if (item.kind == DeviceTreeItem::Kind::Group) {
     return style()->standardIcon(QStyle::SP_DirIcon);
   }
-  if (item.name.empty()) {
+  if (item.IsBroken()) {
     return style()->standardIcon(QStyle::SP_MessageBoxWarning);
   }
   return item.kind == DeviceTreeItem::Kind::Discriminator

@@ -35,8 +35,19 @@ class DeviceTreeView : public QTreeView {
   /// Takes the name that is being typed, if there is one, as if it had been confirmed.
   void CommitName();
 
+  /// Whether the line at `place` is an entry that leads nowhere.
+  bool IsBroken(const TreePlace& place) const;
+
   /// The model of the lines, which tells of what the user does to them.
   DeviceTreeModel& Lines() { return *m_model; }
+
+ signals:
+  /// The user wants to work on the discriminator of a line: by Return, or by a double click.
+  void DiscriminatorActivated();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
   QModelIndex IndexOf(const TreePlace& place) const;

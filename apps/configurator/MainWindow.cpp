@@ -14,6 +14,7 @@
 #include "apps/configurator/DeviceTree.h"
 #include "apps/configurator/DeviceTreeEditor.h"
 #include "apps/configurator/DeviceTreeView.h"
+#include "apps/configurator/DiscriminatorEntries.h"
 #include "apps/configurator/DiscriminatorManager.h"
 #include "apps/configurator/LanguageMenu.h"
 #include "apps/configurator/StatusLine.h"
@@ -114,7 +115,17 @@ void MainWindow::MakeFileMenu() {
 
 void MainWindow::MakeEditMenu() {
   m_editor = new DeviceTreeEditor(m_workspace, *m_tree, this);
-  m_editor->AddTo(*NewMenu(OwnText::EditMenu));
+  QMenu* menu = NewMenu(OwnText::EditMenu);
+  m_editor->AddTo(*menu);
+  menu->addSeparator();
+  QAction* manage = Captioned(
+      menu->addAction(m_discriminators->icon(), QString(), this, &MainWindow::OnDiscriminators),
+      OwnText::ManageDiscriminators);
+  manage->setShortcut(Qt::CTRL | Qt::Key_D);
+  m_tree->addAction(manage);
+  // The event that asks for it is over by then: the manager changes the lines.
+  connect(m_tree, &DeviceTreeView::DiscriminatorActivated, this, &MainWindow::OnDiscriminators,
+          Qt::QueuedConnection);
   connect(m_editor, &DeviceTreeEditor::Changed, this, &MainWindow::ShowDocument);
 }
 
@@ -191,11 +202,13 @@ void MainWindow::OnEmbedded(bool embedded) {
 void MainWindow::OnDiscriminators() {
   m_tree->CommitName();
   m_statusLine->Tell(OwnText::Ready);
+  const auto before = DiscriminatorEntriesOf(m_workspace.Config().DeviceGroups());
   const ManagerEnd end = RunDiscriminatorManager(m_workspace, this);
   // What was undone before could not be redone on the tree that the manager leaves.
   m_editor->Forget();
   // Files and tree may have changed in every case: the result speaks of the configuration alone.
   ShowDocument();
+  m_tree->Select(EntriesSince(before, DiscriminatorEntriesOf(m_workspace.Config().DeviceGroups())));
   if (end.problem) {
     Report(*end.problem);
   }

@@ -26,6 +26,10 @@ enum class OwnText {
   MoveDown,
   MoveToMenu,
   TopLevel,
+  TakeOutEntry,
+  PutInMenu,
+  PutInAll,
+  ManageDiscriminators,
   SettingsMenu,
   LanguageMenu,
   EmbeddedInstallation,
@@ -40,6 +44,8 @@ enum class OwnText {
   GroupRenamed,
   GroupRemoved,
   LinesMoved,
+  EntriesTakenOut,
+  EntriesPutIn,
 
   Tree,      ///< heading of the names in the tree of devices and groups
   TreeType,  ///< heading of the types

@@ -41,7 +41,8 @@ TEST(OwnTexts, NoTwoCaptionsBesideEachOtherShareTheirKey) {
                   known.language);
     ExpectOwnKeys({OwnText::OpenInstallation, OwnText::Save, OwnText::Quit}, known.language);
     ExpectOwnKeys({OwnText::Undo, OwnText::Redo, OwnText::NewGroup, OwnText::RenameGroup,
-                   OwnText::RemoveGroup, OwnText::MoveUp, OwnText::MoveDown, OwnText::MoveToMenu},
+                   OwnText::RemoveGroup, OwnText::MoveUp, OwnText::MoveDown, OwnText::MoveToMenu,
+                   OwnText::TakeOutEntry, OwnText::PutInMenu, OwnText::ManageDiscriminators},
                   known.language);
     ExpectOwnKeys({OwnText::LanguageMenu, OwnText::EmbeddedInstallation}, known.language);
   }
