@@ -3,6 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
+#include <filesystem>
 #include <utility>
 #include <vector>
 
@@ -27,13 +29,21 @@ constexpr const char* examples = R"(Examples:
                --size 900x600 --picture main.png
       saves a picture of the main window, and ends
 
+Without --installation DIR the environment variable QVDISC_INSTALLATION names the directory;
+without that it is the working directory, if configuration.xml is there, and else the one that
+was open last. If there is none, a window offers to open one, make one, or take an example.
+
 Of an option that is given more than once, the last one counts.
 
 Exit status: 0 if all went well, 1 if something could not be done, 2 if the call is wrong.)";
 
+/// The environment variable that stands in for --installation.
+constexpr const char* installationVariable = "QVDISC_INSTALLATION";
+
 /// The options as their texts, to be turned into values once all of them are known to be good.
 struct Texts {
   std::string installation;
+  std::string settings;
   std::string language;
   std::string show = windowNames.front().name;
   std::string picture;
@@ -89,13 +99,17 @@ void AddInstallationOptions(CLI::App& app, Texts& texts) {
               "Directory of the installation: its configuration.xml, which is made\n"
               "at the first saving if there is none, and its discriminators")
           ->type_name("DIR")
-          ->required()
           ->check(CLI::Validator(CLI::ExistingDirectory).description(""));
   Check(installation, [](const std::string& text) { return commandline::NotUtf8("name", text); });
   Restrict(AddText(app, "--language", texts.language,
-                   "Language of all texts: that of the system if this is not given,\n"
-                   "and English if the system's is neither"),
+                   "Language of all texts: otherwise the one chosen last, then that\n"
+                   "of the system, or English if the system's is neither"),
            commandline::LanguageCodes(), NoneOf);
+  Check(AddText(app, "--settings", texts.settings,
+                "Remember language, window and last installation in this file, in place\n"
+                "of the user's own")
+            ->type_name("FILE"),
+        NoName);
 }
 
 void AddWindowOptions(CLI::App& app, Texts& texts) {
@@ -127,6 +141,27 @@ void AddOptions(CLI::App& app, Texts& texts) {
   AddWindowOptions(app, texts);
 }
 
+std::string NoDirectory(const std::string& text) {
+  std::error_code error;
+  return std::filesystem::is_directory(text, error) ? commandline::NotUtf8("name", text)
+                                                    : "Directory does not exist: " + text;
+}
+
+/// The installation that the call names, else the environment, else the one whose directory this
+/// is.
+std::string Installation(std::string named) {
+  const char* set = std::getenv(installationVariable);
+  if (named.empty() && set && *set) {
+    if (const std::string fault = NoDirectory(set); !fault.empty()) {
+      commandline::Refuse(std::string(installationVariable) + ": " + fault);
+    }
+    return set;
+  }
+  std::error_code error;
+  const bool isHere = std::filesystem::exists("configuration.xml", error);
+  return named.empty() && isHere ? "." : std::move(named);
+}
+
 std::optional<std::string> Given(std::string text) {
   return text.empty() ? std::nullopt : std::optional(std::move(text));
 }
@@ -143,13 +178,14 @@ Arguments ReadTexts(Texts texts) {
   if (texts.list && !window.listsRows) {
     throw CLI::ValidationError("--list", "The window " + texts.show + " lists no rows");
   }
-  return {.installation = std::move(texts.installation),
+  return {.installation = Installation(std::move(texts.installation)),
           .language = qv::LanguageOf(texts.language),
           .show = window.window,
           .picture = Given(std::move(texts.picture)),
           .size = ReadSize(texts.size),
           .theme = ReadTheme(texts.theme),
-          .list = texts.list};
+          .list = texts.list,
+          .settings = Given(std::move(texts.settings))};
 }
 
 }  // namespace

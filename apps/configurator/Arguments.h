@@ -12,7 +12,7 @@
 namespace configurator {
 
 /// A window that can be shown alone.
-enum class ShownWindow { Main, Discriminators };
+enum class ShownWindow { Main, Discriminators, Start };
 
 /// What the command line calls a window.
 struct WindowName {
@@ -27,6 +27,8 @@ inline constexpr std::array windowNames = {
     WindowName{"main", ShownWindow::Main, "the main window", false},
     WindowName{"discriminators", ShownWindow::Discriminators,
                "the manager of the installation's discriminators", true},
+    WindowName{"start", ShownWindow::Start, "what is shown if there is no installation to open",
+               false},
 };
 
 enum class Theme { Light, Dark };
@@ -41,20 +43,28 @@ struct WindowSize {
 
 /// What the command line asks for.
 struct Arguments {
-  std::string installation;              ///< an existing directory, in UTF-8
+  /// A directory, in UTF-8: that of the call, of the environment or the present one; empty if none
+  /// of these names an installation.
+  std::string installation;
   std::optional<qv::Language> language;  ///< nothing for that of the user's system
   ShownWindow show = ShownWindow::Main;
   std::optional<std::string> picture;  ///< the file to make, in UTF-8
   std::optional<WindowSize> size;
   std::optional<Theme> theme;  ///< nothing for that of the user's system
   bool list = false;
+  std::optional<std::string> settings;  ///< a file, in UTF-8; nothing for that of the user
 
   /// Whether the program ends by itself once the window has been up, so that nobody need be there.
   bool EndsByItself() const { return picture.has_value() || list; }
 };
 
-/// Reads the command line, of which the first is the program's name. A call that can't be carried
-/// out gives the status 2 and the reason in words.
+/// Why the program can't go on without anybody to ask for an installation.
+inline constexpr std::string_view noInstallation =
+    "No installation is named: give --installation DIR, set QVDISC_INSTALLATION, or work in the "
+    "directory of one";
+
+/// Reads the command line, of which the first is the program's name, and what the environment says
+/// in place of it. A call that can't be carried out gives the status 2 and the reason in words.
 [[nodiscard]] std::variant<Arguments, commandline::EarlyEnd> ReadArguments(
     int count, const char* const* arguments);
 

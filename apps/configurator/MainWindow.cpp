@@ -58,6 +58,7 @@ void MainWindow::Open(const QString& directory) {
     m_editor->Forget();
     ShowInstallation();
     ShowDocument();
+    emit Opened(m_workspace.Directory());
   }
 }
 
@@ -190,6 +191,8 @@ bool MainWindow::OnSave() {
 void MainWindow::OnLanguage(qv::Language language) {
   if (const auto problem = m_workspace.SetLanguage(language)) {
     Report(*problem);
+  } else {
+    emit LanguageChosen(language);
   }
   ShowTexts();
 }

@@ -32,6 +32,12 @@ class MainWindow : public QMainWindow {
   /// one. Asks first what is to become of unsaved changes.
   void Open(const QString& directory);
 
+ signals:
+  /// The user chose this language.
+  void LanguageChosen(qv::Language language);
+  /// The installation in this directory is open now.
+  void Opened(const QString& directory);
+
  protected:
   /// Asks first what is to become of unsaved changes.
   void closeEvent(QCloseEvent* event) override;

@@ -48,6 +48,23 @@ constexpr qv::EnumTable texts(std::array{
     OwnTextRow{OwnText::Toolbar, "Herramientas", "Tools"},
     OwnTextRow{OwnText::Discriminators, "&Discriminadores…", "&Discriminators…"},
 
+    OwnTextRow{OwnText::StartQuestion, "¿Con qué instalación quiere trabajar?",
+               "Which installation do you want to work on?"},
+    OwnTextRow{OwnText::OpenHint, "Un directorio en el que ya hay una configuración",
+               "A directory that has a configuration already"},
+    OwnTextRow{OwnText::MakeInstallation, "&Nueva instalación…", "&New installation…"},
+    OwnTextRow{OwnText::MakeHint, "Una configuración vacía en el directorio que elija",
+               "An empty configuration in the directory that you choose"},
+    OwnTextRow{OwnText::MakeWhere, "Directorio de la nueva instalación",
+               "Directory of the new installation"},
+    OwnTextRow{OwnText::TakeExample, "&Copiar el ejemplo…", "&Take the example…"},
+    OwnTextRow{OwnText::ExampleHint,
+               "Tarifas 2.0TD, 3.0TD y 6.1TD de 2026, en una copia que puede modificar",
+               "Tariffs 2.0TD, 3.0TD and 6.1TD for 2026, in a copy that you may change"},
+    OwnTextRow{OwnText::ExampleWhere, "Directorio en el que se guarda la copia del ejemplo",
+               "Directory to put the copy of the example into"},
+    OwnTextRow{OwnText::ExampleName, "Instalación de ejemplo", "Example installation"},
+
     OwnTextRow{OwnText::GroupMade, "nuevo grupo", "new group"},
     OwnTextRow{OwnText::GroupRenamed, "cambio de nombre", "renaming"},
     OwnTextRow{OwnText::GroupRemoved, "eliminación de grupo", "removal of a group"},
@@ -106,6 +123,16 @@ constexpr qv::EnumTable texts(std::array{
     OwnTextRow{OwnText::DirectoryMissing,
                "El directorio «%1» no existe. Elija el directorio de una instalación.",
                "The directory “%1” does not exist. Choose the directory of an installation."},
+    OwnTextRow{OwnText::InstallationThere,
+               "En el directorio «%1» ya hay una instalación. No se ha modificado. Elija otro "
+               "directorio o abra esa instalación.",
+               "There is an installation in the directory “%1” already. It has not been changed. "
+               "Choose another directory, or open that installation."},
+    OwnTextRow{OwnText::ExampleNotCopied,
+               "No se ha podido copiar el ejemplo al directorio «%1». Compruebe los permisos y el "
+               "espacio del disco o elija otro directorio.",
+               "The example could not be copied into the directory “%1”. Check permissions and "
+               "disk space, or choose another directory."},
     OwnTextRow{
         OwnText::LanguageFileMissing,
         "No se puede leer el archivo de idioma «%1». Vuelva a instalar el programa o elija otro "

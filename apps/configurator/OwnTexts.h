@@ -39,6 +39,17 @@ enum class OwnText {
   Toolbar,
   Discriminators,
 
+  // The window of a start without an installation
+  StartQuestion,
+  OpenHint,
+  MakeInstallation,
+  MakeHint,
+  MakeWhere,
+  TakeExample,
+  ExampleHint,
+  ExampleWhere,
+  ExampleName,  ///< of a directory
+
   // What an edit did, as the undo menu tells it
   GroupMade,
   GroupRenamed,
@@ -69,6 +80,8 @@ enum class OwnText {
   ConfigurationForeign,
   ConfigurationNotSaved,
   DirectoryMissing,
+  InstallationThere,
+  ExampleNotCopied,
   LanguageFileMissing,
   PictureNotSaved,
   WindowNotShown,

@@ -4,11 +4,14 @@
 #include <QIcon>
 #include <QLocale>
 #include <cstdio>
+#include <functional>
 
 #include "apps/configurator/Boxes.h"
 #include "apps/configurator/DiscriminatorManager.h"
 #include "apps/configurator/MainWindow.h"
 #include "apps/configurator/Presenter.h"
+#include "apps/configurator/Settings.h"
+#include "apps/configurator/StartWindow.h"
 #include "apps/configurator/Theme.h"
 #include "apps/configurator/Workspace.h"
 
@@ -40,20 +43,79 @@ int FailToStart(const QString& problem, const Workspace& workspace, const Argume
   return Fail(problem);
 }
 
-Workspace::Problem Prepare(Workspace& workspace, const Arguments& arguments) {
-  if (auto problem = workspace.SetLanguage(arguments.language.value_or(SystemLanguage()))) {
+Workspace::Problem Prepare(Workspace& workspace, const Settings& settings,
+                           const Arguments& arguments) {
+  const auto remembered = settings.Language();
+  const auto language = arguments.language ? arguments.language : remembered;
+  if (auto problem = workspace.SetLanguage(language.value_or(SystemLanguage()))) {
     return problem;
   }
   QApplication::setWindowIcon(QIcon(workspace.ImageFile("PROGRAM-1.png")));
-  return workspace.Open(QString::fromStdString(arguments.installation));
+  return std::nullopt;
 }
 
-Workspace::Problem ShowMain(Workspace& workspace, Presenter& presenter) {
+/// Nothing if an installation is open then; otherwise the user has left, and this is the status.
+std::optional<int> ShowStart(Workspace& workspace, const QString& note,
+                             const std::function<void(QWidget&)>& whenMade = {}) {
+  StartWindow window(workspace, note);
+  if (whenMade) {
+    whenMade(window);
+  }
+  return window.exec() == QDialog::Accepted ? std::nullopt : std::optional(0);
+}
+
+/// Likewise for the installation that was open last, or the one that the user chooses in its place.
+std::optional<int> OpenLast(Workspace& workspace, const Settings& settings,
+                            const Arguments& arguments) {
+  const QString last = settings.Installation();
+  const auto problem = last.isEmpty() ? std::nullopt : workspace.Open(last);
+  if (!last.isEmpty() && !problem) {
+    return std::nullopt;
+  }
+  if (!arguments.EndsByItself()) {
+    return ShowStart(workspace, problem.value_or(QString()));
+  }
+  if (problem) {
+    return Fail(*problem);
+  }
+  std::fputs(ErrorLine(noInstallation).c_str(), stderr);
+  return commandline::badCall;
+}
+
+std::optional<int> OpenInstallation(Workspace& workspace, const Settings& settings,
+                                    Presenter& presenter, const Arguments& arguments) {
+  if (arguments.show == ShownWindow::Start) {
+    return ShowStart(workspace, {}, [&](QWidget& window) { presenter.Present(window); });
+  }
+  if (arguments.installation.empty()) {
+    return OpenLast(workspace, settings, arguments);
+  }
+  const auto problem = workspace.Open(QString::fromStdString(arguments.installation));
+  return problem ? std::optional(FailToStart(*problem, workspace, arguments)) : std::nullopt;
+}
+
+void Remember(Settings& settings, MainWindow& window) {
+  window.restoreGeometry(settings.Window());
+  QObject::connect(&window, &MainWindow::LanguageChosen, &window,
+                   [&settings](qv::Language language) { settings.SetLanguage(language); });
+  QObject::connect(&window, &MainWindow::Opened, &window,
+                   [&settings](const QString& directory) { settings.SetInstallation(directory); });
+}
+
+void ShowMain(Workspace& workspace, Settings& settings, Presenter& presenter,
+              const Arguments& arguments) {
   MainWindow window(workspace);
-  presenter.Present(window);
+  if (!arguments.EndsByItself()) {
+    Remember(settings, window);
+  }
+  if (arguments.show == ShownWindow::Main) {
+    presenter.Present(window);
+  }
   window.show();
   QApplication::exec();
-  return std::nullopt;
+  if (!arguments.EndsByItself()) {
+    settings.SetWindow(window.saveGeometry());
+  }
 }
 
 Workspace::Problem ShowDiscriminators(Workspace& workspace, Presenter& presenter,
@@ -66,15 +128,25 @@ Workspace::Problem ShowDiscriminators(Workspace& workspace, Presenter& presenter
   return end.problem;
 }
 
-Workspace::Problem ShowWindow(Workspace& workspace, Presenter& presenter,
+/// Shows the window on the open installation.
+Workspace::Problem ShowWindow(Workspace& workspace, Settings& settings, Presenter& presenter,
                               const Arguments& arguments) {
-  switch (arguments.show) {
-    case ShownWindow::Main:
-      return ShowMain(workspace, presenter);
-    case ShownWindow::Discriminators:
-      return ShowDiscriminators(workspace, presenter, arguments);
+  if (!arguments.EndsByItself()) {
+    settings.SetInstallation(workspace.Directory());
   }
+  if (arguments.show == ShownWindow::Discriminators) {
+    return ShowDiscriminators(workspace, presenter, arguments);
+  }
+  ShowMain(workspace, settings, presenter, arguments);
   return std::nullopt;
+}
+
+int StatusOf(const Presenter& presenter, const Workspace& workspace, const Arguments& arguments) {
+  const auto problem = presenter.Problem();
+  return !problem ? 0
+                  : Fail(workspace.Words(*problem).replace(
+                        QStringLiteral("%1"),
+                        QString::fromStdString(arguments.picture.value_or(std::string()))));
 }
 
 }  // namespace
@@ -83,19 +155,20 @@ int Run(const Arguments& arguments) {
   if (arguments.theme) {
     UseTheme(*arguments.theme);
   }
+  Settings settings(arguments.settings ? QString::fromStdString(*arguments.settings)
+                                       : Settings::FileOfThisUser());
   Workspace workspace(ProgramDirectories::OfThisProgram());
-  if (const auto problem = Prepare(workspace, arguments)) {
+  if (const auto problem = Prepare(workspace, settings, arguments)) {
     return FailToStart(*problem, workspace, arguments);
   }
   Presenter presenter(arguments);
-  if (const auto problem = ShowWindow(workspace, presenter, arguments)) {
+  if (const auto status = OpenInstallation(workspace, settings, presenter, arguments)) {
+    return *status == 0 ? StatusOf(presenter, workspace, arguments) : *status;
+  }
+  if (const auto problem = ShowWindow(workspace, settings, presenter, arguments)) {
     return Fail(*problem);
   }
-  if (const auto problem = presenter.Problem()) {
-    return Fail(workspace.Words(*problem).replace(
-        QStringLiteral("%1"), QString::fromStdString(arguments.picture.value_or(std::string()))));
-  }
-  return 0;
+  return StatusOf(presenter, workspace, arguments);
 }
 
 }  // namespace configurator

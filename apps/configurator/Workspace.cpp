@@ -20,7 +20,8 @@ QString InWords(const qv::Addition& addition) {
 ProgramDirectories ProgramDirectories::OfThisProgram() {
   const QDir program(QCoreApplication::applicationDirPath());
   return {QDir::cleanPath(program.filePath(QStringLiteral("../images"))),
-          QDir::cleanPath(program.filePath(QStringLiteral("../languages")))};
+          QDir::cleanPath(program.filePath(QStringLiteral("../languages"))),
+          QDir::cleanPath(program.filePath(QStringLiteral("../examples/installation")))};
 }
 
 Workspace::Workspace(ProgramDirectories directories)

@@ -14,6 +14,7 @@ namespace configurator {
 struct ProgramDirectories {
   QString images;
   QString languages;
+  QString example;  ///< an installation to copy, never to be changed
 
   /// Those that stand beside the directory of the program's file.
   static ProgramDirectories OfThisProgram();
@@ -48,6 +49,8 @@ class Workspace {
   qv::Configuration& Config() { return m_configuration; }
   const qv::Configuration& Config() const { return m_configuration; }
   HostServices& Services() { return m_services; }
+  /// The directory of the example installation, which is to be copied and never changed.
+  const QString& ExampleDirectory() const { return m_directories.example; }
   /// The path of an image of the host's.
   QString ImageFile(const char* name) const;
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -89,6 +90,48 @@ TEST(Arguments, TheLastOfARepeatedOptionCounts) {
   EXPECT_TRUE(read.list);
 }
 
+/// Calls from a directory of its own, with the environment as it was afterwards.
+class Surrounded : public testing::Test {
+ protected:
+  Surrounded() {
+    std::filesystem::current_path(directory.Path());
+    unsetenv("QVDISC_INSTALLATION");
+  }
+  ~Surrounded() override {
+    std::filesystem::current_path(before);
+    unsetenv("QVDISC_INSTALLATION");
+  }
+
+  const std::filesystem::path before = std::filesystem::current_path();
+  const qv::TemporaryDirectory directory;
+};
+
+TEST_F(Surrounded, NoInstallationNeedBeNamed) {
+  EXPECT_EQ(Good({}).installation, "");
+  EXPECT_FALSE(Good({}).settings);
+  EXPECT_EQ(Good({"--settings", "a.ini"}).settings, "a.ini");
+}
+
+TEST_F(Surrounded, TheInstallationIsNamedByTheCallOrTheEnvironmentOrWhereOneIs) {
+  std::filesystem::create_directory("called");
+  std::filesystem::create_directory("[set,b]");
+  std::ofstream("configuration.xml") << "<configuration/>";
+  EXPECT_EQ(Good({}).installation, ".");
+  setenv("QVDISC_INSTALLATION", "", 1);
+  EXPECT_EQ(Good({}).installation, ".");
+  setenv("QVDISC_INSTALLATION", "[set,b]", 1);
+  EXPECT_EQ(Good({}).installation, "[set,b]");
+  EXPECT_EQ(Good({"--installation", "called"}).installation, "called");
+}
+
+TEST_F(Surrounded, AnEnvironmentThatNamesNoDirectoryIsRefusedByItsName) {
+  setenv("QVDISC_INSTALLATION", "nowhere", 1);
+  const EarlyEnd end = Ended({});
+  EXPECT_EQ(end.status, 2);
+  EXPECT_THAT(end.error, HasSubstr("QVDISC_INSTALLATION: Directory does not exist: nowhere"));
+  EXPECT_EQ(Good({"--installation", "."}).installation, ".");
+}
+
 TEST(Arguments, EveryWindowOfTheTableCanBeShown) {
   for (const WindowName& known : windowNames) {
     EXPECT_EQ(Good({"--installation", ".", "--show", known.name}).show, known.window) << known.name;
@@ -104,9 +147,10 @@ TEST(Arguments, HelpNamesEveryOptionWindowAndLanguage) {
   const EarlyEnd end = Ended({"--help"});
   EXPECT_EQ(end.status, 0);
   EXPECT_EQ(end.error, "");
-  for (const char* word : {"--installation", "--language", "es|en", "--show", "main",
-                           "discriminators", "--picture", "--theme", "light|dark", "--size", "WxH",
-                           "--list", "--help", "--version", "Examples:", "Exit status:"}) {
+  for (const char* word :
+       {"--installation", "--language", "es|en", "--show", "main", "discriminators", "--picture",
+        "--theme", "light|dark", "--size", "WxH", "--list", "--settings", "QVDISC_INSTALLATION",
+        "--help", "--version", "Examples:", "Exit status:"}) {
     EXPECT_THAT(end.output, HasSubstr(word));
   }
 }
@@ -149,7 +193,6 @@ TEST_P(BadCalls, GiveTheReasonAndStatus2) {
 INSTANTIATE_TEST_SUITE_P(
     Arguments, BadCalls,
     testing::Values(
-        BadCall{"NoInstallation", {}, "--installation is required"},
         BadCall{"MissingDirectory", {"--installation", "nowhere"}, "does not exist: nowhere"},
         BadCall{"EmptyDirectory", {"--installation", ""}, "does not exist"},
         BadCall{"DirectoryWithoutValue", {"--installation"}, "--installation: 1 required DIR"},
@@ -158,7 +201,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "fr is none of: es, en"},
         BadCall{"UnknownWindow",
                 {"--installation", ".", "--show", "dial"},
-                "dial is none of: main, discriminators"},
+                "dial is none of: main, discriminators, start"},
         BadCall{"UnknownLanguageBeforeAGoodOne",
                 {"--installation", ".", "--language", "fr", "--language", "es"},
                 "fr is none of: es, en"},

@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -22,15 +23,23 @@ struct Ended {
   std::string errors;
 };
 
-Ended Start(const QStringList& arguments, const std::map<QString, QString>& variables = {}) {
+/// Runs the program in `directory`, or in one where nothing is, with settings that aren't the
+/// user's.
+Ended Start(const QStringList& arguments, const std::map<QString, QString>& variables = {},
+            const QString& directory = {}) {
+  const qv::TemporaryDirectory empty;
+  const auto nowhere = QString::fromStdString(empty.Path().string());
   QProcess process;
+  process.setWorkingDirectory(directory.isEmpty() ? nowhere : directory);
   auto environment = QProcessEnvironment::systemEnvironment();
+  environment.remove("QVDISC_INSTALLATION");
   environment.insert("QT_QPA_PLATFORM", "offscreen");
   for (const auto& [name, value] : variables) {
     environment.insert(name, value);
   }
   process.setProcessEnvironment(environment);
-  process.start(CONFIGURATOR_FILE, arguments);
+  process.start(CONFIGURATOR_FILE,
+                QStringList({"--settings", nowhere + "/settings.ini"}) + arguments);
   constexpr int patience = 120000;
   EXPECT_TRUE(process.waitForFinished(patience)) << qPrintable(process.errorString());
   EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -77,7 +86,8 @@ TEST(Configurator, HelpAndVersionNeedNoInstallationAndNoScreen) {
 
 TEST(Configurator, ABadCallGivesItsReasonAndStatus2) {
   for (const QStringList& call :
-       {QStringList(), QStringList({"--installation", "nowhere"}), QStringList({"--nonsense"})}) {
+       {QStringList({"--list"}), QStringList({"--installation", "nowhere"}),
+        QStringList({"--nonsense"})}) {
     const Ended ended = Start(call);
     EXPECT_EQ(ended.status, 2);
     EXPECT_EQ(ended.output, "");
@@ -109,6 +119,34 @@ TEST_F(ConfiguratorTest, PicturesAndListsNeedNoDisplay) {
   const Ended list = RunOnCopy({"--show", "discriminators", "--list"}, none);
   EXPECT_EQ(list.status, 0) << list.errors;
   EXPECT_THAT(list.output, HasSubstr("Day and night"));
+}
+
+TEST_F(ConfiguratorTest, FindsTheInstallationThatTheCallDoesNotName) {
+  const QStringList call = {"--show", "discriminators", "--list"};
+  const auto list = RunOnCopy(call).output;
+  EXPECT_THAT(list, HasSubstr("Day and night"));
+  EXPECT_EQ(Start(call, {{"QVDISC_INSTALLATION", installation.Directory()}}).output, list);
+  EXPECT_EQ(Start(call, {}, installation.Directory()).output, list);
+  const auto settings = pictures.Path() / "a.ini";
+  std::ofstream(settings) << "[General]\ninstallation=" << installation.Directory().toStdString();
+  const QStringList last = {"--settings", QString::fromStdString(settings.string())};
+  EXPECT_EQ(Start(last + call).output, list);
+}
+
+TEST(Configurator, NobodyIsAskedForAnInstallationInARunThatEndsByItself) {
+  for (const QStringList& call :
+       {QStringList({"--show", "discriminators", "--list"}), QStringList({"--picture", "a.png"})}) {
+    const Ended ended = Start(call);
+    EXPECT_EQ(ended.status, 2);
+    EXPECT_THAT(ended.errors, HasSubstr("configurator: No installation is named: "));
+  }
+}
+
+TEST_F(ConfiguratorTest, SavesAPictureOfTheStartWindowWithoutAnInstallation) {
+  const auto file = QString::fromStdString((pictures.Path() / "a.png").string());
+  const Ended ended = Start({"--show", "start", "--picture", file});
+  EXPECT_EQ(ended.status, 0) << ended.errors;
+  EXPECT_GT(QImage(file, "PNG").width(), 300);
 }
 
 TEST_F(ConfiguratorTest, ListsNoConditionsOnAnEmbeddedInstallation) {

@@ -26,8 +26,11 @@ std::vector<std::wstring> DevicesOfFirstGroup(const ExampleCopy& installation) {
 TEST(Dragging, ALineGoesIntoAGroupAndNoneIsLost) {
   const qv::VirtualDisplay display;
   const ExampleCopy installation;
+  const qv::TemporaryDirectory directory;
+  const auto settings = QString::fromStdString((directory.Path() / "a.ini").string());
   QProcess process;
-  display.Start(process, CONFIGURATOR_FILE, {"--installation", installation.Directory()});
+  display.Start(process, CONFIGURATOR_FILE,
+                {"--installation", installation.Directory(), "--settings", settings});
   display.Focus(process);
   const std::string before = installation.ConfigurationBytes();
   // From the tenth line, a device at the top, to the first one, a group. The places are those of

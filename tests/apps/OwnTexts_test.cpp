@@ -44,6 +44,9 @@ TEST(OwnTexts, NoTwoCaptionsBesideEachOtherShareTheirKey) {
                    OwnText::RemoveGroup, OwnText::MoveUp, OwnText::MoveDown, OwnText::MoveToMenu,
                    OwnText::TakeOutEntry, OwnText::PutInMenu, OwnText::ManageDiscriminators},
                   known.language);
+    ExpectOwnKeys(
+        {OwnText::OpenInstallation, OwnText::MakeInstallation, OwnText::TakeExample, OwnText::Quit},
+        known.language);
     ExpectOwnKeys({OwnText::LanguageMenu, OwnText::EmbeddedInstallation}, known.language);
   }
 }

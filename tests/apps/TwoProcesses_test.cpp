@@ -20,7 +20,8 @@ class Manager {
  public:
   explicit Manager(const qv::VirtualDisplay& display) : m_display(display) {
     m_display.Start(m_process, CONFIGURATOR_FILE,
-                    {"--installation", m_installation.Directory(), "--show", "discriminators"});
+                    {"--installation", m_installation.Directory(), "--show", "discriminators",
+                     "--settings", QString::fromStdString((m_settings.Path() / "a.ini").string())});
     m_display.Focus(m_process);
   }
 
@@ -44,6 +45,7 @@ class Manager {
  private:
   const qv::VirtualDisplay& m_display;
   ExampleCopy m_installation;
+  qv::TemporaryDirectory m_settings;
   QProcess m_process;
 };
 
