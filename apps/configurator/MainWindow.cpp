@@ -53,7 +53,7 @@ void MainWindow::Open(const QString& directory) {
     return;
   }
   if (const auto problem = m_workspace.Open(directory)) {
-    Report(*problem);
+    ShowProblem(*problem, m_workspace, this);
   } else {
     m_editor->Forget();
     ShowInstallation();
@@ -180,7 +180,7 @@ bool MainWindow::OnSave() {
   m_tree->CommitName();
   const auto problem = m_workspace.Save();
   if (problem) {
-    Report(*problem);
+    ShowProblem(*problem, m_workspace, this);
   } else {
     m_statusLine->Tell(OwnText::ConfigurationSaved);
   }
@@ -190,7 +190,7 @@ bool MainWindow::OnSave() {
 
 void MainWindow::OnLanguage(qv::Language language) {
   if (const auto problem = m_workspace.SetLanguage(language)) {
-    Report(*problem);
+    ShowProblem(*problem, m_workspace, this);
   } else {
     emit LanguageChosen(language);
   }
@@ -213,7 +213,7 @@ void MainWindow::OnDiscriminators() {
   ShowDocument();
   m_tree->Select(EntriesSince(before, DiscriminatorEntriesOf(m_workspace.Config().DeviceGroups())));
   if (end.problem) {
-    Report(*end.problem);
+    ShowProblem(*end.problem, m_workspace, this);
   }
 }
 
@@ -241,15 +241,11 @@ void MainWindow::ShowInstallation() {
 }
 
 void MainWindow::ShowDocument() {
-  ShowTree();
-  ShowState();
-}
-
-void MainWindow::ShowTree() {
   const qv::Configuration& configuration = m_workspace.Config();
   m_tree->Show(ReadDeviceTree(configuration.DeviceGroups(), configuration.CommSystem(),
                               m_workspace.Services().Setup().CfgPath().ToView()),
                m_workspace.CurrentLanguage());
+  ShowState();
 }
 
 void MainWindow::ShowState() {
@@ -261,7 +257,5 @@ void MainWindow::ShowState() {
   setWindowModified(m_workspace.Config().IsChanged());
   m_embedded->setChecked(m_workspace.Config().IsEmbedded());
 }
-
-void MainWindow::Report(const QString& problem) { ShowProblem(problem, m_workspace, this); }
 
 }  // namespace configurator

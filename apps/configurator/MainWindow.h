@@ -63,9 +63,7 @@ class MainWindow : public QMainWindow {
   void ShowTexts();
   void ShowInstallation();
   void ShowDocument();
-  void ShowTree();
   void ShowState();
-  void Report(const QString& problem);
 
   Workspace& m_workspace;
   std::vector<std::pair<QAction*, OwnText>> m_captions;
