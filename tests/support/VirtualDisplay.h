@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QPoint>
 #include <QProcess>
 #include <QString>
@@ -40,17 +41,13 @@ class VirtualDisplay {
   }
 
   /// Waits until `process` has a window, and gives it the keys from now on.
-  void Focus(const QProcess& process) const {
-    Do({"search", "--sync", "--all", "--onlyvisible", "--pid", QString::number(process.processId()),
-        "--name", ".*", "windowfocus", "--sync"});
-  }
+  void Focus(const QProcess& process) const { Do({"windowfocus", "--sync", WindowOf(process)}); }
 
   /// Drags with the left button from one place of the window of `process` to another.
   void Drag(const QProcess& process, QPoint from, QPoint to) const {
+    const QString window = WindowOf(process);
     const auto moveTo = [&](QPoint place) {
-      Do({"search", "--all", "--onlyvisible", "--pid", QString::number(process.processId()),
-          "--name", ".*", "mousemove", "--window", "%1", QString::number(place.x()),
-          QString::number(place.y())});
+      Do({"mousemove", "--window", window, QString::number(place.x()), QString::number(place.y())});
       QThread::msleep(handSpeed);
     };
     moveTo(from);
@@ -69,11 +66,31 @@ class VirtualDisplay {
   /// Milliseconds between two moves of the mouse.
   static constexpr unsigned long handSpeed = 50;
 
-  void Do(const QStringList& command) const {
-    QProcess tool;
+  /// The window of a process, as soon as it is to be seen. A search also fails if any window at all
+  /// goes while it looks, so that it is made again.
+  QString WindowOf(const QProcess& process) const {
+    QProcess search;
+    for (const QDeadlineTimer late(patience); !late.hasExpired();) {
+      Run(search, {"search", "--all", "--onlyvisible", "--pid",
+                   QString::number(process.processId()), "--name", ".*"});
+      if (search.exitCode() == 0) {
+        return QString::fromLatin1(search.readAllStandardOutput()).section('\n', 0, 0);
+      }
+      QThread::msleep(handSpeed);
+    }
+    ADD_FAILURE() << "no window: " << search.readAllStandardError().toStdString();
+    return {};
+  }
+
+  void Run(QProcess& tool, const QStringList& command) const {
     tool.setProcessEnvironment(m_environment);
     tool.start("xdotool", command);
     EXPECT_TRUE(tool.waitForFinished(patience)) << qPrintable(tool.errorString());
+  }
+
+  void Do(const QStringList& command) const {
+    QProcess tool;
+    Run(tool, command);
     EXPECT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().toStdString();
   }
 
