@@ -1,4 +1,5 @@
 #include "apps/qvdisc/Verbs.h"
+#include "discriminator/DiscriminatorFile.h"
 #include "discriminator/Fields.h"
 #include "editor/DiscriminatorForm.h"
 #include "manager/ClipboardPayload.h"
@@ -64,6 +65,8 @@ EditorEnd RunEditor(const Editing& editing, qv::XmlNode* deviceGroups, const QVW
   const qv::SaveEnd end = form->Save(typed);
   if (!end.IsDone()) {
     TellUnsaved(*form, end, editing.prompter, outcome);
+  } else if (form->IsNew()) {
+    outcome.made.emplace_back(qv::StemOfDocument(form->Root()).ToView());
   }
   return {end.IsDone(), form->IsModified()};
 }

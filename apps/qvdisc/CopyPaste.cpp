@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "apps/qvdisc/Verbs.h"
 
 namespace qvdisc {
@@ -12,8 +10,12 @@ void Copy(const qv::DiscriminatorClipboard& clipboard, const std::vector<int>& r
 
 void Paste(qv::DiscriminatorClipboard& clipboard, Outcome& outcome) {
   const auto pasted = clipboard.Paste();
-  const auto lost = std::count_if(pasted.begin(), pasted.end(),
-                                  [](const auto& discriminator) { return !discriminator.written; });
+  for (const qv::PastedDiscriminator& discriminator : pasted) {
+    if (discriminator.written) {
+      outcome.made.emplace_back(discriminator.fileStem.ToView());
+    }
+  }
+  const std::size_t lost = pasted.size() - outcome.made.size();
   if (pasted.empty()) {
     outcome.Fail(Word::NothingToPaste);
   } else if (lost > 0) {

@@ -47,6 +47,10 @@ Json Index(const IndexEnd& index) {
   return {{"stem", Utf8(index.stem)}, {"needed", index.needed}, {"written", index.written}};
 }
 
+Json Made(const std::wstring& stem) {
+  return {{"stem", Utf8(stem)}, {"id", Utf8(qv::IdOfStem(QVWideString(stem)).ToView())}};
+}
+
 /// The node as it stands: its value, or its children in order, each as an object of its tag.
 Json Tree(const XmlNode& node) {
   if (node.ChildsBegin() == node.ChildsEnd()) {
@@ -88,6 +92,9 @@ void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome)
   }
   if (arguments.verb == Verb::Index) {
     json["indexes"] = List(outcome.indexes, Index);
+  }
+  if (arguments.verb == Verb::Add || arguments.verb == Verb::Paste) {
+    json["made"] = List(outcome.made, Made);
   }
   if (outcome.unsaved) {
     json["unsaved"] = *outcome.unsaved;

@@ -46,6 +46,7 @@ struct Outcome {
   std::optional<std::string> unsaved;     ///< a discriminator that could not be saved, as payload
   std::optional<std::string> unsavedConfiguration;  ///< the text of its file
   std::vector<IndexEnd> indexes;
+  std::vector<std::wstring> made;   ///< the stems of the discriminators that are new
   qv::CheckedInstallation checked;  ///< what `check` found
 
   /// The call ends as refused, for one more reason.

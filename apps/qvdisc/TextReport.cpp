@@ -165,6 +165,12 @@ void WriteDocument(Writer& writer, const XmlNode& root) {
   WriteConditions(writer, root);
 }
 
+void WriteMade(Writer& writer, const Outcome& outcome) {
+  for (const std::wstring& stem : outcome.made) {
+    writer.Write(OneLine(writer.Said(Word::Made, {stem.c_str()})));
+  }
+}
+
 void WriteIndexes(Writer& writer, const Outcome& outcome) {
   for (const IndexEnd& index : outcome.indexes) {
     if (!index.needed || index.written) {
@@ -209,6 +215,7 @@ std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool 
   } else if (arguments.verb == Verb::Check && outcome.errors.empty()) {
     WriteFindings(writer, outcome);
   }
+  WriteMade(writer, outcome);
   WriteIndexes(writer, outcome);
   return writer.Text();
 }

@@ -67,6 +67,7 @@ constexpr qv::EnumTable texts(std::array{
     WordRow{Word::No, L"no", L"no"},
     WordRow{Word::DatesOfYear, L"%s: %d fechas", L"%s: %d dates"},
     WordRow{Word::Answer, L"(respuesta: %s)", L"(answer: %s)"},
+    WordRow{Word::Made, L"%s: creado", L"%s: made"},
     WordRow{Word::IndexWritten, L"%s: índice escrito", L"%s: index written"},
     WordRow{Word::IndexNotNeeded, L"%s: sin tipos de hora, no necesita índice",
             L"%s: no hour types, needs no index"},

@@ -46,6 +46,7 @@ enum class Word {
   No,
   DatesOfYear,     ///< year and number of dates
   Answer,          ///< the answer that was given to a question
+  Made,            ///< the stem
   IndexWritten,    ///< the stem
   IndexNotNeeded,  ///< the stem
   Reading,         ///< how many of how many

@@ -1,7 +1,6 @@
 // Each kind of fault, planted in a copy of the example and found.
 #include <gmock/gmock.h>
 
-#include <nlohmann/json.hpp>
 #include <set>
 #include <tuple>
 
@@ -11,7 +10,6 @@
 namespace qvdisc {
 namespace {
 
-using Json = nlohmann::json;
 using qv::Finding;
 using qv::FindingKind;
 using testing::ElementsAre;

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <variant>
@@ -14,6 +15,8 @@
 #include "tests/support/TemporaryDirectory.h"
 
 namespace qvdisc {
+
+using Json = nlohmann::json;
 
 struct Ended {
   int status = -1;
@@ -69,6 +72,26 @@ class CommandLine : public testing::Test {
            bool atTerminal = false) const {
     arguments.insert(arguments.end(), {"--installation", directory.Path().string()});
     return Call(arguments, input, atTerminal);
+  }
+
+  /// The same with its output as JSON, of which the members that all verbs have are compared.
+  Json DoJson(std::vector<std::string> arguments, const std::string& input = {}) const {
+    arguments.push_back("--json");
+    const Ended ended = Do(arguments, input);
+    Json json = Json::parse(ended.output);
+    EXPECT_EQ(json["status"], ended.status);
+    EXPECT_EQ(json["form"], 1);
+    EXPECT_EQ(json["verb"], arguments.front());
+    return json;
+  }
+
+  /// The names of the rows that the call ended with.
+  static std::vector<std::string> Names(const Json& json) {
+    std::vector<std::string> names;
+    for (const auto& row : json["rows"]) {
+      names.push_back(row["name"]);
+    }
+    return names;
   }
 
   std::filesystem::path File(const std::string& name) const { return directory.Path() / name; }

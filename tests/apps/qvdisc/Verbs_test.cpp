@@ -1,39 +1,18 @@
 // Each verb, with what it prints, what it leaves on the disk, and how it ends.
 #include <gmock/gmock.h>
 
-#include <nlohmann/json.hpp>
-
 #include "tests/apps/qvdisc/CommandLine.h"
 #include "tools/XmlDocument.h"
 
 namespace qvdisc {
 namespace {
 
-using Json = nlohmann::json;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
 class VerbsTest : public CommandLine {
  protected:
-  Json DoJson(std::vector<std::string> arguments, const std::string& input = {}) {
-    arguments.push_back("--json");
-    const Ended ended = Do(arguments, input);
-    Json json = Json::parse(ended.output);
-    EXPECT_EQ(json["status"], ended.status);
-    EXPECT_EQ(json["form"], 1);
-    EXPECT_EQ(json["verb"], arguments.front());
-    return json;
-  }
-
-  static std::vector<std::string> Names(const Json& json) {
-    std::vector<std::string> names;
-    for (const auto& row : json["rows"]) {
-      names.push_back(row["name"]);
-    }
-    return names;
-  }
-
   const Contents before = All();
 };
 
