@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <istream>
+#include <utility>
 
+#include "apps/qvdisc/PayloadInText.h"
 #include "tools/XmlReader.h"
 
 namespace qvdisc {
@@ -26,6 +28,7 @@ int StreamClipboard::GetFromClipboard(std::unique_ptr<char[]>& bytes, int format
     m_in.read(piece.data(), piece.size());
     text.append(piece.data(), static_cast<std::size_t>(m_in.gcount()));
   }
+  text = PayloadIn(std::move(text));
   bytes = std::make_unique<char[]>(text.size() + 1);
   std::copy(text.begin(), text.end(), bytes.get());
   return static_cast<int>(text.size()) + 1;

@@ -14,7 +14,8 @@ class StreamClipboard : public QVClipboard {
   explicit StreamClipboard(std::istream& in) : m_in(in) {}
 
   bool PutToClipboard(const char* bytes, int size, int format) override;
-  /// Reads the stream to its end, or to what no payload is longer than.
+  /// Reads the stream to its end, or to what no payload is longer than. Gives the payload in it,
+  /// whatever stands around that, or all that was read if there is none.
   int GetFromClipboard(std::unique_ptr<char[]>& bytes, int format) const override;
 
   /// What was put, without its terminator.

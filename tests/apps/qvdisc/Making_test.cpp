@@ -48,5 +48,49 @@ TEST_F(MakingTest, PasteTellsWhatItMadeInItsOrder) {
   EXPECT_THAT(ended.output, testing::MatchesRegex("[^\n]*\\.Z_1: made\n[^\n]*_2: made\n"));
 }
 
+TEST_F(MakingTest, APayloadIsFoundInTheTextOfAMail) {
+  const std::string payload = Do({"copy", "Day and night"}).output;
+  const std::vector<std::pair<std::string, std::string>> mails = {
+      {"Hello,\r\n\r\nhere is the tariff:\r\n", "\r\nGreetings < & >\r\n"},
+      {"", "-- \nthe undersigned"},
+      {"\xEF\xBB\xBFWhat stands from <discriminatorClipboard> to </discriminatorClipboard>:\n", ""},
+      {"</discriminatorClipboard> <discriminatorClipboard/> <discriminatorClipboard>\n", "\n<b>"},
+      {"<discriminatorClipboard><discriminator><main/></discriminatorClipboard>", "<"},
+      {"\xff\xfe <p>", "</p>"},
+  };
+  for (const auto& [start, end] : mails) {
+    EXPECT_EQ(DoJson({"paste"}, start + payload + end)["made"].size(), 1U) << start;
+  }
+}
+
+TEST_F(MakingTest, OfTwoPayloadsInATextTheFirstIsTaken) {
+  const Json json = DoJson({"paste"}, "One: " + Do({"copy", "Day and night"}).output +
+                                          "Two: " + Do({"copy", station}).output);
+  ASSERT_EQ(json["made"].size(), 1U);
+  EXPECT_THAT(std::string(json["made"][0]["stem"]), HasSubstr("Day and night_1"));
+}
+
+TEST_F(MakingTest, ATextWithoutAPayloadIsForeign) {
+  for (const char* text :
+       {"</discriminatorClipboard", "<discriminatorClipboard", "</discriminatorClipboard>",
+        "from <discriminatorClipboard> to </discriminatorClipboard>",
+        "mail: <discriminatorClipboard><discriminator><main></discriminatorClipboard>"}) {
+    EXPECT_EQ(Do({"paste"}, text).errors, "qvdisc: Standard input holds no discriminators\n");
+  }
+  EXPECT_EQ(All(), before);
+}
+
+TEST_F(MakingTest, ATextOfManyStartsAndEndsIsReadOnce) {
+  std::string text;
+  for (int i = 0; i < 100000; ++i) {
+    text += "<discriminatorClipboard>";
+  }
+  for (int i = 0; i < 100000; ++i) {
+    text += "</discriminatorClipboard>";
+  }
+  EXPECT_EQ(Do({"paste"}, "mail " + text).status, 1);
+  EXPECT_EQ(DoJson({"paste"}, text + Do({"copy", station}).output)["made"].size(), 1U);
+}
+
 }  // namespace
 }  // namespace qvdisc
