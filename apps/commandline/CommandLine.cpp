@@ -95,7 +95,9 @@ std::string ErrorLine(std::string_view program, std::string_view reason) {
   return std::string(program) + ": " + std::string(reason) + "\n";
 }
 
-void AddHelp(CLI::App& app) { app.set_help_flag("-h,--help", "Print this help, and end"); }
+void AddHelp(CLI::App& app, const std::string& description) {
+  app.set_help_flag("-h,--help", description);
+}
 
 void AddPage(CLI::App& app, const std::string& flag, std::function<std::string()> text,
              const std::string& description) {
@@ -103,10 +105,10 @@ void AddPage(CLI::App& app, const std::string& flag, std::function<std::string()
   app.add_flag_callback(flag, print, description);
 }
 
-void AddVersion(CLI::App& app, const std::string& version) {
+void AddVersion(CLI::App& app, const std::string& version, const std::string& description) {
   AddPage(
       app, "--version", [&app, version] { return app.get_name() + " " + version + "\n"; },
-      "Print the version, and end");
+      description);
 }
 
 CLI::Option* AddText(CLI::App& app, const std::string& name, std::string& value,

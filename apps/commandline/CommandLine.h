@@ -39,14 +39,15 @@ struct EarlyEnd {
 std::string ErrorLine(std::string_view program, std::string_view reason);
 
 /// The flag `-h`, or `--help`.
-void AddHelp(CLI::App& app);
+void AddHelp(CLI::App& app, const std::string& description = "Print this help, and end");
 
 /// A flag that prints a text in place of any work. `text` is asked for when the flag is given.
 void AddPage(CLI::App& app, const std::string& flag, std::function<std::string()> text,
              const std::string& description);
 
 /// The flag `--version`, which prints the program's name and `version`.
-void AddVersion(CLI::App& app, const std::string& version);
+void AddVersion(CLI::App& app, const std::string& version,
+                const std::string& description = "Print the version, and end");
 
 /// An option whose value is taken as it stands, whatever it begins with. `value` outlives `app`.
 CLI::Option* AddText(CLI::App& app, const std::string& name, std::string& value,

@@ -36,9 +36,10 @@ struct Arguments {
 };
 
 /// Reads the command line, of which the first is the program's name. A call that can't be carried
-/// out gives the status 2 and the reason in words. Arguments may hold any bytes.
+/// out gives the status 2 and the reason in words. Arguments may hold any bytes. Help is given in
+/// the language of the call, or else in that of the user's system.
 [[nodiscard]] std::variant<Arguments, commandline::EarlyEnd> ReadArguments(
-    int count, const char* const* arguments);
+    int count, const char* const* arguments, qv::Language system = qv::Language::English);
 
 /// The one line that the program puts on standard error for `reason`, which may hold any bytes.
 std::string ErrorLine(std::string_view reason);

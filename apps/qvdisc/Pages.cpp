@@ -2,23 +2,38 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cctype>
 #include <vector>
 
 #include "apps/commandline/CommandLine.h"
+#include "apps/qvdisc/HelpSections.h"
 
 namespace qvdisc {
 namespace {
 
 using Options = std::vector<const CLI::Option*>;
 
+std::string Literal(char letter) {
+  switch (letter) {
+    case '-':
+      return "\\-";
+    case '\\':
+      return "\\e";
+    case '\'':
+      return "\\(aq";
+    default:
+      return {letter};
+  }
+}
+
 /// `text` as it stands on a manual page.
 std::string Literal(const std::string& text) {
   std::string literal;
   for (const char letter : text) {
-    literal += letter == '-' ? std::string("\\-") : letter == '\\' ? "\\e" : std::string(1, letter);
+    literal += Literal(letter);
   }
-  // A line that starts with these would be a command.
-  return !literal.empty() && (literal[0] == '.' || literal[0] == '\'') ? "\\&" + literal : literal;
+  // A line that starts with this would be a command.
+  return literal.starts_with('.') ? "\\&" + literal : literal;
 }
 
 std::string ManualOption(const CLI::Option& option) {
@@ -40,6 +55,32 @@ std::string ManualOptions(const CLI::App& app) {
 
 std::vector<const CLI::App*> VerbsOf(const CLI::App& app) {
   return app.get_subcommands([](const CLI::App*) { return true; });
+}
+
+/// The verb and those below it, each under its whole name.
+std::string ManualVerb(const CLI::App& verb, const std::string& before = {}) {
+  const std::string name = before + verb.get_name();
+  std::string page =
+      ".SS " + Literal(name) + "\n" + Literal(verb.get_description()) + ".\n" + ManualOptions(verb);
+  for (const CLI::App* below : VerbsOf(verb)) {
+    page += ManualVerb(*below, name + " ");
+  }
+  return page;
+}
+
+std::string Heading(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
+  return ".SH " + Literal(text) + "\n";
+}
+
+std::string ManualSection(const HelpSection& section) {
+  std::string page = Heading(section.heading);
+  for (const HelpItem& item : section.items) {
+    page += item.term.empty() ? ".PP\n" : ".TP\n\\fB" + Literal(item.term) + "\\fR\n";
+    page += Literal(item.meaning) + "\n";
+  }
+  return page;
 }
 
 std::string OptionNames(const CLI::App& app) {
@@ -162,18 +203,20 @@ complete -F _qvdisc qvdisc
 
 }  // namespace
 
-std::string ManualPage(const CLI::App& app) {
-  std::string page = ".TH QVDISC 1 \"\" \"QVDiscriminator " QVDISC_VERSION
-                     "\"\n.SH NAME\nqvdisc \\- " +
-                     Literal(app.get_description()) +
-                     "\n.SH SYNOPSIS\n.B qvdisc\n\\fIVERB\\fR \\-\\-installation \\fIDIR\\fR "
-                     "[\\fIOPTION\\fR]... [\\fISTEM\\fR]...\n.SH OPTIONS\n" +
-                     ManualOptions(app);
+std::string ManualPage(const CLI::App& app, qv::Language language) {
+  const HelpLabels& words = HelpWords(language);
+  std::string page = ".TH QVDISC 1 \"\" \"QVDiscriminator " QVDISC_VERSION "\"\n" +
+                     Heading(words.name) + "qvdisc \\- " + Literal(app.get_description()) + "\n" +
+                     Heading(words.synopsis) + ".B qvdisc\n\\fI" + words.verb + "\\fR [\\fI" +
+                     words.options + "\\fR] [\\fISTEM\\fR]...\n" + Heading(words.options) +
+                     ManualOptions(app) + Heading(words.verbs);
   for (const CLI::App* verb : VerbsOf(app)) {
-    page += ".SH " + Literal(verb->get_name()) + "\n" + Literal(verb->get_description()) + ".\n" +
-            ManualOptions(*verb);
+    page += ManualVerb(*verb);
   }
-  return page + ".SH NOTES\n" + Literal(app.get_footer()) + "\n";
+  for (const HelpSection& section : ManualSections(language)) {
+    page += ManualSection(section);
+  }
+  return page;
 }
 
 std::string BashCompletion(const CLI::App& app) {

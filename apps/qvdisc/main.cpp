@@ -62,7 +62,7 @@ int main(int count, char** arguments) {
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
 #endif
-  const auto call = qvdisc::ReadArguments(count, arguments);
+  const auto call = qvdisc::ReadArguments(count, arguments, SystemLanguage());
   if (const auto* end = std::get_if<commandline::EarlyEnd>(&call)) {
     std::cout << end->output << std::flush;
     std::cerr << end->error;

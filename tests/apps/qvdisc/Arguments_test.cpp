@@ -125,32 +125,5 @@ TEST_F(Surrounded, TheWorkingDirectoryIsOneIfItHasAConfiguration) {
   EXPECT_THAT(ended.errors, HasSubstr("QVDISC_INSTALLATION"));
 }
 
-TEST(Arguments, HelpOfTheProgramAndOfEachVerb) {
-  const Ended program = Call({"--help"});
-  EXPECT_EQ(program.status, 0);
-  for (const char* verb :
-       {"list", "show", "index", "copy", "paste", "add", "modify", "remove", "check"}) {
-    EXPECT_THAT(program.output, HasSubstr(std::string("\n  ") + verb + " "));
-    const Ended help = Call({verb, "--help"});
-    EXPECT_EQ(help.status, 0);
-    EXPECT_EQ(Call({verb, "-h"}).output, help.output);
-    EXPECT_THAT(help.output, HasSubstr(std::string("qvdisc ") + verb));
-    EXPECT_THAT(help.output, HasSubstr("--installation"));
-    EXPECT_THAT(help.output, HasSubstr("Exit status: 0 done, 1 refused or something found, 2"));
-  }
-}
-
-TEST(Arguments, VersionAndPages) {
-  EXPECT_EQ(Call({"--version"}).output, "qvdisc " QVDISC_VERSION "\n");
-  const Ended page = Call({"--manual-page"});
-  EXPECT_EQ(page.status, 0);
-  EXPECT_THAT(page.output, StartsWith(".TH QVDISC 1"));
-  EXPECT_THAT(page.output, HasSubstr(".SH modify\n"));
-  EXPECT_THAT(page.output, HasSubstr("\\fB\\-\\-type\\fR \\fISLOTS|CONDITIONS\\fR\n"));
-  const Ended completion = Call({"--bash-completion"});
-  EXPECT_EQ(completion.status, 0);
-  EXPECT_THAT(completion.output, HasSubstr("--type) _qvdisc_words \"SLOTS CONDITIONS\""));
-}
-
 }  // namespace
 }  // namespace qvdisc

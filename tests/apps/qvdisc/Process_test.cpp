@@ -96,6 +96,8 @@ TEST_F(ProcessTest, HelpThatCannotBeWrittenIsAFailure) {
 TEST_F(ProcessTest, TheLocaleChoosesTheLanguage) {
   EXPECT_THAT(Bash("LC_ALL=es_ES.UTF-8 \"$QVDISC\" list --installation \"$DIR\"").output,
               testing::StartsWith("Nombre"));
+  EXPECT_THAT(Bash("LC_ALL=es_ES.UTF-8 \"$QVDISC\" --help").output,
+              HasSubstr("\nUso: qvdisc [OPCIONES] VERBO\n"));
   EXPECT_THAT(Bash("LC_ALL= LC_MESSAGES= LANG=es \"$QVDISC\" list --installation \"$DIR\"").output,
               testing::StartsWith("Nombre"));
 }

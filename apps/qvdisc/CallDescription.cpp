@@ -1,0 +1,163 @@
+#include "apps/qvdisc/CallDescription.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <climits>
+
+#include "apps/commandline/CommandLine.h"
+#include "apps/qvdisc/HelpSections.h"
+#include "apps/qvdisc/Meaning.h"
+#include "apps/qvdisc/Pages.h"
+
+namespace qvdisc {
+namespace {
+
+constexpr Stems noStems{0, 0};
+constexpr Stems oneStem{1, 1};
+constexpr Stems someStems{1, INT_MAX};
+constexpr Stems anyStems{0, INT_MAX};
+
+/// Adds what a verb takes beside the options that all verbs have.
+using AddOptions = void (*)(CLI::App&, OptionTexts&, qv::Language);
+
+void AddNothing(CLI::App&, OptionTexts&, qv::Language) {}
+
+struct VerbRow {
+  const char* name;
+  Verb verb;
+  Stems stems;
+  AddOptions addOptions;
+  Meaning meaning;
+  const char* examples;  ///< a call a line
+};
+
+constexpr std::array verbs = {
+    VerbRow{"list",
+            Verb::List,
+            noStems,
+            AddNothing,
+            {"Lista los discriminadores de la instalación por su nombre",
+             "Lists the discriminators of the installation, by name"},
+            "qvdisc list --installation examples/installation"},
+    VerbRow{"show",
+            Verb::Show,
+            oneStem,
+            AddNothing,
+            {"Muestra lo que contiene un discriminador", "Shows what a discriminator holds"},
+            "qvdisc show 'Day and night' --json"},
+    VerbRow{"index",
+            Verb::Index,
+            anyStems,
+            AddNothing,
+            {"Rehace el archivo de índice de un discriminador, o los de todos",
+             "Makes the index file of a discriminator anew, or those of all"},
+            "qvdisc index 'Day and night'"},
+    VerbRow{"copy",
+            Verb::Copy,
+            someStems,
+            AddNothing,
+            {"Escribe discriminadores en la salida estándar, como en el portapapeles",
+             "Writes discriminators to standard output, as on the clipboard"},
+            "qvdisc copy 'Day and night' > payload.xml"},
+    VerbRow{"paste",
+            Verb::Paste,
+            noStems,
+            AddNothing,
+            {"Crea los discriminadores que contiene la entrada estándar, como del portapapeles",
+             "Makes new discriminators of what standard input holds, as from the clipboard"},
+            "qvdisc paste < mail.txt\n"
+            "qvdisc copy 'Day and night' --installation A | qvdisc paste --installation B"},
+    VerbRow{
+        "add",
+        Verb::Add,
+        noStems,
+        AddNewFields,
+        {"Crea un discriminador; necesita --name", "Makes a new discriminator; --name is needed"},
+        "qvdisc add --name 'Tariff 2027' --type SLOTS"},
+    VerbRow{"modify",
+            Verb::Modify,
+            oneStem,
+            AddChangedFields,
+            {"Cambia el nombre, la descripción, el tipo o la opción de un discriminador",
+             "Changes name, description, type or flag of a discriminator"},
+            "qvdisc modify 'Tariff 2027' --name 'Tariff 2028' --description="},
+    VerbRow{"remove",
+            Verb::Remove,
+            someStems,
+            AddAnswers,
+            {"Elimina discriminadores con sus archivos y sus entradas",
+             "Removes discriminators with their files and entries"},
+            "qvdisc remove 'Tariff 2027' 'Tariff 2028' --yes"},
+    VerbRow{"check",
+            Verb::Check,
+            anyStems,
+            AddNothing,
+            {"Dice qué está mal en los archivos y las entradas de los discriminadores",
+             "Tells what is wrong with the files and entries of discriminators"},
+            "qvdisc check --json"},
+};
+
+void AddVerb(CLI::App& app, const VerbRow& row, OptionTexts& texts, qv::Language language) {
+  CLI::App& verb = *app.add_subcommand(row.name, row.meaning.In(language));
+  verb.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+  verb.group(HelpWords(language).verbs);
+  AddCommonOptions(verb, texts, language);
+  AddStems(verb, row.stems, texts, language);
+  row.addOptions(verb, texts, language);
+  verb.footer(VerbFooter({row.examples, row.stems.most > 0, row.verb == Verb::Check}, language));
+}
+
+void AddPages(CLI::App& app, qv::Language language) {
+  constexpr Meaning version{"Escribe la versión y termina", "Print the version, and end"};
+  constexpr Meaning manual{"Escribe la página de manual, para man, y termina",
+                           "Print the manual page, for man, and end"};
+  constexpr Meaning completion{
+      "Escribe lo que bash ha de leer para completar llamadas a este programa, y termina",
+      "Print what bash has to source to complete calls of this program, and end"};
+  commandline::AddVersion(app, QVDISC_VERSION, version.In(language));
+  commandline::AddPage(
+      app, "--manual-page", [&app, language] { return ManualPage(app, language); },
+      manual.In(language));
+  commandline::AddPage(
+      app, "--bash-completion", [&app] { return BashCompletion(app); }, completion.In(language));
+}
+
+/// The words that the parser puts around ours.
+void WordHelp(CLI::App& app, qv::Language language) {
+  const HelpLabels& words = HelpWords(language);
+  const auto formatter = app.get_formatter();
+  formatter->label("Usage", words.usage);
+  formatter->label("OPTIONS", words.options);
+  formatter->label("SUBCOMMAND", words.verb);
+  formatter->label("Positionals", words.positionals);
+  formatter->label("REQUIRED", words.required);
+  formatter->label("Excludes", words.excludes);
+  app.option_defaults()->group(words.optionGroup);
+}
+
+}  // namespace
+
+void Describe(CLI::App& app, OptionTexts& texts, qv::Language language) {
+  constexpr Meaning meaning{
+      "Lista, muestra, cambia y comprueba los discriminadores de una instalación.",
+      "Lists, shows, changes and checks the discriminators of an installation."};
+  app.description(meaning.In(language));
+  WordHelp(app, language);
+  commandline::AddHelp(app, HelpWords(language).help);
+  AddPages(app, language);
+  AddLanguage(app, texts, language);
+  app.require_subcommand(1);
+  app.footer(ProgramFooter(language));
+  for (const VerbRow& row : verbs) {
+    AddVerb(app, row, texts, language);
+  }
+}
+
+Verb VerbNamed(const std::string& name) {
+  return std::find_if(verbs.begin(), verbs.end(),
+                      [&](const VerbRow& row) { return row.name == name; })
+      ->verb;
+}
+
+}  // namespace qvdisc
