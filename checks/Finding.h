@@ -44,7 +44,7 @@ struct Finding {
   unsigned line = 0;        ///< from 1, of what cannot be read; 0 for the file as a whole
   unsigned column = 0;
 
-  /// Whether something has to be mended, rather than only explained.
+  /// Whether something has to be mended; any other finding is a note, which only explains.
   bool IsFault() const { return kind != FindingKind::HiddenType && kind != FindingKind::DayGaps; }
   /// Whether it is why the list leaves the file out.
   bool LeavesOut() const { return kind <= FindingKind::NameDiffers; }

@@ -121,9 +121,10 @@ bool CheckedInstallation::IsListed(const std::wstring& file) const {
   });
 }
 
-bool CheckedInstallation::IsFaulty() const {
-  return std::any_of(findings.begin(), findings.end(),
-                     [](const Finding& finding) { return finding.IsFault(); });
+std::size_t CheckedInstallation::Faults() const {
+  const auto faults = std::count_if(findings.begin(), findings.end(),
+                                    [](const Finding& finding) { return finding.IsFault(); });
+  return static_cast<std::size_t>(faults);
 }
 
 CheckedInstallation CheckInstallation(const InstallationToCheck& installation, Progress& progress) {

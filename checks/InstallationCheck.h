@@ -34,8 +34,10 @@ struct CheckedInstallation {
 
   /// Whether nothing was found that makes the list leave the file out.
   bool IsListed(const std::wstring& file) const;
-  /// Whether something has to be mended.
-  bool IsFaulty() const;
+  /// How many of the findings have to be mended.
+  std::size_t Faults() const;
+  /// How many only explain something.
+  std::size_t Notes() const { return findings.size() - Faults(); }
 };
 
 /// Looks at every discriminator file of the directory, at their index files, and at the entries of

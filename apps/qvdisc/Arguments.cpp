@@ -65,6 +65,7 @@ Arguments ReadTexts(const CLI::App& app, const OptionTexts& texts) {
   if (texts.yes || texts.no) {
     arguments.answer = texts.yes;
   }
+  arguments.strict = texts.strict;
   std::transform(texts.stems.begin(), texts.stems.end(), std::back_inserter(arguments.stems),
                  [](const std::string& stem) { return qv::FromUtf8(stem); });
   arguments.changes = {Given(verb, "--name", texts.name),

@@ -92,10 +92,11 @@ constexpr std::array verbs = {
     VerbRow{"check",
             Verb::Check,
             anyStems,
-            AddNothing,
+            AddStrict,
             {"Dice qué está mal en los archivos y las entradas de los discriminadores",
              "Tells what is wrong with the files and entries of discriminators"},
-            "qvdisc check --json"},
+            "qvdisc check --strict\n"
+            "qvdisc check 'Day and night' --json"},
 };
 
 void AddVerb(CLI::App& app, const VerbRow& row, OptionTexts& texts, qv::Language language) {

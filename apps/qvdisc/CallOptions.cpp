@@ -109,4 +109,10 @@ void AddAnswers(CLI::App& verb, OptionTexts& texts, qv::Language language) {
   verb.add_flag("--no", texts.no, no.In(language))->excludes(answer);
 }
 
+void AddStrict(CLI::App& verb, OptionTexts& texts, qv::Language language) {
+  constexpr Meaning strict{"También las notas cuentan para el estado de salida",
+                           "Let notes count for the exit status, as faults do"};
+  verb.add_flag("--strict", texts.strict, strict.In(language));
+}
+
 }  // namespace qvdisc

@@ -25,6 +25,7 @@ struct OptionTexts {
   bool json = false;
   bool yes = false;
   bool no = false;
+  bool strict = false;
 };
 
 /// How many STEMs a verb takes.
@@ -53,5 +54,8 @@ void AddChangedFields(CLI::App& verb, OptionTexts& texts, qv::Language language)
 
 /// The answers to the questions of a verb.
 void AddAnswers(CLI::App& verb, OptionTexts& texts, qv::Language language);
+
+/// What makes notes count for the exit status.
+void AddStrict(CLI::App& verb, OptionTexts& texts, qv::Language language);
 
 }  // namespace qvdisc

@@ -55,18 +55,19 @@ void Keep(const std::set<std::wstring>& files, qv::CheckedInstallation& checked)
 
 }  // namespace
 
-void Check(const qv::InstallationToCheck& installation, const std::vector<std::wstring>& names,
+void Check(const qv::InstallationToCheck& installation, const Arguments& call,
            qv::Progress& progress, Outcome& outcome) {
   auto checked = qv::CheckInstallation(installation, progress);
-  if (!names.empty()) {
-    const auto named = AllNamed(checked.files, names, outcome);
+  if (!call.stems.empty()) {
+    const auto named = AllNamed(checked.files, call.stems, outcome);
     if (!named) {
       return;
     }
     Keep(*named, checked);
   }
   outcome.checked = std::move(checked);
-  outcome.status = outcome.checked.IsFaulty() ? 1 : 0;
+  const bool hasCountedNotes = call.strict && outcome.checked.Notes() > 0;
+  outcome.status = outcome.checked.Faults() > 0 || hasCountedNotes ? 1 : 0;
 }
 
 }  // namespace qvdisc

@@ -66,8 +66,9 @@ HelpSection ExitStatus(qv::Language language) {
   constexpr Meaning heading{"Estado de salida", "Exit status"};
   constexpr Meaning done{"hecho", "done"};
   constexpr Meaning refused{
-      "rechazado, o no se ha podido escribir; de check: hay fallos",
-      "refused, or something could not be written; of check: there are faults"};
+      "rechazado, o no se ha podido escribir; de check: hay fallos o,\ncon --strict, notas",
+      "refused, or something could not be written; of check: there are faults\nor, with --strict, "
+      "notes"};
   constexpr Meaning wrong{"la llamada está mal", "the call is wrong"};
   return {heading.In(language),
           {{"0", done.In(language)}, {"1", refused.In(language)}, {"2", wrong.In(language)}}};

@@ -106,6 +106,8 @@ void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome)
     json["files"] = List(outcome.checked.files, [&](const std::wstring& file) {
       return Json{{"file", Utf8(file)}, {"listed", outcome.checked.IsListed(file)}};
     });
+    json["faults"] = outcome.checked.Faults();
+    json["notes"] = outcome.checked.Notes();
     json["findings"] = List(outcome.checked.findings, Found);
   }
 }

@@ -38,7 +38,9 @@ std::string Literal(const std::string& text) {
 
 std::string ManualOption(const CLI::Option& option) {
   const std::string type = option.get_type_name();
-  std::string page = ".TP\n\\fB" + Literal(option.get_name()) + "\\fR";
+  const std::string name =
+      option.nonpositional() ? option.get_name(false, true) : option.get_name();
+  std::string page = ".TP\n\\fB" + Literal(name) + "\\fR";
   if (!type.empty() && option.nonpositional()) {
     page += " \\fI" + Literal(type) + "\\fR";
   }

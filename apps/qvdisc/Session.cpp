@@ -96,7 +96,7 @@ qv::InstallationToCheck Session::ToCheck() const {
 
 void Session::Perform() {
   if (m_arguments.verb == Verb::Check) {
-    Check(ToCheck(), m_arguments.stems, *m_view.NewProgress(), m_outcome);
+    Check(ToCheck(), m_arguments, *m_view.NewProgress(), m_outcome);
   } else if (const auto rows = NamedRows(m_list->Rows(), m_arguments.stems, m_outcome)) {
     PerformOn(*rows);
   }

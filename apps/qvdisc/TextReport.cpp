@@ -180,6 +180,32 @@ void WriteIndexes(Writer& writer, const Outcome& outcome) {
   }
 }
 
+/// As many things in words.
+std::wstring Counted(const Writer& writer, std::size_t count, Word one, Word several) {
+  return count == 1 ? writer.Said(one) : writer.Said(several, {static_cast<unsigned>(count)});
+}
+
+/// What was found, counted.
+std::wstring Count(const Writer& writer, const qv::CheckedInstallation& checked) {
+  const std::wstring files = Counted(writer, checked.files.size(), Word::OneFile, Word::Files);
+  const std::wstring faults = Counted(writer, checked.Faults(), Word::OneFault, Word::Faults);
+  const std::wstring notes = Counted(writer, checked.Notes(), Word::OneNote, Word::Notes);
+  if (checked.findings.empty()) {
+    return writer.Said(Word::NothingFound, {files.c_str()});
+  }
+  if (checked.Faults() > 0 && checked.Notes() > 0) {
+    return writer.Said(Word::FaultsAndNotes, {faults.c_str(), notes.c_str(), files.c_str()});
+  }
+  const std::wstring& found = checked.Faults() > 0 ? faults : notes;
+  return writer.Said(Word::Found, {found.c_str(), files.c_str()});
+}
+
+std::wstring Told(const Writer& writer, const qv::Finding& finding, qv::Language language) {
+  const std::wstring sentence = Sentence(finding, language);
+  return finding.file + L": " +
+         (finding.IsFault() ? sentence : writer.Said(Word::Note, {sentence.c_str()}));
+}
+
 void WriteFindings(Writer& writer, const Outcome& outcome) {
   for (const std::wstring& file : outcome.checked.files) {
     if (outcome.checked.IsListed(file)) {
@@ -187,16 +213,9 @@ void WriteFindings(Writer& writer, const Outcome& outcome) {
     }
   }
   for (const qv::Finding& finding : outcome.checked.findings) {
-    writer.Write(OneLine(finding.file + L": " + Sentence(finding, outcome.language)));
+    writer.Write(OneLine(Told(writer, finding, outcome.language)));
   }
-  const auto files = static_cast<unsigned>(outcome.checked.files.size());
-  const auto faults = static_cast<unsigned>(
-      std::count_if(outcome.checked.findings.begin(), outcome.checked.findings.end(),
-                    [](const qv::Finding& finding) { return finding.IsFault(); }));
-  const std::wstring inFiles = writer.Said(files == 1 ? Word::OneFile : Word::Files, {files});
-  const std::wstring found = writer.Said(faults == 1 ? Word::OneFinding : Word::Findings, {faults});
-  writer.Write(faults == 0 ? writer.Said(Word::NothingFound, {inFiles.c_str()})
-                           : writer.Said(Word::Found, {found.c_str(), inFiles.c_str()}));
+  writer.Write(Count(writer, outcome.checked));
 }
 
 }  // namespace

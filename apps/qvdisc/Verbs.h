@@ -51,8 +51,8 @@ void Modify(qv::DiscriminatorList& list, const std::vector<int>& rows, const Edi
 void Remove(qv::DiscriminatorList& list, const std::vector<int>& rows, qv::Prompter& prompter,
             Outcome& outcome);
 
-/// Tells what is wrong with the installation, or with those of its files that `names` are of.
-void Check(const qv::InstallationToCheck& installation, const std::vector<std::wstring>& names,
+/// Tells what is wrong with the installation, or with those of its files that the call names.
+void Check(const qv::InstallationToCheck& installation, const Arguments& call,
            qv::Progress& progress, Outcome& outcome);
 
 }  // namespace qvdisc

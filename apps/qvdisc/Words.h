@@ -53,10 +53,14 @@ enum class Word {
   Listed,          ///< the file
   OneFile,
   Files,  ///< how many
-  OneFinding,
-  Findings,      ///< how many
-  NothingFound,  ///< the files, counted
-  Found,         ///< the findings and the files, counted
+  OneFault,
+  Faults,  ///< how many
+  OneNote,
+  Notes,           ///< how many
+  Note,            ///< the sentence of a note
+  NothingFound,    ///< the files, counted
+  Found,           ///< the faults or the notes, and the files, counted
+  FaultsAndNotes,  ///< the faults, the notes and the files, counted
 
   // What a check finds
   Unreadable,    ///< reason

@@ -39,7 +39,7 @@ TEST_F(InstallationCheckTest, AFlawlessInstallationIsReadOnceAndNotChanged) {
   const CheckedInstallation checked = Checked();
   EXPECT_THAT(checked.files, ElementsAre(L"1.a.xdct", L"2.b.xdct"));
   EXPECT_THAT(checked.findings, IsEmpty());
-  EXPECT_FALSE(checked.IsFaulty());
+  EXPECT_EQ(checked.Faults(), 0U);
   EXPECT_THAT(files.log, ElementsAre(L"walk /cfg/*.xdct", L"read /cfg/1.a.xdct",
                                      L"read /cfg/2.b.xdct", L"walk /cfg/*.xdctI"));
   EXPECT_THAT(progress.steps, ElementsAre(Pair(0, 2), Pair(1, 2))) << "a wish to stop isn't heeded";
@@ -50,7 +50,8 @@ TEST_F(InstallationCheckTest, AHiddenTypeIsNoFault) {
   const CheckedInstallation checked = Checked();
   EXPECT_THAT(checked.findings,
               ElementsAre(Finding{.kind = FindingKind::HiddenType, .file = L"2.b.xdct"}));
-  EXPECT_FALSE(checked.IsFaulty());
+  EXPECT_EQ(checked.Faults(), 0U);
+  EXPECT_EQ(checked.Notes(), 1U);
   EXPECT_TRUE(checked.IsListed(L"1.a.xdct"));
   EXPECT_FALSE(checked.IsListed(L"2.b.xdct"));
 }
@@ -74,7 +75,8 @@ TEST_F(InstallationCheckTest, FindingsComeByFileAndThoseOfTheConfigurationLast) 
             (Finding{.kind = FindingKind::DiscriminatorWithoutEntry, .file = L"d.xdct"}));
   EXPECT_EQ(checked.findings[4],
             (Finding{.kind = FindingKind::IndexWithoutUse, .file = L"x.xdctI"}));
-  EXPECT_TRUE(checked.IsFaulty());
+  EXPECT_EQ(checked.Faults(), 4U);
+  EXPECT_EQ(checked.Notes(), 1U);
   EXPECT_FALSE(checked.IsListed(L"d.xdct"));
 }
 

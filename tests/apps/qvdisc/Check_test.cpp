@@ -88,7 +88,9 @@ TEST_F(CheckTest, AHiddenTypeIsExplainedAndNoFault) {
   const auto findings = Findings(false);
   ASSERT_EQ(Kinds(findings), "hidden-type\n");
   EXPECT_EQ(findings[0]["fault"], false);
-  EXPECT_THAT(Do({"check"}).output, HasSubstr("hides the type CONDITIONS\n4 files, nothing found"));
+  EXPECT_THAT(Do({"check"}).output,
+              HasSubstr(".xdct: note: not in the list: the installation is embedded and hides the "
+                        "type CONDITIONS\n1 note in 4 files\n"));
 }
 
 TEST_F(CheckTest, ASlotWithoutItsHourTypeIsToldWithItsPlace) {
@@ -227,7 +229,7 @@ TEST_F(CheckTest, SpeaksSpanish) {
   std::filesystem::remove(File(file + "I"));
   EXPECT_EQ(Do({"check", "--language", "es", dayAndNight}).output,
             file + ": aparece en la lista\n" + file +
-                ": falta el archivo de índice\n1 incidencia en 1 archivo\n");
+                ": falta el archivo de índice\n1 fallo en 1 archivo\n");
 }
 
 TEST_F(CheckTest, CountsFilesAndFindingsInWords) {
@@ -238,7 +240,27 @@ TEST_F(CheckTest, CountsFilesAndFindingsInWords) {
   EXPECT_EQ(lastLine(Do({"check", "--language", "es", dayAndNight}).output),
             "1 archivo, sin incidencias\n");
   std::filesystem::remove(File(file + "I"));
-  EXPECT_EQ(lastLine(Do({"check", dayAndNight}).output), "1 finding in 1 file\n");
+  EXPECT_EQ(lastLine(Do({"check", dayAndNight}).output), "1 fault in 1 file\n");
+  Edit(file, "<from>18:00</from>", "<from>18:01</from>");
+  EXPECT_EQ(lastLine(Do({"check", dayAndNight}).output), "1 fault and 1 note in 1 file\n");
+  Edit(file, "<to>07:00</to>", "<to>06:59</to>");
+  std::filesystem::remove(File(tariff2 + ".xdctI"));
+  EXPECT_EQ(lastLine(Do({"check", "--language", "es"}).output),
+            "2 fallos y 2 notas en 4 archivos\n");
+}
+
+TEST_F(CheckTest, NotesCountForTheExitStatusIfTheCallSaysSo) {
+  EXPECT_EQ(Do({"check", "--strict"}).status, 0);
+  Edit(file, "<from>18:00</from>", "<from>18:01</from>");
+  const Json json = DoJson({"check"});
+  EXPECT_EQ(json["status"], 0);
+  EXPECT_EQ(json["faults"], 0);
+  EXPECT_EQ(json["notes"], 1);
+  EXPECT_EQ(DoJson({"check", "--strict"})["status"], 1);
+  EXPECT_EQ(Do({"check", "--strict", station}).status, 0);
+  std::filesystem::remove(File(file + "I"));
+  EXPECT_EQ(DoJson({"check"})["faults"], 1);
+  EXPECT_EQ(Do({"check"}).status, 1);
 }
 
 TEST_F(CheckTest, ABrokenConfigurationIsAFindingAndTheFilesAreStillChecked) {

@@ -80,6 +80,7 @@ TEST(Pages, TheManualHasVerbsFindingsStatusEnvironmentAndExamples) {
   EXPECT_THAT(page.output, StartsWith(".TH QVDISC 1"));
   EXPECT_THAT(page.output, HasSubstr(".SS modify\n"));
   EXPECT_THAT(page.output, HasSubstr("\\fB\\-\\-type\\fR \\fISLOTS|CONDITIONS\\fR\n"));
+  EXPECT_THAT(page.output, HasSubstr("\\fB\\-h,\\-\\-help\\fR\nPrint this help"));
   for (const char* heading : {"NAME", "SYNOPSIS", "OPTIONS", "VERBS", "STEM", "KINDS OF FINDING",
                               "EXIT STATUS", "ENVIRONMENT", "EXAMPLES"}) {
     EXPECT_THAT(page.output, HasSubstr(std::string("\n.SH ") + heading + "\n"));

@@ -137,7 +137,7 @@ TEST_F(ProcessTest, CopiesThroughAPipeIntoAnotherInstallation) {
       " \"$QVDISC\" paste --installation \"$DIR/other\" &&"
       " \"$QVDISC\" check --installation \"$DIR/other\"");
   EXPECT_EQ(ended.status, 1) << "without a configuration there are no entries";
-  EXPECT_THAT(ended.output, HasSubstr("has no entry in the device groups\n1 finding in 1 file"));
+  EXPECT_THAT(ended.output, HasSubstr("has no entry in the device groups\n1 fault in 1 file"));
 }
 
 TEST_F(ProcessTest, BashCompletesVerbsOptionsValuesAndDiscriminators) {
