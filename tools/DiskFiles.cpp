@@ -74,6 +74,16 @@ bool FlushToDisk(std::FILE* file) {
 #endif
 }
 
+/// Why the user of this program may not write to what is there.
+std::error_code WhyNotWritten(const fs::path& name) {
+#ifdef _WIN32
+  constexpr int write = 2;
+  return _waccess(name.c_str(), write) == 0 ? std::error_code() : Reason(errno);
+#else
+  return access(name.c_str(), W_OK) == 0 ? std::error_code() : Reason(errno);
+#endif
+}
+
 /// Why what is there, but no regular file, isn't read.
 std::error_code ReasonOfKind(const fs::path& name) {
   std::error_code ignored;
@@ -179,6 +189,26 @@ class DiskFiles : public Files {
       return Removal::Refused;
     }
     return removed ? Removal::Removed : Removal::Missing;
+  }
+
+  std::error_code Obstacle(std::wstring_view path, FileVerb verb) override {
+    const auto name = SystemPath(path);
+    if (!name || name->empty()) {
+      return Reason(EINVAL);
+    }
+    std::error_code error;
+    const bool isWrite = verb == FileVerb::Write;
+    const auto status = isWrite ? fs::status(*name, error) : fs::symlink_status(*name, error);
+    if (!fs::status_known(status)) {
+      return error;
+    }
+    if (fs::is_directory(status) || IsWriteProtected(status)) {
+      return Reason(fs::is_directory(status) ? EISDIR : EACCES);
+    }
+    // A file comes and goes in its directory.
+    const bool isOverwritten = isWrite && fs::exists(status);
+    const fs::path directory = name->has_parent_path() ? name->parent_path() : fs::path(".");
+    return WhyNotWritten(isOverwritten ? *name : directory);
   }
 
   bool MakeDirectory(std::wstring_view path) override {

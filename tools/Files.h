@@ -35,6 +35,9 @@ enum class Removal {
   Refused   ///< it is still there: write-protected, a directory, or the system said no
 };
 
+/// What is done to a file.
+enum class FileVerb { Write, Remove };
+
 /// The one road to the disk: every open, write, removal, new directory and walk. Paths are full
 /// paths or relative to the working directory. Nothing here throws for what the disk answers.
 class QVTOOLS_EXPORT Files {
@@ -57,6 +60,10 @@ class QVTOOLS_EXPORT Files {
   /// Unlinks a file or a link, never a directory. A file without any write permission counts as
   /// write-protected and is refused, whoever runs the program.
   virtual Removal Remove(std::wstring_view path) = 0;
+
+  /// Why the file of this path, there or still to be made, would be refused to `verb` now; no error
+  /// if nothing is known to be in the way. Changes nothing, and counts as no failure.
+  virtual std::error_code Obstacle(std::wstring_view /*path*/, FileVerb /*verb*/) { return {}; }
 
   /// Makes the directory and those above it that are missing; true if it is there afterwards.
   virtual bool MakeDirectory(std::wstring_view path) = 0;

@@ -62,8 +62,9 @@ Arguments ReadTexts(const CLI::App& app, const OptionTexts& texts) {
   arguments.installation = Installation(texts.installation);
   arguments.language = qv::LanguageOf(texts.language);
   arguments.json = texts.json;
-  if (texts.yes || texts.no) {
-    arguments.answer = texts.yes;
+  arguments.dryRun = texts.dryRun;
+  if (texts.yes || texts.no || texts.dryRun) {
+    arguments.answer = !texts.no;
   }
   arguments.strict = texts.strict;
   std::transform(texts.stems.begin(), texts.stems.end(), std::back_inserter(arguments.stems),

@@ -31,6 +31,7 @@ struct Arguments {
   std::optional<qv::Language> language;  ///< nothing for that of the user's system
   bool json = false;
   std::optional<bool> answer;       ///< to every question; nothing asks the user
+  bool dryRun = false;              ///< whether nothing is written
   bool strict = false;              ///< whether notes count for the exit status of a check
   std::vector<std::wstring> stems;  ///< which discriminators, as the user calls them
   FieldChanges changes;

@@ -49,7 +49,7 @@ constexpr std::array verbs = {
     VerbRow{"index",
             Verb::Index,
             anyStems,
-            AddNothing,
+            AddDryRun,
             {"Rehace el archivo de índice de un discriminador, o los de todos",
              "Makes the index file of a discriminator anew, or those of all"},
             "qvdisc index 'Day and night'"},
@@ -63,7 +63,7 @@ constexpr std::array verbs = {
     VerbRow{"paste",
             Verb::Paste,
             noStems,
-            AddNothing,
+            AddDryRun,
             {"Crea los discriminadores que contiene la entrada estándar, como del portapapeles",
              "Makes new discriminators of what standard input holds, as from the clipboard"},
             "qvdisc paste < mail.txt\n"
@@ -88,6 +88,7 @@ constexpr std::array verbs = {
             AddAnswers,
             {"Elimina discriminadores con sus archivos y sus entradas",
              "Removes discriminators with their files and entries"},
+            "qvdisc remove 'Tariff 2027' --dry-run\n"
             "qvdisc remove 'Tariff 2027' 'Tariff 2028' --yes"},
     VerbRow{"check",
             Verb::Check,

@@ -51,6 +51,7 @@ void AddFields(CLI::App& verb, bool nameNeeded, OptionTexts& texts, qv::Language
         NoFieldText);
   Restrict(AddText(verb, "--type", texts.type, type.In(language)), {"SLOTS", "CONDITIONS"}, NoneOf);
   Restrict(AddText(verb, "--zero-outside", texts.zero, zero.In(language)), {"yes", "no"}, NoneOf);
+  AddDryRun(verb, texts, language);
 }
 
 }  // namespace
@@ -107,6 +108,13 @@ void AddAnswers(CLI::App& verb, OptionTexts& texts, qv::Language language) {
   constexpr Meaning no{"Responde que no a toda pregunta", "Answer No to every question"};
   CLI::Option* answer = verb.add_flag("--yes", texts.yes, yes.In(language));
   verb.add_flag("--no", texts.no, no.In(language))->excludes(answer);
+  AddDryRun(verb, texts, language);
+}
+
+void AddDryRun(CLI::App& verb, OptionTexts& texts, qv::Language language) {
+  constexpr Meaning dryRun{"Dice lo que se haría y no escribe nada",
+                           "Tell what would be done, and write nothing"};
+  verb.add_flag("--dry-run", texts.dryRun, dryRun.In(language));
 }
 
 void AddStrict(CLI::App& verb, OptionTexts& texts, qv::Language language) {

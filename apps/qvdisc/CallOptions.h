@@ -26,6 +26,7 @@ struct OptionTexts {
   bool yes = false;
   bool no = false;
   bool strict = false;
+  bool dryRun = false;
 };
 
 /// How many STEMs a verb takes.
@@ -52,8 +53,11 @@ void AddNewFields(CLI::App& verb, OptionTexts& texts, qv::Language language);
 /// The fields of a discriminator that is changed.
 void AddChangedFields(CLI::App& verb, OptionTexts& texts, qv::Language language);
 
-/// The answers to the questions of a verb.
+/// The answers to the questions of a verb. A dry run needs none: it takes Yes.
 void AddAnswers(CLI::App& verb, OptionTexts& texts, qv::Language language);
+
+/// What has a verb write nothing.
+void AddDryRun(CLI::App& verb, OptionTexts& texts, qv::Language language);
 
 /// What makes notes count for the exit status.
 void AddStrict(CLI::App& verb, OptionTexts& texts, qv::Language language);

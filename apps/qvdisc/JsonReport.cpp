@@ -51,6 +51,10 @@ Json Made(const std::wstring& stem) {
   return {{"stem", Utf8(stem)}, {"id", Utf8(qv::IdOfStem(QVWideString(stem)).ToView())}};
 }
 
+Json Changed(const FileChange& change) {
+  return {{"path", Utf8(change.path)}, {"change", change.isRemoved ? "removed" : "written"}};
+}
+
 /// The node as it stands: its value, or its children in order, each as an object of its tag.
 Json Tree(const XmlNode& node) {
   if (node.ChildsBegin() == node.ChildsEnd()) {
@@ -95,6 +99,10 @@ void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome)
   }
   if (arguments.verb == Verb::Add || arguments.verb == Verb::Paste) {
     json["made"] = List(outcome.made, Made);
+  }
+  if (arguments.dryRun) {
+    json["dryRun"] = true;
+    json["changes"] = List(outcome.changes, Changed);
   }
   if (outcome.unsaved) {
     json["unsaved"] = *outcome.unsaved;

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "apps/qvdisc/RehearsedFiles.h"
 #include "apps/qvdisc/Words.h"
 #include "checks/InstallationCheck.h"
 #include "discriminator/DiscriminatorFile.h"
@@ -48,6 +49,7 @@ struct Outcome {
   std::vector<IndexEnd> indexes;
   std::vector<std::wstring> made;   ///< the stems of the discriminators that are new
   qv::CheckedInstallation checked;  ///< what `check` found
+  std::vector<FileChange> changes;  ///< what a dry run would have done
 
   /// The call ends as refused, for one more reason.
   void Fail(Word reason, std::initializer_list<qv::FormatArgument> arguments = {}) {

@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "apps/qvdisc/RehearsedFiles.h"
 #include "apps/qvdisc/Reports.h"
 #include "apps/qvdisc/Session.h"
 
@@ -17,6 +18,14 @@ void Perform(const Arguments& arguments, const Terminal& terminal, const System&
   }
 }
 
+/// The same on a disk that stays as it is.
+void Rehearse(const Arguments& arguments, const Terminal& terminal, const System& system,
+              Outcome& outcome) {
+  RehearsedFiles files(system.files);
+  Perform(arguments, terminal, {system.language, system.languageDirectory, files}, outcome);
+  outcome.changes = files.Changes();
+}
+
 void TellErrors(const Outcome& outcome, const Terminal& terminal) {
   for (const std::wstring& error : outcome.errors) {
     const std::string line = ErrorLine(Utf8(error));
@@ -29,7 +38,7 @@ void TellErrors(const Outcome& outcome, const Terminal& terminal) {
 int Run(const Arguments& arguments, const Terminal& terminal, const System& system) {
   Outcome outcome;
   outcome.language = arguments.language.value_or(system.language);
-  Perform(arguments, terminal, system, outcome);
+  (arguments.dryRun ? Rehearse : Perform)(arguments, terminal, system, outcome);
   terminal.out << (arguments.json ? JsonReport(arguments, outcome)
                                   : TextReport(arguments, outcome, terminal.coloursOutput))
                << std::flush;

@@ -171,6 +171,17 @@ void WriteMade(Writer& writer, const Outcome& outcome) {
   }
 }
 
+/// What a dry run would have done, in place of what a call has done.
+void WriteChanges(Writer& writer, const Outcome& outcome) {
+  for (const FileChange& change : outcome.changes) {
+    const Word word = change.isRemoved ? Word::WouldRemove : Word::WouldWrite;
+    writer.Write(OneLine(writer.Said(word, {change.path.c_str()})));
+  }
+  if (outcome.changes.empty()) {
+    writer.Write(writer.Said(Word::WouldDoNothing));
+  }
+}
+
 void WriteIndexes(Writer& writer, const Outcome& outcome) {
   for (const IndexEnd& index : outcome.indexes) {
     if (!index.needed || index.written) {
@@ -226,6 +237,10 @@ std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool 
     if (*text) {
       return **text + "\n";
     }
+  }
+  if (arguments.dryRun) {
+    WriteChanges(writer, outcome);
+    return writer.Text();
   }
   if (outcome.document) {
     WriteDocument(writer, *outcome.document->Root());

@@ -44,9 +44,12 @@ enum class Word {
   Conditions,
   Yes,
   No,
-  DatesOfYear,     ///< year and number of dates
-  Answer,          ///< the answer that was given to a question
-  Made,            ///< the stem
+  DatesOfYear,  ///< year and number of dates
+  Answer,       ///< the answer that was given to a question
+  Made,         ///< the stem
+  WouldWrite,   ///< the path
+  WouldRemove,  ///< the path
+  WouldDoNothing,
   IndexWritten,    ///< the stem
   IndexNotNeeded,  ///< the stem
   Reading,         ///< how many of how many

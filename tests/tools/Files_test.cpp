@@ -307,6 +307,25 @@ TEST_F(FailuresOfDiskFiles, HaveTheReasonOfTheSystem) {
   EXPECT_EQ(Reason([&] { EXPECT_FALSE(files.MakeDirectory(Path(L"locked/a"))); }), Number(ENOTDIR));
 }
 
+TEST_F(FailuresOfDiskFiles, AreForeseenWithoutDoingAnything) {
+  fs::permissions(Put("locked", "kept"), fs::perms::owner_read);
+  fs::create_directory(directory.Path() / "sub");
+  Put("free", "kept");
+  for (const FileVerb verb : {FileVerb::Write, FileVerb::Remove}) {
+    const auto obstacle = [&](std::wstring_view name) { return files.Obstacle(Path(name), verb); };
+    EXPECT_EQ(obstacle(L"locked"), Number(EACCES));
+    EXPECT_EQ(obstacle(L"sub"), Number(EISDIR));
+    EXPECT_EQ(obstacle(L"no/a"), Number(ENOENT));
+    EXPECT_EQ(obstacle(std::wstring(300, L'x')), Number(ENAMETOOLONG));
+    EXPECT_EQ(obstacle(L"free"), std::error_code());
+    EXPECT_EQ(obstacle(L"new"), std::error_code());
+    EXPECT_EQ(files.Obstacle(L"", verb), Number(EINVAL));
+  }
+  EXPECT_FALSE(files.Failure());
+  EXPECT_EQ(FileBytes(directory.Path() / "free"), "kept");
+  EXPECT_FALSE(fs::exists(directory.Path() / "new"));
+}
+
 TEST_F(FailuresOfDiskFiles, WhatSucceedsAndWhatIsMissingAreNone) {
   EXPECT_EQ(files.Remove(Path(L"gone")), Removal::Missing);
   const auto writer = files.OpenForWriting(Path(L"a"));
