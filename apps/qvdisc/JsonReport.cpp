@@ -1,23 +1,17 @@
-#include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "apps/qvdisc/DocumentJson.h"
 #include "apps/qvdisc/FindingWords.h"
 #include "apps/qvdisc/Reports.h"
-#include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
-#include "discriminator/ValueForms.h"
-#include "tools/Nodes.h"
 
 namespace qvdisc {
 namespace {
 
 using Json = nlohmann::ordered_json;
-using qv::XmlNode;
 
 /// Changes with every change of the form that a reader could trip over.
 constexpr int formVersion = 1;
-
-std::string Text(const XmlNode& node, const wchar_t* tag) { return Utf8(qv::FieldOf(node, tag)); }
 
 Json Row(const qv::DiscriminatorSummary& row) {
   return {{"stem", Utf8(row.fileStem.ToView())},
@@ -55,29 +49,6 @@ Json Changed(const FileChange& change) {
   return {{"path", Utf8(change.path)}, {"change", change.isRemoved ? "removed" : "written"}};
 }
 
-/// The node as it stands: its value, or its children in order, each as an object of its tag.
-Json Tree(const XmlNode& node) {
-  if (node.ChildsBegin() == node.ChildsEnd()) {
-    return Utf8(node.Value().ToView());
-  }
-  Json children = Json::array();
-  for (auto child = node.ChildsBegin(); child != node.ChildsEnd(); ++child) {
-    children.push_back({{Utf8((*child)->Tag().ToView()), Tree(**child)}});
-  }
-  return children;
-}
-
-Json Document(const XmlNode& root) {
-  return {{"id", Text(root, qv::tag::Id)},
-          {"name", Text(root, qv::tag::Name)},
-          {"description", Text(root, qv::tag::Description)},
-          {"setZeroOutsideSlot", qv::IsFlagSet(root.Value(qv::tag::SetZeroOutsideSlot, L"T"))},
-          {"type", Text(root, qv::tag::Type)},
-          {"revision", Text(root, qv::tag::Revision)},
-          {"rootTag", Utf8(root.Tag().ToView())},
-          {"content", Tree(root)}};
-}
-
 template <class Values, class ToJson>
 Json List(const Values& values, ToJson toJson) {
   Json list = Json::array();
@@ -89,7 +60,7 @@ Json List(const Values& values, ToJson toJson) {
 
 void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome) {
   if (outcome.document) {
-    json["document"] = Document(*outcome.document->Root());
+    json["document"] = DocumentJson(*outcome.document->Root());
   }
   if (outcome.payload) {
     json["payload"] = *outcome.payload;
