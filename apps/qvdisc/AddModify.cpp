@@ -53,9 +53,11 @@ qv::DiscriminatorFields Typed(const DiscriminatorForm& form, const FieldChanges&
 /// Does what a user does in the editor: opens it, types, and presses OK.
 EditorEnd RunEditor(const Editing& editing, qv::XmlNode* deviceGroups, const QVWideString* path,
                     Outcome& outcome) {
-  const auto form = DiscriminatorForm::Open({editing.host, editing.files, deviceGroups}, path);
+  std::optional<qv::Refusal> refusal;
+  const auto form =
+      DiscriminatorForm::Open({editing.host, editing.files, deviceGroups}, path, &refusal);
   if (!form) {
-    outcome.Fail(Word::DiscriminatorUnreadable, {editing.call.stems.front().c_str()});
+    Tell(editing.prompter, *refusal);
     return {};
   }
   const qv::DiscriminatorFields typed = Typed(*form, editing.call.changes);

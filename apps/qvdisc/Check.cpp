@@ -1,31 +1,13 @@
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <set>
 #include <utility>
 
+#include "apps/qvdisc/NamedFiles.h"
 #include "apps/qvdisc/Verbs.h"
-#include "discriminator/FileNames.h"
-#include "tools/Names.h"
 
 namespace qvdisc {
 namespace {
-
-/// Whether the call names the discriminator file by its stem, or by id or name alone.
-bool IsNamed(const std::wstring& file, const std::wstring& text) {
-  const auto stem = qv::WithoutExtension(file).value_or(file);
-  const auto name = qv::NameOfStem(stem);
-  return stem == text || qv::IdOfStem(QVWideString(stem)) == text ||
-         (name && qv::EqualUppered(*name, text));
-}
-
-std::vector<std::wstring> FilesNamed(const std::vector<std::wstring>& files,
-                                     const std::wstring& name) {
-  std::vector<std::wstring> named;
-  std::copy_if(files.begin(), files.end(), std::back_inserter(named),
-               [&](const std::wstring& file) { return IsNamed(file, name); });
-  return named;
-}
 
 /// The files that the call names, in order; nothing, and the outcome tells why, if one of the names
 /// is of no file.

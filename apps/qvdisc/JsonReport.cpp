@@ -23,7 +23,8 @@ Json Row(const qv::DiscriminatorSummary& row) {
 Json Spoken(const SpokenText& spoken) {
   Json json = {{"number", spoken.number},
                {"kind", spoken.isQuestion ? "question" : "message"},
-               {"text", Utf8(spoken.text)}};
+               {"text", Utf8(spoken.text)},
+               {"addition", Utf8(spoken.addition)}};
   if (spoken.isQuestion) {
     json["answer"] = spoken.answer ? Json(*spoken.answer) : Json(nullptr);
   }

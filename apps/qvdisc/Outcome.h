@@ -22,6 +22,7 @@ struct SpokenText {
   std::wstring text;
   bool isQuestion = false;
   std::optional<bool> answer;  ///< nothing if there was no answer
+  std::wstring addition{};     ///< lines that stood below it
 };
 
 /// An index file that was to be made.

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <string>
 
+#include "apps/qvdisc/NamedFiles.h"
 #include "apps/qvdisc/NamedRows.h"
 #include "apps/qvdisc/Verbs.h"
+#include "editor/DiscriminatorForm.h"
 #include "manager/DiscriminatorClipboard.h"
 
 namespace qvdisc {
@@ -99,6 +101,22 @@ void Session::Perform() {
     Check(ToCheck(), m_arguments, *m_view.NewProgress(), m_outcome);
   } else if (const auto rows = NamedRows(m_list->Rows(), m_arguments.stems, m_outcome)) {
     PerformOn(*rows);
+  } else {
+    TellUnreadable();
+  }
+}
+
+void Session::TellUnreadable() {
+  const qv::DiscriminatorDirectory directory(m_setup.CfgPath(), m_system.files);
+  const auto files = directory.FileNames();
+  for (const std::wstring& stem : m_arguments.stems) {
+    for (const std::wstring& file : FilesNamed(files, stem)) {
+      const QVWideString path = directory.PathOf(file);
+      std::optional<qv::Refusal> refusal;
+      if (!qv::DiscriminatorForm::Open({m_host, m_system.files, nullptr}, &path, &refusal)) {
+        Tell(m_prompter, *refusal);
+      }
+    }
   }
 }
 

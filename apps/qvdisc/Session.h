@@ -45,6 +45,8 @@ class Session {
   qv::InstallationToCheck ToCheck() const;
   /// Does what the call asks for, with the rows that it names.
   void PerformOn(const std::vector<int>& rows);
+  /// Tells why files that the call names can't be read, since the list doesn't have them.
+  void TellUnreadable();
   void Save();
 
   const Arguments& m_arguments;

@@ -20,7 +20,8 @@ void UserPrompter::Show(Text text, const Arguments& arguments, const qv::Additio
     return;
   }
   const std::wstring message = Worded(text, arguments);
-  m_outcome.texts.push_back({Number(text), message, false, std::nullopt});
+  m_outcome.texts.push_back(
+      {Number(text), message, false, std::nullopt, qv::InWords(addition, m_texts)});
   m_terminal.err << Utf8(WithAddition(message, addition)) << '\n';
 }
 
@@ -34,7 +35,7 @@ bool UserPrompter::Ask(Text text, const Arguments& arguments, const qv::Addition
   const std::wstring asked = WithAddition(question, addition);
   m_terminal.err << Utf8(asked) << (asked == question ? ' ' : '\n');
   const auto answer = AnswerTo(question);
-  m_outcome.texts.push_back({Number(text), question, true, answer});
+  m_outcome.texts.push_back({Number(text), question, true, answer, qv::InWords(addition, m_texts)});
   if (!answer) {
     m_terminal.err << '\n';
     m_outcome.Fail(Word::AnswerNeeded);

@@ -26,7 +26,7 @@ struct Ended {
 
 /// Runs the program in this process, as if it had been called with these arguments.
 inline Ended Call(const std::vector<std::string>& arguments, const std::string& input = {},
-                  bool atTerminal = false) {
+                  bool atTerminal = false, qv::Files& files = qv::Files::Disk()) {
   std::vector<const char*> words = {"qvdisc"};
   for (const std::string& argument : arguments) {
     words.push_back(argument.c_str());
@@ -47,7 +47,8 @@ inline Ended Call(const std::vector<std::string>& arguments, const std::string& 
                           .coloursOutput = atTerminal,
                           .coloursErrors = false};
   const System system{.language = qv::Language::English,
-                      .languageDirectory = (languages / "").wstring()};
+                      .languageDirectory = (languages / "").wstring(),
+                      .files = files};
   const int status = Run(std::get<Arguments>(call), terminal, system);
   return {status, out.str(), err.str()};
 }
