@@ -11,7 +11,7 @@
 
 namespace qvdisc {
 
-enum class Verb { List, Show, Index, Copy, Paste, Add, Modify, Remove, Check };
+enum class Verb { List, Show, Index, Copy, Paste, Add, Modify, Remove, Check, Names };
 
 /// What is to become of the fields of a discriminator; nothing where a field stays as it is.
 struct FieldChanges {

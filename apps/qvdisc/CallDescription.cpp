@@ -29,7 +29,8 @@ struct VerbRow {
   Stems stems;
   AddOptions addOptions;
   Meaning meaning;
-  const char* examples;  ///< a call a line
+  const char* examples;   ///< a call a line
+  bool isHidden = false;  ///< whether it isn't for people
 };
 
 constexpr std::array verbs = {
@@ -98,12 +99,20 @@ constexpr std::array verbs = {
              "Tells what is wrong with the files and entries of discriminators"},
             "qvdisc check --strict\n"
             "qvdisc check 'Day and night' --json"},
+    VerbRow{"names",
+            Verb::Names,
+            noStems,
+            AddNothing,
+            {"Escribe cómo se pueden nombrar los discriminadores, para completar llamadas",
+             "Prints what discriminators can be called, to complete calls"},
+            "qvdisc names",
+            true},
 };
 
 void AddVerb(CLI::App& app, const VerbRow& row, OptionTexts& texts, qv::Language language) {
   CLI::App& verb = *app.add_subcommand(row.name, row.meaning.In(language));
   verb.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-  verb.group(HelpWords(language).verbs);
+  verb.group(row.isHidden ? "" : HelpWords(language).verbs);
   AddCommonOptions(verb, texts, language);
   AddStems(verb, row.stems, texts, language);
   row.addOptions(verb, texts, language);

@@ -50,6 +50,7 @@ struct Outcome {
   std::vector<IndexEnd> indexes;
   std::vector<std::wstring> made;   ///< the stems of the discriminators that are new
   qv::CheckedInstallation checked;  ///< what `check` found
+  std::vector<std::wstring> names;  ///< by which discriminators can be called
   std::vector<FileChange> changes;  ///< what a dry run would have done
 
   /// The call ends as refused, for one more reason.

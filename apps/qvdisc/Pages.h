@@ -15,7 +15,7 @@ namespace qvdisc {
 std::string ManualPage(const CLI::App& app, qv::Language language);
 
 /// What bash has to source to complete calls of `app`: verbs, options, their values, directories,
-/// and the discriminators of the installation that the call names.
+/// and the discriminators of the installation that the call is for, which it asks the program for.
 std::string BashCompletion(const CLI::App& app);
 
 }  // namespace qvdisc

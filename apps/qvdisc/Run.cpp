@@ -5,12 +5,17 @@
 #include "apps/qvdisc/RehearsedFiles.h"
 #include "apps/qvdisc/Reports.h"
 #include "apps/qvdisc/Session.h"
+#include "apps/qvdisc/Verbs.h"
 
 namespace qvdisc {
 namespace {
 
 void Perform(const Arguments& arguments, const Terminal& terminal, const System& system,
              Outcome& outcome) {
+  if (arguments.verb == Verb::Names) {
+    const qv::DirectorySetup setup(arguments.installation, L"", 0);
+    return Names({setup.CfgPath(), system.files}, outcome);
+  }
   Session session(arguments, terminal, system, outcome);
   if (session.Open()) {
     session.Perform();

@@ -128,6 +128,7 @@ void Session::PerformOn(const std::vector<int>& rows) {
   switch (m_arguments.verb) {
     case Verb::List:
     case Verb::Check:
+    case Verb::Names:
       return;
     case Verb::Show:
       return Show(directory, stems().front(), m_outcome);

@@ -249,6 +249,9 @@ std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool 
   } else if (arguments.verb == Verb::Check && outcome.errors.empty()) {
     WriteFindings(writer, outcome);
   }
+  for (const std::wstring& name : outcome.names) {
+    writer.Write(OneLine(name));
+  }
   WriteMade(writer, outcome);
   WriteIndexes(writer, outcome);
   return writer.Text();

@@ -18,6 +18,10 @@
 /// What the verbs of the program do, each in its own file. The outcome tells how one ended.
 namespace qvdisc {
 
+/// Takes what a call can name discriminators by into the outcome: the stem of every file, listed or
+/// not, and then the names. Reads no file.
+void Names(const qv::DiscriminatorDirectory& directory, Outcome& outcome);
+
 /// Takes the document of the discriminator with this stem into the outcome.
 void Show(const qv::DiscriminatorDirectory& directory, const QVWideString& stem, Outcome& outcome);
 

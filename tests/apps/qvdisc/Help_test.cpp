@@ -1,7 +1,10 @@
 // The help, the manual page and the completion, which come from one description.
 #include <gmock/gmock.h>
 
+#include <CLI/CLI.hpp>
+
 #include "apps/qvdisc/FindingWords.h"
+#include "apps/qvdisc/Pages.h"
 #include "tests/apps/qvdisc/CommandLine.h"
 
 namespace qvdisc {
@@ -93,6 +96,33 @@ TEST(Pages, TheManualSpeaksSpanish) {
   const std::string page = Call({"--language", "es", "--manual-page"}).output;
   EXPECT_THAT(page, HasSubstr("\n.SH ESTADO DE SALIDA\n"));
   EXPECT_THAT(page, HasSubstr("\n.SS modify\nCambia el nombre"));
+}
+
+/// A program with a verb that has verbs of its own.
+class NestedVerbs : public testing::Test {
+ protected:
+  NestedVerbs() {
+    CLI::App* outer = app.add_subcommand("outer", "Does things");
+    outer->add_subcommand("first", "Does one thing")->add_flag("--one");
+    outer->add_subcommand("second", "Does another");
+    app.add_subcommand("secret", "Is for programs")->group("");
+  }
+
+  CLI::App app{"Does nothing", "program"};
+};
+
+TEST_F(NestedVerbs, HaveTheirWholeNamesInTheManual) {
+  const std::string page = ManualPage(app, qv::Language::English);
+  EXPECT_THAT(page, HasSubstr(".SS outer first\nDoes one thing.\n"));
+  EXPECT_THAT(page, Not(HasSubstr("secret")));
+}
+
+TEST_F(NestedVerbs, AreCompleted) {
+  const std::string script = BashCompletion(app);
+  EXPECT_THAT(script, HasSubstr("_qvdisc_verbs='|outer|outer first|outer second|'\n"));
+  EXPECT_THAT(script, HasSubstr("    '') _qvdisc_words \"outer --help\"; return ;;\n"));
+  EXPECT_THAT(script, HasSubstr("    'outer') _qvdisc_words \"first second --help\"; return ;;\n"));
+  EXPECT_THAT(script, HasSubstr("    'outer first') options=\"--help --one\" ;;\n"));
 }
 
 TEST(Pages, TheCompletionKnowsTheValuesOfOptions) {

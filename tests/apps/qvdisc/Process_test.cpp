@@ -143,6 +143,7 @@ TEST_F(ProcessTest, CopiesThroughAPipeIntoAnotherInstallation) {
 TEST_F(ProcessTest, BashCompletesVerbsOptionsValuesAndDiscriminators) {
   const std::string complete =
       "source <(\"$QVDISC\" --bash-completion)\n"
+      "qvdisc() { \"$QVDISC\" \"$@\"; }\n"
       "complete_line() { COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _qvdisc;"
       " printf '%s\\n' \"${COMPREPLY[@]}\"; }\n";
   EXPECT_EQ(Bash(complete + "complete_line qvdisc s").output, "show\n");
@@ -155,6 +156,13 @@ TEST_F(ProcessTest, BashCompletesVerbsOptionsValuesAndDiscriminators) {
               dayAndNight + "\n");
   }
   EXPECT_EQ(Bash(complete + "complete_line qvdisc modify --type = C").output, "CONDITIONS\n");
+  for (const char* place : {"cd \"$DIR\"\n", "export QVDISC_INSTALLATION=\"$DIR\"\n"}) {
+    EXPECT_EQ(Bash(complete + place + "complete_line qvdisc modify 'Day'").output,
+              "Day and night\n");
+  }
+  EXPECT_EQ(Bash(complete + "complete_line qvdisc show --installation /nowhere 3cb").output, "\n");
+  EXPECT_EQ(Bash(complete + "cd \"$DIR\"; complete_line qvdisc list ''").output, "\n");
+  EXPECT_EQ(Bash(complete + "complete_line qvdisc n").output, "\n") << "names is for completion";
 }
 
 TEST_F(ProcessTest, LinksNoQt) {

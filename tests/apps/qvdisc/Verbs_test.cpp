@@ -33,6 +33,20 @@ TEST_F(VerbsTest, ListAlignsItsColumns) {
   EXPECT_EQ(All(), before);
 }
 
+TEST_F(VerbsTest, NamesAreStemsAndNamesOfAllFiles) {
+  Write("x.Day and night.xdct", "broken");
+  Write("y.xdct", "broken");
+  const Ended ended = Do({"names"});
+  EXPECT_EQ(ended.status, 0);
+  EXPECT_EQ(ended.output, tariff2 + "\n" + dayAndNight +
+                              "\n9cfc40ad-7433-4b63-9bdc-fddcb544122c.Tariff 3-0TD and 6-1TD "
+                              "2026\n" +
+                              station +
+                              "\nx.Day and night\ny\nDay and night\nTariff 2-0TD 2026\n"
+                              "Tariff 3-0TD and 6-1TD 2026\nTransformer station state\n");
+  EXPECT_THAT(Call({"--help"}).output, Not(HasSubstr("names ")));
+}
+
 TEST_F(VerbsTest, ListSpeaksTheLanguageOfTheCall) {
   EXPECT_THAT(Do({"list", "--language", "es"}).output, testing::StartsWith("Nombre "));
 }
