@@ -1,27 +1,10 @@
-#include "apps/qvdisc/Verbs.h"
-#include "discriminator/DiscriminatorFile.h"
+#include "apps/qvdisc/EditDiscriminator.h"
 #include "discriminator/Fields.h"
-#include "editor/DiscriminatorForm.h"
-#include "manager/ClipboardPayload.h"
 
 namespace qvdisc {
 namespace {
 
 using qv::DiscriminatorForm;
-using qv::EditorEnd;
-
-/// Tells why it wasn't saved. What could not be written stays with the user: as a payload that can
-/// be pasted again.
-void TellUnsaved(const DiscriminatorForm& form, const qv::SaveEnd& end, qv::Prompter& prompter,
-                 Outcome& outcome) {
-  if (end.refusal) {
-    Tell(prompter, *end.refusal);
-  }
-  if (end.outcome == qv::SaveOutcome::NotWritten) {
-    outcome.unsaved = qv::ComposePayload(form.Root()).ToView();
-    outcome.Fail(Word::ContentFollows);
-  }
-}
 
 /// Chooses the type, as the dialog lets a user do; false if it doesn't.
 bool ChooseType(std::optional<bool> slots, DiscriminatorForm& form, Outcome& outcome) {
@@ -50,54 +33,27 @@ qv::DiscriminatorFields Typed(const DiscriminatorForm& form, const FieldChanges&
   return fields;
 }
 
-/// Does what a user does in the editor: opens it, types, and presses OK.
-EditorEnd RunEditor(const Editing& editing, qv::XmlNode* deviceGroups, const QVWideString* path,
-                    Outcome& outcome) {
-  std::optional<qv::Refusal> refusal;
-  const auto form =
-      DiscriminatorForm::Open({editing.host, editing.files, deviceGroups}, path, &refusal);
-  if (!form) {
-    Tell(editing.prompter, *refusal);
-    return {};
-  }
-  const qv::DiscriminatorFields typed = Typed(*form, editing.call.changes);
-  if (!ChooseType(editing.call.changes.slots, *form, outcome)) {
-    return {};
-  }
-  const qv::SaveEnd end = form->Save(typed);
-  if (!end.IsDone()) {
-    TellUnsaved(*form, end, editing.prompter, outcome);
-  } else if (form->IsNew()) {
-    outcome.made.emplace_back(qv::StemOfDocument(form->Root()).ToView());
-  }
-  return {end.IsDone(), form->IsModified()};
-}
-
-qv::DiscriminatorList::RunEditor EditorOf(const Editing& editing, Outcome& outcome) {
-  return [&](qv::XmlNode* deviceGroups, const QVWideString* path) {
-    return RunEditor(editing, deviceGroups, path, outcome);
+/// Types what the call gives, and chooses its type.
+UseEditor Typing(const Edited& edited) {
+  return [&](DiscriminatorForm& form) -> std::optional<qv::DiscriminatorFields> {
+    const FieldChanges& changes = edited.editing.call.changes;
+    const qv::DiscriminatorFields typed = Typed(form, changes);
+    return ChooseType(changes.slots, form, edited.outcome) ? std::optional(typed) : std::nullopt;
   };
-}
-
-void Finish(const EditorEnd& end, qv::DiscriminatorList& list, Outcome& outcome) {
-  if (!end.confirmed) {
-    outcome.status = 1;
-  }
-  // The dialog would still show what was there before; here it is the list as it is.
-  if (outcome.unsaved) {
-    list.Refresh();
-  }
 }
 
 }  // namespace
 
 void Add(qv::DiscriminatorList& list, const Editing& editing, Outcome& outcome) {
-  Finish(list.OnAdd(EditorOf(editing, outcome)), list, outcome);
+  const std::vector<int> noRows;
+  const Edited added{list, noRows, editing, outcome};
+  AddDiscriminator(added, Typing(added));
 }
 
 void Modify(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
             Outcome& outcome) {
-  Finish(list.OnModify(rows, EditorOf(editing, outcome)), list, outcome);
+  const Edited modified{list, rows, editing, outcome};
+  ModifyDiscriminator(modified, Typing(modified));
 }
 
 }  // namespace qvdisc
