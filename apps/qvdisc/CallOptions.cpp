@@ -4,11 +4,10 @@
 #include <filesystem>
 
 #include "apps/commandline/CommandLine.h"
+#include "apps/qvdisc/ArgumentChecks.h"
 #include "apps/qvdisc/HelpSections.h"
 #include "apps/qvdisc/Meaning.h"
 #include "editor/DiscriminatorForm.h"
-#include "tools/Utf8.h"
-#include "tools/XmlText.h"
 
 namespace qvdisc {
 namespace {
@@ -17,18 +16,8 @@ using commandline::AddText;
 using commandline::Check;
 using commandline::Restrict;
 
-std::string NoText(const std::string& text) { return commandline::NotUtf8("text", text); }
-
-std::string NoFieldText(const std::string& text) {
-  const bool fits = qv::IsXmlText(qv::FromUtf8(text));
-  return fits ? NoText(text) : "A file can't hold every character of: " + text;
-}
-
-std::string NoName(const std::string& text) {
-  const std::size_t most = qv::DiscriminatorForm::longestTypedName;
-  return qv::FromUtf8(text).size() > most
-             ? "A name has at most " + std::to_string(most) + " characters: " + text
-             : NoFieldText(text);
+std::string NoDiscriminatorName(const std::string& text) {
+  return NoName(text, qv::DiscriminatorForm::longestTypedName);
 }
 
 std::string NoneOf(const std::string& value, const std::vector<std::string>& choices) {
@@ -45,7 +34,7 @@ void AddFields(CLI::App& verb, bool nameNeeded, OptionTexts& texts, qv::Language
   Check(AddText(verb, "--name", texts.name, name.In(language))
             ->type_name("NAME")
             ->required(nameNeeded),
-        NoName);
+        NoDiscriminatorName);
   Check(AddText(verb, "--description", texts.description, description.In(language))
             ->type_name("TEXT"),
         NoFieldText);
