@@ -25,9 +25,12 @@ TEST_F(DocumentJsonTest, ShowGivesHourTypesDayTypesAndSlotsAsObjects) {
   const Json& winter = document["dayTypes"][0];
   EXPECT_EQ(winter["name"], "Winter day");
   ASSERT_EQ(winter["slots"].size(), 3U);
-  EXPECT_EQ(
-      winter["slots"][1],
-      Json({{"from", "08:00"}, {"to", "18:00"}, {"hourTypeId", day["id"]}, {"hourType", "Day"}}));
+  EXPECT_EQ(winter["slots"][1], Json({{"from", "08:00"},
+                                      {"to", "18:00"},
+                                      {"fromMinute", 480},
+                                      {"toMinute", 1080},
+                                      {"hourTypeId", day["id"]},
+                                      {"hourType", "Day"}}));
   EXPECT_TRUE(document.contains("content")) << "the document as it stands is there as well";
 }
 
@@ -45,8 +48,12 @@ TEST(DocumentJson, ColoursAreRedGreenBlue) {
 TEST(DocumentJson, ASlotWithoutItsHourTypeHasNoName) {
   const Json document =
       Document("<dayTypes><day><slot><id>h</id><from>8:00</from></slot></day></dayTypes>");
-  EXPECT_EQ(document["dayTypes"][0]["slots"][0],
-            Json({{"from", "8:00"}, {"to", ""}, {"hourTypeId", "h"}, {"hourType", nullptr}}));
+  EXPECT_EQ(document["dayTypes"][0]["slots"][0], Json({{"from", "8:00"},
+                                                       {"to", ""},
+                                                       {"fromMinute", 480},
+                                                       {"toMinute", 0},
+                                                       {"hourTypeId", "h"},
+                                                       {"hourType", nullptr}}));
 }
 
 TEST(DocumentJson, WhatIsNotThereIsAnEmptyList) {
