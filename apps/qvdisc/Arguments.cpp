@@ -11,6 +11,7 @@
 #include "apps/commandline/CommandLine.h"
 #include "apps/qvdisc/CallDescription.h"
 #include "apps/qvdisc/CallOptions.h"
+#include "apps/qvdisc/TypeArguments.h"
 #include "apps/qvdisc/Words.h"
 #include "tools/Utf8.h"
 
@@ -21,12 +22,6 @@ constexpr const char* program = "qvdisc";
 
 /// The environment variable that stands in for --installation.
 constexpr const char* installationVariable = "QVDISC_INSTALLATION";
-
-std::optional<std::wstring> Given(const CLI::App& verb, const char* option,
-                                  const std::string& text) {
-  const CLI::Option* found = verb.get_option_no_throw(option);
-  return found && found->count() > 0 ? std::optional(qv::FromUtf8(text)) : std::nullopt;
-}
 
 /// Whether the option has the first of its two values; nothing if it isn't given.
 std::optional<bool> IsFirst(const std::string& text, const char* first) {
@@ -72,6 +67,10 @@ Arguments ReadTexts(const CLI::App& app, const OptionTexts& texts) {
   arguments.changes = {Given(verb, "--name", texts.name),
                        Given(verb, "--description", texts.description),
                        IsFirst(texts.type, "SLOTS"), IsFirst(texts.zero, "yes")};
+  if (const auto actions = verb.get_subcommands(); !actions.empty()) {
+    arguments.verbName += " " + actions.front()->get_name();
+    arguments.type = ReadTypeCall(*actions.front(), texts.types);
+  }
   return arguments;
 }
 

@@ -7,11 +7,25 @@
 #include <vector>
 
 #include "apps/commandline/CommandLine.h"
+#include "apps/qvdisc/TypeCall.h"
 #include "hostkit/Language.h"
 
 namespace qvdisc {
 
-enum class Verb { List, Show, Index, Copy, Paste, Add, Modify, Remove, Check, Names };
+enum class Verb {
+  List,
+  Show,
+  Index,
+  Copy,
+  Paste,
+  Add,
+  Modify,
+  HourType,
+  DayType,
+  Remove,
+  Check,
+  Names
+};
 
 /// What is to become of the fields of a discriminator; nothing where a field stays as it is.
 struct FieldChanges {
@@ -35,6 +49,7 @@ struct Arguments {
   bool strict = false;              ///< whether notes count for the exit status of a check
   std::vector<std::wstring> stems;  ///< which discriminators, as the user calls them
   FieldChanges changes;
+  TypeCall type;
 };
 
 /// Reads the command line, of which the first is the program's name. A call that can't be carried

@@ -9,6 +9,7 @@
 #include "apps/qvdisc/HelpSections.h"
 #include "apps/qvdisc/Meaning.h"
 #include "apps/qvdisc/Pages.h"
+#include "apps/qvdisc/TypeArguments.h"
 
 namespace qvdisc {
 namespace {
@@ -83,6 +84,20 @@ constexpr std::array verbs = {
             {"Cambia el nombre, la descripción, el tipo o la opción de un discriminador",
              "Changes name, description, type or flag of a discriminator"},
             "qvdisc modify 'Tariff 2027' --name 'Tariff 2028' --description="},
+    VerbRow{"hour-type",
+            Verb::HourType,
+            noStems,
+            AddHourTypeVerbs,
+            {"Lista, crea, cambia o elimina tipos de hora",
+             "Lists, adds, modifies or removes hour types"},
+            "qvdisc hour-type list 'Day and night'"},
+    VerbRow{"day-type",
+            Verb::DayType,
+            noStems,
+            AddDayTypeVerbs,
+            {"Lista, crea, cambia o elimina tipos de día con sus franjas",
+             "Lists, adds, modifies or removes day types with their slots"},
+            "qvdisc day-type list 'Day and night' --json"},
     VerbRow{"remove",
             Verb::Remove,
             someStems,

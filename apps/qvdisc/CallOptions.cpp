@@ -8,6 +8,7 @@
 #include "apps/qvdisc/HelpSections.h"
 #include "apps/qvdisc/Meaning.h"
 #include "editor/DiscriminatorForm.h"
+#include "tools/Utf8.h"
 
 namespace qvdisc {
 namespace {
@@ -49,6 +50,12 @@ std::string NoDirectory(const std::string& text) {
   std::error_code error;
   const std::filesystem::directory_iterator content(text, error);
   return error ? "This directory can't be read: " + text : NoText(text);
+}
+
+std::optional<std::wstring> Given(const CLI::App& verb, const char* option,
+                                  const std::string& text) {
+  const CLI::Option* found = verb.get_option_no_throw(option);
+  return found && found->count() > 0 ? std::optional(qv::FromUtf8(text)) : std::nullopt;
 }
 
 void AddLanguage(CLI::App& app, OptionTexts& texts, qv::Language language) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "apps/qvdisc/TypeTexts.h"
 #include "hostkit/Language.h"
 
 namespace CLI {
@@ -27,6 +29,7 @@ struct OptionTexts {
   bool no = false;
   bool strict = false;
   bool dryRun = false;
+  TypeTexts types;
 };
 
 /// How many STEMs a verb takes.
@@ -37,6 +40,10 @@ struct Stems {
 
 /// Why `text` names no directory that can be read; empty if it does.
 std::string NoDirectory(const std::string& text);
+
+/// What the call gives for an option of `verb`, of which `text` was read; nothing if it gives none.
+std::optional<std::wstring> Given(const CLI::App& verb, const char* option,
+                                  const std::string& text);
 
 /// The option `--language`.
 void AddLanguage(CLI::App& app, OptionTexts& texts, qv::Language language);

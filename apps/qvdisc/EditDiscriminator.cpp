@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "apps/qvdisc/TypeWords.h"
 #include "discriminator/DiscriminatorFile.h"
 #include "manager/ClipboardPayload.h"
 
@@ -68,6 +69,14 @@ bool Finish(const EditorEnd& end, const Edited& edited) {
   return end.confirmed;
 }
 
+bool HasTimeSlots(const DiscriminatorForm& form, Outcome& outcome) {
+  const bool hasSlots = form.Type() == qv::DiscriminatorType::Slots;
+  if (!hasSlots) {
+    Fail(outcome, TypeWord::NoTimeSlots, {form.InitialFields().name});
+  }
+  return hasSlots;
+}
+
 }  // namespace
 
 bool AddDiscriminator(const Edited& edited, const UseEditor& use) {
@@ -76,6 +85,19 @@ bool AddDiscriminator(const Edited& edited, const UseEditor& use) {
 
 bool ModifyDiscriminator(const Edited& edited, const UseEditor& use) {
   return Finish(edited.list.OnModify(edited.rows, EditorOf(edited, use)), edited);
+}
+
+bool ModifyParts(const Edited& edited, const UseParts& use) {
+  return ModifyDiscriminator(edited, [&](DiscriminatorForm& form) {
+    const bool isConfirmed = HasTimeSlots(form, edited.outcome) && use(form);
+    return isConfirmed ? std::optional(form.InitialFields()) : std::nullopt;
+  });
+}
+
+bool ReadParts(const Edited& edited, const UseParts& use) {
+  const QVWideString path = edited.list.PathOf(edited.rows.front());
+  const auto form = Open(edited, nullptr, &path);
+  return form && HasTimeSlots(*form, edited.outcome) && use(*form);
 }
 
 }  // namespace qvdisc

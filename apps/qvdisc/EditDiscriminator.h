@@ -27,4 +27,16 @@ using UseEditor = std::function<std::optional<qv::DiscriminatorFields>(qv::Discr
 bool AddDiscriminator(const Edited& edited, const UseEditor& use);
 bool ModifyDiscriminator(const Edited& edited, const UseEditor& use);
 
+/// What a user does with the parts of a discriminator: runs one of the dialogs that the editor
+/// opens. Whether that was confirmed; if not, the outcome tells why.
+using UseParts = std::function<bool(qv::DiscriminatorForm&)>;
+
+/// The same for a discriminator of time slots whose fields stay as they are while `use` works on
+/// copies of its hour types, day types or calendar. One of conditions is refused.
+bool ModifyParts(const Edited& edited, const UseParts& use);
+
+/// Lets `use` see the parts of a discriminator of time slots, of which nothing is saved. Whether
+/// that was possible; the outcome tells why not.
+bool ReadParts(const Edited& edited, const UseParts& use);
+
 }  // namespace qvdisc

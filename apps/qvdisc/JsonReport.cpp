@@ -3,6 +3,7 @@
 #include "apps/qvdisc/DocumentJson.h"
 #include "apps/qvdisc/FindingWords.h"
 #include "apps/qvdisc/Reports.h"
+#include "apps/qvdisc/TypeReport.h"
 #include "discriminator/FileNames.h"
 
 namespace qvdisc {
@@ -75,6 +76,9 @@ void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome)
   if (arguments.dryRun) {
     json["dryRun"] = true;
     json["changes"] = List(outcome.changes, Changed);
+  }
+  if (arguments.verb == Verb::HourType || arguments.verb == Verb::DayType) {
+    json[arguments.verb == Verb::HourType ? "hourTypes" : "dayTypes"] = TypesAsJson(outcome.types);
   }
   if (outcome.unsaved) {
     json["unsaved"] = *outcome.unsaved;

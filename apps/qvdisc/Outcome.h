@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "apps/qvdisc/RehearsedFiles.h"
+#include "apps/qvdisc/ToldTypes.h"
 #include "apps/qvdisc/Words.h"
 #include "checks/InstallationCheck.h"
 #include "discriminator/DiscriminatorFile.h"
@@ -49,6 +50,7 @@ struct Outcome {
   std::optional<std::string> unsavedConfiguration;  ///< the text of its file
   std::vector<IndexEnd> indexes;
   std::vector<std::wstring> made;   ///< the stems of the discriminators that are new
+  ToldTypes types;                  ///< of a call that works on hour types or day types
   qv::CheckedInstallation checked;  ///< what `check` found
   std::vector<std::wstring> names;  ///< by which discriminators can be called
   std::vector<FileChange> changes;  ///< what a dry run would have done

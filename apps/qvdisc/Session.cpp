@@ -142,6 +142,10 @@ void Session::PerformOn(const std::vector<int>& rows) {
       return Add(*m_list, editing, m_outcome);
     case Verb::Modify:
       return Modify(*m_list, rows, editing, m_outcome);
+    case Verb::HourType:
+      return HourTypes(*m_list, rows, editing, m_outcome);
+    case Verb::DayType:
+      return DayTypes(*m_list, rows, editing, m_outcome);
     case Verb::Remove:
       return Remove(*m_list, rows, m_prompter, m_outcome);
   }

@@ -5,6 +5,7 @@
 
 #include "apps/qvdisc/FindingWords.h"
 #include "apps/qvdisc/Reports.h"
+#include "apps/qvdisc/TypeReport.h"
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
 #include "tools/Nodes.h"
@@ -253,6 +254,9 @@ std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool 
     writer.Write(OneLine(name));
   }
   WriteMade(writer, outcome);
+  for (const std::wstring& line : TypesAsLines(outcome.types, outcome.language)) {
+    writer.Write(OneLine(line));
+  }
   WriteIndexes(writer, outcome);
   return writer.Text();
 }

@@ -51,6 +51,14 @@ void Add(qv::DiscriminatorList& list, const Editing& editing, Outcome& outcome);
 void Modify(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
             Outcome& outcome);
 
+/// Lists or changes the hour types of the first of the rows, as the call says.
+void HourTypes(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
+               Outcome& outcome);
+
+/// The same for its day types.
+void DayTypes(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
+              Outcome& outcome);
+
 /// Removes the discriminators of the rows, after the question of the rules.
 void Remove(qv::DiscriminatorList& list, const std::vector<int>& rows, qv::Prompter& prompter,
             Outcome& outcome);

@@ -67,13 +67,17 @@ class VanishingFiles : public qv::Files {
 };
 
 TEST_F(UnreadableTest, WhatCannotBeOpenedAnyMoreIsToldInTheWordsOfTheEditor) {
-  VanishingFiles files;
-  const Ended ended =
-      Call({"modify", dayAndNight, "--name", "Other", "--installation", directory.Path().string()},
-           {}, false, files);
-  EXPECT_EQ(ended.status, 1);
-  EXPECT_THAT(ended.errors, HasSubstr(file));
-  EXPECT_THAT(ended.errors, HasSubstr("No such file"));
+  for (std::vector<std::string> call :
+       std::vector<std::vector<std::string>>{{"modify", dayAndNight, "--name", "Other"},
+                                             {"hour-type", "list", dayAndNight},
+                                             {"day-type", "remove", dayAndNight, "Summer day"}}) {
+    VanishingFiles files;
+    call.insert(call.end(), {"--installation", directory.Path().string()});
+    const Ended ended = Call(call, {}, false, files);
+    EXPECT_EQ(ended.status, 1) << call[0];
+    EXPECT_THAT(ended.errors, HasSubstr(file));
+    EXPECT_THAT(ended.errors, HasSubstr("No such file"));
+  }
 }
 
 }  // namespace
