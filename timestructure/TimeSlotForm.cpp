@@ -1,7 +1,8 @@
 #include "timestructure/TimeSlotForm.h"
 
+#include <algorithm>
+
 #include "discriminator/Fields.h"
-#include "tools/Nodes.h"
 
 namespace qv {
 
@@ -13,14 +14,17 @@ TimeSlotForm::TimeSlotForm(XmlNode& slot, HourTypes hourTypes)
 bool TimeSlotForm::IsNew() const { return m_slot.Value(tag::Id).Empty(); }
 
 void TimeSlotForm::FillHourTypes(std::optional<int> select) {
-  m_choices.clear();
+  m_choices = ReadColouredTypes(&m_hourTypes.Node(), tag::Hour);
+  m_selected = m_choices.empty() ? std::nullopt : std::optional(select.value_or(OwnHourType()));
+}
+
+int TimeSlotForm::OwnHourType() const {
   const QVWideString slotId = m_slot.Value(tag::Id);
-  int match = 0;
-  for (XmlNode& hour : ChildrenWithTag(m_hourTypes.Node(), tag::Hour)) {
-    match = hour.Value(tag::Id) == slotId ? static_cast<int>(m_choices.size()) : match;
-    m_choices.push_back(ReadColouredType(hour));
-  }
-  m_selected = m_choices.empty() ? std::nullopt : std::optional(select.value_or(match));
+  // Of several hour types with one id the last is taken.
+  const auto match = std::find_if(
+      m_choices.rbegin(), m_choices.rend(),
+      [&](const ColouredType& choice) { return choice.node->Value(tag::Id) == slotId; });
+  return match == m_choices.rend() ? 0 : static_cast<int>(m_choices.rend() - match) - 1;
 }
 
 void TimeSlotForm::SelectHourType(int index) {

@@ -51,6 +51,7 @@ class TimeSlotForm {
 
  private:
   void FillHourTypes(std::optional<int> select);
+  int OwnHourType() const;
   [[nodiscard]] std::optional<Refusal> Fault() const;
 
   HourTypes m_hourTypes;

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "discriminator/EditedCopies.h"
-#include "tools/Names.h"
-#include "tools/Nodes.h"
 
 namespace qv {
 
@@ -12,15 +10,7 @@ TypeList::TypeList(XmlNode& container, const wchar_t* tag) : m_container(contain
   Fill();
 }
 
-void TypeList::Fill() {
-  m_rows.clear();
-  for (XmlNode& type : ChildrenWithTag(m_container, m_tag)) {
-    m_rows.push_back(ReadColouredType(type));
-  }
-  std::stable_sort(m_rows.begin(), m_rows.end(), [](const ColouredType& a, const ColouredType& b) {
-    return CompareLowered(a.name.ToView(), b.name.ToView()) < 0;
-  });
-}
+void TypeList::Fill() { m_rows = SortedColouredTypes(&m_container, m_tag); }
 
 ListEnd TypeList::OnAdd(const RunEditor& runEditor) {
   NewChildNode added = NewWhiteType(m_container, m_tag);

@@ -29,6 +29,27 @@ TEST_F(ColouredTypeTest, IsReadFromItsNode) {
   EXPECT_EQ(ReadColouredType(*hours.Root()->Node(L"hour?id=v?")).colour, 0U);
 }
 
+std::vector<std::wstring> Names(const std::vector<ColouredType>& types) {
+  std::vector<std::wstring> names;
+  for (const ColouredType& type : types) {
+    names.emplace_back(type.name.ToView());
+  }
+  return names;
+}
+
+TEST(ColouredTypes, AreReadInTheOrderOfTheDocumentOrSortedByName) {
+  XmlDocument days;
+  ASSERT_TRUE(
+      days.Parse("<dayTypes><day><name>b</name></day><other><name>c</name></other>"
+                 "<day><name>_</name></day><day><name>B</name></day><day><name>A</name></day>"
+                 "</dayTypes>"));
+  EXPECT_THAT(Names(ReadColouredTypes(days.Root(), L"day")),
+              testing::ElementsAre(L"b", L"_", L"B", L"A"));
+  EXPECT_THAT(Names(SortedColouredTypes(days.Root(), L"day")),
+              testing::ElementsAre(L"_", L"A", L"b", L"B"));
+  EXPECT_TRUE(ReadColouredTypes(nullptr, L"day").empty());
+}
+
 TEST_F(ColouredTypeTest, ANewOneIsWhiteAndGoesUnlessItIsKept) {
   const XmlNode before(*hours.Root());
   { EXPECT_EQ(NewWhiteType(*hours.Root(), L"hour").Node().Value(L"color"), L"FFFFFF"); }
