@@ -1,10 +1,8 @@
 #include "toolkit/ColourSwatch.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 
-#include "toolkit/Caption.h"
-#include "toolkit/PaintBox.h"
+#include "toolkit/ColourField.h"
 
 namespace qv {
 
@@ -12,20 +10,18 @@ namespace {
 
 constexpr QSize naturalSize(24, 20);
 constexpr int focusBreadth = 2;
-constexpr int opaque = 255;
-constexpr int frameAlpha = 110;
 
 }  // namespace
 
 ColourSwatch::ColourSwatch(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
-  Describe();
+  DescribeColour(*this, m_colour);
 }
 
 void ColourSwatch::SetColour(Colour colour) {
   m_colour = colour;
-  Describe();
+  DescribeColour(*this, colour);
   update();
 }
 
@@ -48,22 +44,13 @@ bool ColourSwatch::eventFilter(QObject* watched, QEvent* event) {
   return QAbstractButton::eventFilter(watched, event);
 }
 
-void ColourSwatch::Describe() {
-  SetPlainToolTip(this, ToQColor(m_colour).name(QColor::HexRgb).toUpper());
-}
-
 QSize ColourSwatch::sizeHint() const { return naturalSize; }
 
 void ColourSwatch::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  QColor frame = palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText);
-  frame.setAlpha(hasFocus() ? opaque : frameAlpha);
-  painter.fillRect(rect(), frame);
-  const int breadth = hasFocus() ? focusBreadth : 1;
-  const QRect inside = rect().adjusted(breadth, breadth, -breadth, -breadth);
-  QPixmap box;
-  if (PaintBox(&box, m_colour, inside.width(), inside.height())) {
-    painter.drawPixmap(inside.topLeft(), box);
+  if (hasFocus()) {
+    PaintField(*this, m_colour, palette().color(QPalette::Highlight), focusBreadth);
+  } else {
+    PaintField(*this, m_colour, FaintFrame(*this), 1);
   }
 }
 

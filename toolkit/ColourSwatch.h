@@ -30,8 +30,6 @@ class ColourSwatch : public QAbstractButton {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void Describe();
-
   Colour m_colour = 0xFFFFFF;
 };
 

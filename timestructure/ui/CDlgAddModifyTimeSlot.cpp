@@ -9,7 +9,6 @@
 #include "timestructure/ui/CDlgAddModifyHourType.h"
 #include "timestructure/ui/TimeGridView.h"
 #include "toolkit/Caption.h"
-#include "toolkit/ColourIcons.h"
 #include "toolkit/DialogColumn.h"
 #include "toolkit/RunDialog.h"
 #include "toolkit/Strings.h"
@@ -126,15 +125,11 @@ QString CDlgAddModifyTimeSlot::NameOf(qv::TimeField field) const {
 }
 
 void CDlgAddModifyTimeSlot::ShowHourTypes() {
-  qv::ChoiceBox* combo = m_ui.comboType;
-  const QSize small = qv::SmallIconSize(combo);
-  const QSize boxSize(small.width(), small.height() - 2);
-  combo->clear();
-  combo->setIconSize(boxSize);
+  std::vector<qv::ColourChoice::Entry> entries;
   for (const qv::ColouredType& type : m_form->Choices()) {
-    combo->addItem(qv::ColourIcon(type.colour, boxSize), qv::ToQString(type.name));
+    entries.push_back({qv::ToQString(type.name), type.colour});
   }
-  combo->setCurrentIndex(m_form->Selected().value_or(-1));
+  m_ui.comboType->ShowEntries(entries, m_form->Selected());
 }
 
 void CDlgAddModifyTimeSlot::ShowTimes() {
