@@ -63,6 +63,14 @@ void ReportList::keyPressEvent(QKeyEvent* event) {
   emit KeyDown(event->key(), event->modifiers().testFlag(Qt::ControlModifier));
 }
 
+void ReportList::mousePressEvent(QMouseEvent* event) {
+  QTreeWidget::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton && !indexAt(event->position().toPoint()).isValid()) {
+    // By itself a list of single selection keeps its row.
+    clearSelection();
+  }
+}
+
 void ReportList::mouseDoubleClickEvent(QMouseEvent* event) {
   QTreeWidget::mouseDoubleClickEvent(event);
   if (event->button() == Qt::LeftButton) {

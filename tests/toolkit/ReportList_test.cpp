@@ -42,6 +42,34 @@ TEST_F(ReportListTest, DeleteAndInsertAreToldWithAndWithoutControl) {
   EXPECT_EQ(keys[3], QVariantList({Qt::Key_Insert, true}));
 }
 
+TEST_F(ReportListTest, AClickBelowTheRowsLeavesNoneSelected) {
+  const QPoint below = RowCentre(2) + QPoint(0, 60);
+  for (const auto mode :
+       {QAbstractItemView::SingleSelection, QAbstractItemView::ExtendedSelection}) {
+    list.setSelectionMode(mode);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, RowCentre(1));
+    ASSERT_EQ(list.SelectedRows(), std::vector<int>{1});
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, below);
+    EXPECT_TRUE(list.SelectedRows().empty());
+  }
+}
+
+TEST_F(ReportListTest, OfSingleSelectionAClickWithControlTakesTheSelectionBack) {
+  list.setSelectionMode(QAbstractItemView::SingleSelection);
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, RowCentre(1));
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, RowCentre(1));
+  EXPECT_TRUE(list.SelectedRows().empty());
+}
+
+TEST_F(ReportListTest, OfSingleSelectionControlAndSpaceTakeTheSelectionBack) {
+  list.setSelectionMode(QAbstractItemView::SingleSelection);
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, RowCentre(1));
+  QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_TRUE(list.SelectedRows().empty());
+  QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(list.SelectedRows(), std::vector<int>{1});
+}
+
 TEST_F(ReportListTest, TheFirstDownChoosesTheFirstRow) {
   list.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
