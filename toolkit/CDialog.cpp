@@ -64,6 +64,7 @@ CDialog::CDialog(CWnd* parent) : QDialog(parent) {}
 CDialog::~CDialog() = default;
 
 int CDialog::DoModal() {
+  m_result.reset();
   if (const auto refused = OnCreate()) {
     return *refused;
   }

@@ -7,7 +7,7 @@
 #include "toolkit/Types.h"
 
 /// What all dialogs of the library share. A dialog is built from a template, whose sizes are in
-/// dialog units, and run once by `DoModal`.
+/// dialog units, and run by `DoModal`.
 class CDialog : public QDialog {
   Q_OBJECT
 
