@@ -97,6 +97,13 @@ void DiscriminatorForm::OnDayTypes(
                   m_modified);
 }
 
+void DiscriminatorForm::OnCalendar(
+    const std::function<EditorEnd(Calendar, DayTypes, HourTypes)>& runCalendar) {
+  OnDayTypes([&](DayTypes dayTypes, Calendar calendar, HourTypes hourTypes) {
+    return runCalendar(calendar, dayTypes, hourTypes);
+  });
+}
+
 SaveEnd DiscriminatorForm::Save(const DiscriminatorFields& typed) {
   if (auto fault = Fault(typed)) {
     return {SaveOutcome::Refused, std::move(fault)};

@@ -71,6 +71,9 @@ class DiscriminatorForm {
   /// The same for the dialog of the day types, on copies of calendar, day types and hour types.
   void OnDayTypes(const std::function<EditorEnd(DayTypes, Calendar, HourTypes)>& runDayTypes);
 
+  /// The same for the dialog of the calendar.
+  void OnCalendar(const std::function<EditorEnd(Calendar, DayTypes, HourTypes)>& runCalendar);
+
   /// Checks what was typed, writes the discriminator's file in place of the old one, and has its
   /// index made. It is written even if it is `Unchanged`, which only means that there was no new
   /// revision.

@@ -101,6 +101,7 @@ enum class Text : unsigned {
   CalendarFriday = 34861,     ///< heading of a column of days, short form
   CalendarSaturday = 34862,   ///< heading of a column of days, short form
   CalendarSunday = 34863,     ///< heading of a column of days, short form
+  NoDayTypesYet = 60050,      ///< in the list without day types: where they are made, button %s
 
   // Fast selection
   FastSelectionTitle = 456,  ///< title

@@ -60,6 +60,8 @@ void ListPart::InitializeButtons(const Host& host) {
   m_emptyHint->SetHint(HowToBegin(host.loadString));
 }
 
+void ListPart::SetEmptyHint(const QString& hint) { m_emptyHint->SetHint(hint); }
+
 void ListPart::CreateColumns(const QVLoadString& loadString, const std::vector<Text>& headings) {
   QStringList captions;
   for (const Text heading : headings) {

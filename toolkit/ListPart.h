@@ -50,6 +50,8 @@ class ListPart : public QObject {
   /// Gives the buttons their texts and pictures and tells their keys; an empty list says how to
   /// begin.
   void InitializeButtons(const Host& host);
+  /// Says in grey, while the list is empty, what there is to say.
+  void SetEmptyHint(const QString& hint);
   /// Gives the list its columns, which share its width.
   void CreateColumns(const QVLoadString& loadString, const std::vector<Text>& headings);
 

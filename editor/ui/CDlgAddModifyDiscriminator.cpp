@@ -1,5 +1,6 @@
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 
+#include "calendar/ui/CDlgCalendar.h"
 #include "timestructure/ui/CDlgDayTypes.h"
 #include "timestructure/ui/CDlgHourTypes.h"
 #include "toolkit/DialogColumn.h"
@@ -19,7 +20,7 @@ CDlgAddModifyDiscriminator::CDlgAddModifyDiscriminator(qv::XmlNode* deviceGroups
   m_links = {{
       {m_ui.linkHourTypes, Text::HourTypesLink, L"CLOCK-32.png", &This::OnHourTypes},
       {m_ui.linkDayTypes, Text::DayTypesLink, L"DAYTYPES-32.png", &This::OnDayTypes},
-      {m_ui.linkCalendar, Text::CalendarLink, L"CALENDAR-32.png", nullptr},
+      {m_ui.linkCalendar, Text::CalendarLink, L"CALENDAR-32.png", &This::OnCalendar},
       {m_ui.linkConditions, Text::Conditions, L"CONDITIONS-32.png", nullptr},
   }};
   for (const Link& link : m_links) {
@@ -111,6 +112,13 @@ void CDlgAddModifyDiscriminator::OnHourTypes() {
 void CDlgAddModifyDiscriminator::OnDayTypes() {
   m_form->OnDayTypes([this](qv::DayTypes dayTypes, qv::Calendar calendar, qv::HourTypes hourTypes) {
     CDlgDayTypes dialog(this, &dayTypes.Node(), &calendar.Node(), &hourTypes.Node());
+    return qv::RunDialog(dialog);
+  });
+}
+
+void CDlgAddModifyDiscriminator::OnCalendar() {
+  m_form->OnCalendar([this](qv::Calendar calendar, qv::DayTypes dayTypes, qv::HourTypes hourTypes) {
+    CDlgCalendar dialog(this, &calendar.Node(), &dayTypes.Node(), &hourTypes.Node());
     return qv::RunDialog(dialog);
   });
 }

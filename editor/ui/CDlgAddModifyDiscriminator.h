@@ -45,6 +45,7 @@ class CDlgAddModifyDiscriminator : public qv::EditingDialog<qv::DiscriminatorFor
   void OnSelchangeType(int index);
   void OnHourTypes();
   void OnDayTypes();
+  void OnCalendar();
 
   Ui::Template1301 m_ui;
   std::array<Link, 4> m_links;

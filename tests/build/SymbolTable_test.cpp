@@ -55,6 +55,17 @@ TEST(SymbolTable, HoldsWhatAHostNeedsOfTheManagerDialog) {
   }
 }
 
+TEST(SymbolTable, HoldsWhatAHostNeedsOfTheFastSelection) {
+  const auto symbols = ExportedSymbols();
+  for (const char* needed :
+       {"CDlgFastSelection::DoModal()", "CDlgFastSelection::staticMetaObject",
+        "CDlgFastSelection::~CDlgFastSelection()", "CDlgFastSelection::SetMaxMinMonth(int, int)",
+        "CDlgFastSelection::CDlgFastSelection(QWidget*, qv::XmlNode*, int)",
+        "typeinfo for CDlgFastSelection", "vtable for CDlgFastSelection"}) {
+    EXPECT_NE(std::find(symbols.begin(), symbols.end(), needed), symbols.end()) << needed;
+  }
+}
+
 TEST(SymbolTable, HoldsWhatAHostNeedsOfTheDayDial) {
   const auto symbols = ExportedSymbols();
   for (const char* needed :

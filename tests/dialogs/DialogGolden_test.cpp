@@ -4,6 +4,8 @@
 #include <QFontInfo>
 #include <memory>
 
+#include "calendar/ui/CDlgCalendar.h"
+#include "calendar/ui/CDlgFastSelection.h"
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 #include "manager/ui/CDlgSetupDiscriminators.h"
 #include "tests/support/DialogTest.h"
@@ -116,6 +118,13 @@ TEST_F(DialogGolden, HourTypeOfAnEmbeddedInstallation) {
   host->AddDevice(L"KORVAXEMBEDDED");
   Compare(CDlgAddModifyHourType(nullptr, hours.get(), hours->Node(L"hour")));
 }
+
+TEST_F(DialogGolden, Calendar) {
+  const auto calendar = Parsed("<calendar/>");
+  Compare(CDlgCalendar(nullptr, calendar.get(), days.get(), hours.get()));
+}
+
+TEST_F(DialogGolden, FastSelection) { Compare(CDlgFastSelection(nullptr, days.get(), 2026)); }
 
 }  // namespace
 }  // namespace qv

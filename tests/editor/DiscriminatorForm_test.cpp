@@ -239,6 +239,36 @@ TEST_F(FormTest, CancelledDayTypesLeaveTheDocumentAsItWas) {
   EXPECT_FALSE(form->IsModified());
 }
 
+TEST_F(FormTest, TheCalendarWorksOnCopiesOfThreeParts) {
+  auto form = OpenContent(withParts);
+  form->OnCalendar([&](Calendar calendar, DayTypes dayTypes, HourTypes hourTypes) {
+    EXPECT_EQ(calendar.Node(), *form->Root().Node(L"calendar"));
+    EXPECT_EQ(dayTypes.Node(), *form->Root().Node(L"dayTypes"));
+    EXPECT_EQ(hourTypes.Node(), *form->Root().Node(L"hourTypes"));
+    calendar.Node().NewChild(L"year", nullptr);
+    dayTypes.Node().Reset();
+    hourTypes.Node().Reset();
+    EXPECT_EQ(PartsOf(*form), L"h|d|");
+    EXPECT_FALSE(form->Root().Node(L"calendar")->Node(L"year"));
+    return EditorEnd{true, false};
+  });
+  EXPECT_EQ(PartsOf(*form), L"||");
+  EXPECT_TRUE(form->Root().Node(L"calendar")->Node(L"year"));
+  EXPECT_FALSE(form->IsModified());
+}
+
+TEST_F(FormTest, ACancelledCalendarLeavesTheDocumentAsItWas) {
+  auto form = OpenContent(withParts);
+  const XmlNode before(form->Root());
+  form->OnCalendar([](Calendar calendar, DayTypes dayTypes, HourTypes) {
+    calendar.Node().NewChild(L"year", nullptr);
+    dayTypes.Node().Reset();
+    return EditorEnd{false, true};
+  });
+  EXPECT_EQ(form->Root(), before);
+  EXPECT_FALSE(form->IsModified());
+}
+
 TEST_F(FormTest, AHourTypesDialogThatThrowsLeavesTheDocumentAsItWas) {
   auto form = OpenContent(withParts);
   EXPECT_THROW(form->OnHourTypes([](HourTypes hourTypes, DayTypes) -> EditorEnd {

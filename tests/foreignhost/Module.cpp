@@ -1,6 +1,8 @@
 // The part of a foreign host that uses the library: it is loaded, run and unloaded again.
 #include <QApplication>
+#include <QCheckBox>
 #include <QImage>
+#include <QTest>
 #include <QTimer>
 
 #include "library/QVDiscriminator.h"
@@ -15,6 +17,21 @@ int RunManager() {
   CDlgSetupDiscriminators manager(nullptr, nullptr);
   CloseSoon();
   return manager.DoModal();
+}
+
+bool RunFastSelection() {
+  std::vector<DWORD> colours = {0x0000FF, 0x00FF00};
+  std::vector<QVWideString> names = {L"Work", L"Rest"};
+  CDlgFastSelection dialog(nullptr, &colours, &names, 2026);
+  QTimer::singleShot(0, qApp, [] {
+    QWidget* window = QApplication::activeModalWidget();
+    for (auto* check : window->findChildren<QCheckBox*>()) {
+      check->click();
+    }
+    QTest::keyClick(window, Qt::Key_Return);
+  });
+  return dialog.SetMaxMinMonth(3, 6) && dialog.DoModal() == IDOK && dialog.m_nDayType == 0 &&
+         dialog.m_dwMonths == 0x3C && dialog.m_dwWeekDays == 0x7F;
 }
 
 /// Whether the dial paints a day of one red slot.
@@ -35,7 +52,7 @@ bool PaintsADay() {
 
 /// Runs each exported class once; the number of those that didn't end as they should.
 extern "C" Q_DECL_EXPORT int RunExportedClasses() {
-  return (RunManager() == IDCANCEL ? 0 : 1) + (PaintsADay() ? 0 : 1);
+  return (RunManager() == IDCANCEL ? 0 : 1) + (PaintsADay() ? 0 : 1) + (RunFastSelection() ? 0 : 1);
 }
 
 /// Runs the manager while the host has nothing installed; what the dial does, which needs nothing,
@@ -43,6 +60,10 @@ extern "C" Q_DECL_EXPORT int RunExportedClasses() {
 extern "C" Q_DECL_EXPORT int RunWithoutServices() {
   if (!PaintsADay()) {
     return -2;
+  }
+  CDlgFastSelection fastSelection;
+  if (fastSelection.DoModal() != -1) {
+    return -3;
   }
   CDlgSetupDiscriminators manager(nullptr, nullptr);
   return manager.DoModal();

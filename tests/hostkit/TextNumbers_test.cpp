@@ -140,6 +140,7 @@ constexpr NumberedText table[] = {
     {Text::Discriminator, 32355},
     {Text::OneVariableAtMost, 32336},
     {Text::VariablesAtMost, 197},
+    {Text::NoDayTypesYet, 60050},
     {Text::InsertKey, 60040},
     {Text::DeleteKey, 60041},
     {Text::EmptyList, 60042},

@@ -6,6 +6,8 @@
 
 #include "apps/configurator/Theme.h"
 #include "apps/configurator/Workspace.h"
+#include "calendar/ui/CDlgCalendar.h"
+#include "calendar/ui/CDlgFastSelection.h"
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 #include "timestructure/ui/CDlgAddModifyDayType.h"
 #include "timestructure/ui/CDlgAddModifyHourType.h"
@@ -73,6 +75,14 @@ void AddDayTypes(const Album& album, qv::XmlNode& dayTypes, qv::XmlNode& hourTyp
   album.Add(CDlgAddModifyTimeSlot(nullptr, &hourTypes, day.Node(L"slot"), 0x80CCFF), "time-slot");
 }
 
+void AddCalendar(const Album& album, qv::XmlNode& calendar, qv::XmlNode& dayTypes) {
+  album.Add(CDlgCalendar(nullptr, &calendar, &dayTypes, nullptr), "calendar");
+  album.Add(CDlgCalendar(nullptr, &calendar, &dayTypes, nullptr), "calendar-least", QSize(1, 1));
+  album.Add(CDlgCalendar(nullptr, &calendar, &dayTypes, nullptr), "calendar-large",
+            QSize(1400, 900));
+  album.Add(CDlgFastSelection(nullptr, &dayTypes, 2026), "fast-selection");
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -91,6 +101,8 @@ int main(int count, char** arguments) {
   album.Add(CDlgAddModifyDiscriminator(nullptr, nullptr, &path), "discriminator");
   qv::XmlNode& hourTypes = *document.Root()->Node(L"hourTypes");
   AddHourTypes(album, hourTypes);
-  AddDayTypes(album, *document.Root()->Node(L"dayTypes"), hourTypes);
+  qv::XmlNode& dayTypes = *document.Root()->Node(L"dayTypes");
+  AddDayTypes(album, dayTypes, hourTypes);
+  AddCalendar(album, *document.Root()->Node(L"calendar"), dayTypes);
   return 0;
 }

@@ -60,4 +60,19 @@ inline constexpr int toHours = 5320;
 inline constexpr int toMinutesSpin = 5322;
 inline constexpr int toMinutes = 5324;
 
+// Calendar
+inline constexpr int calendarView = 5004;
+inline constexpr int fastSelectionButton = 5007;
+inline constexpr int actionSwatch = 5263;
+inline constexpr int calendarDayTypes = 5269;
+inline constexpr int calendarDayTypesBox = 5271;
+inline constexpr int actionLabel = 5297;
+
+// Fast selection
+inline constexpr int fastDayType = 5005;
+inline constexpr int fastYear = 5272;
+inline constexpr int weekDayChecks[] = {5276, 5277, 5278, 5279, 5280, 5281, 5282};
+inline constexpr int monthChecks[] = {5290, 5291, 5292, 5293, 5294, 5295,
+                                      5305, 5307, 5309, 5310, 5312, 5314};
+
 }  // namespace qv

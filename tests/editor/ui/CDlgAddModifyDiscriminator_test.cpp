@@ -53,8 +53,9 @@ TEST_F(Editor, LabelsNameTheirControls) {
 TEST_F(Editor, LinksThatCannotBeOpenedYetSayWhy) {
   host->loadString.additions = {Text::LinkNotReady};
   Add([] {
-    EXPECT_FALSE(TopControl(calendarLink)->isEnabled());
-    EXPECT_EQ(TopControl(calendarLink)->toolTip(), "<p>" + TitleOf(Text::LinkNotReady) + "</p>");
+    EXPECT_TRUE(TopControl(calendarLink)->isEnabled());
+    EXPECT_FALSE(TopControl(conditionsLink)->isEnabled());
+    EXPECT_EQ(TopControl(conditionsLink)->toolTip(), "<p>" + TitleOf(Text::LinkNotReady) + "</p>");
     Click(IDCANCEL);
   });
 }

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <map>
 
+#include "calendar/ui/CDlgCalendar.h"
+#include "calendar/ui/CDlgFastSelection.h"
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 #include "hostkit/LanguageFile.h"
 #include "manager/ui/CDlgSetupDiscriminators.h"
@@ -94,6 +96,13 @@ TEST_P(Mnemonics, AreUnequalInTheEditorsOfTypesAndSlots) {
   XmlNode slot(L"slot");
   CDlgAddModifyTimeSlot slotEditor(nullptr, Part(L"hourTypes"), &slot, 0xFFFFFF);
   ExpectOneForEach(slotEditor, 4);
+}
+
+TEST_P(Mnemonics, AreUnequalInTheCalendarAndTheFastSelection) {
+  CDlgCalendar calendar(nullptr, Part(L"calendar"), Part(L"dayTypes"), Part(L"hourTypes"));
+  ExpectOneForEach(calendar, 1);
+  CDlgFastSelection fastSelection(nullptr, Part(L"dayTypes"), 2026);
+  ExpectOneForEach(fastSelection, 20);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, Mnemonics, testing::Values("en.txt", "es.txt"),
