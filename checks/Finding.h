@@ -30,6 +30,10 @@ enum class FindingKind {
   StartAfterEnd,
   SlotsOverlap,
   DayGaps,
+  WrongYear,
+  NoSuchMonth,
+  NoSuchDate,
+  DatesBeyondWalk,
 
   Count
 };
@@ -45,7 +49,10 @@ struct Finding {
   unsigned column = 0;
 
   /// Whether something has to be mended; any other finding is a note, which only explains.
-  bool IsFault() const { return kind != FindingKind::HiddenType && kind != FindingKind::DayGaps; }
+  bool IsFault() const {
+    return kind != FindingKind::HiddenType && kind != FindingKind::DayGaps &&
+           kind != FindingKind::DatesBeyondWalk;
+  }
   /// Whether it is why the list leaves the file out.
   bool LeavesOut() const { return kind <= FindingKind::NameDiffers; }
 

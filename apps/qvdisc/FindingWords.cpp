@@ -131,6 +131,24 @@ constexpr qv::EnumTable kinds(std::array{
             "day-gaps",
             Word::DayGaps,
             {"minutos de un tipo de día sin franja", "minutes of a day type without a slot"}},
+    KindRow{FindingKind::WrongYear,
+            "wrong-year",
+            Word::WrongYear,
+            {"un año que no es un número de -32768 a 32767; se lee como otro",
+             "a year that is no number from -32768 to 32767; it is read as another"}},
+    KindRow{FindingKind::NoSuchMonth,
+            "no-such-month",
+            Word::NoSuchMonth,
+            {"un mes que no existe; no se lee", "a month that doesn't exist; it isn't read"}},
+    KindRow{FindingKind::NoSuchDate,
+            "no-such-date",
+            Word::NoSuchDate,
+            {"una fecha que no existe; no se lee", "a date that doesn't exist; it isn't read"}},
+    KindRow{FindingKind::DatesBeyondWalk,
+            "dates-beyond-walk",
+            Word::DatesBeyondWalk,
+            {"fechas que se pierden al aceptar el calendario",
+             "dates that are lost when the calendar is confirmed"}},
 });
 
 }  // namespace
@@ -150,6 +168,7 @@ std::wstring Sentence(const Finding& finding, qv::Language language) {
                                        {finding.line, finding.column, finding.value.c_str()});
     case FindingKind::IdDiffers:
     case FindingKind::NameDiffers:
+    case FindingKind::WrongYear:
       return Words(word, language, {finding.value.c_str(), finding.expected.c_str()});
     case FindingKind::DuplicatePart:
       return Words(word, language,

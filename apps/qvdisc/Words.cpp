@@ -133,6 +133,15 @@ constexpr qv::EnumTable texts(std::array{
     WordRow{Word::StartAfterEnd, L"%s: empieza después de su fin", L"%s: starts after its end"},
     WordRow{Word::SlotsOverlap, L"%s: se solapa con %s", L"%s: overlaps %s"},
     WordRow{Word::DayGaps, L"%s: %s minutos sin franja", L"%s: %s minutes without a slot"},
+    WordRow{Word::WrongYear, L"calendar: el año «%s» se lee como %s",
+            L"calendar: the year “%s” is read as %s"},
+    WordRow{Word::NoSuchMonth, L"%s: no existe el mes %s", L"%s: there is no month %s"},
+    WordRow{Word::NoSuchDate, L"%s: no existe el día %s", L"%s: there is no day %s"},
+    WordRow{Word::DatesBeyondWalk,
+            L"%s: se pierden %s fechas al aceptar el calendario: el primer día marcado es mayor "
+            L"que el último",
+            L"%s: %s dates are lost when the calendar is confirmed: the day of the month of the "
+            L"first marked date is greater than that of the last"},
 });
 
 }  // namespace

@@ -104,6 +104,20 @@ TEST_F(CheckTest, ASlotWithoutItsHourTypeIsToldWithItsPlace) {
   EXPECT_THAT(found["value"].get<std::string>(), testing::StartsWith("deaddead"));
 }
 
+TEST_F(CheckTest, DatesThatAreReadOtherwiseAreTold) {
+  const std::vector<std::tuple<std::string, std::string, std::string, std::string>> faults = {
+      {"<year>2026</year>", "<year>2026x</year>", "wrong-year", "2026x"},
+      {"<month2>", "<month13><day1/></month13><month2>", "no-such-month", "month13"},
+      {"<month2>", "<month2><day30/>", "no-such-date", "day30"},
+  };
+  const std::string good = Read(file);
+  for (const auto& [from, to, kind, value] : faults) {
+    Write(file, good);
+    Edit(file, from, to);
+    EXPECT_EQ(Only(kind)["value"], value);
+  }
+}
+
 TEST_F(CheckTest, SlotsThatMakeNoDayAreTold) {
   const std::vector<std::tuple<std::string, std::string, std::string, std::string>> faults = {
       {"<to>08:00</to>", "<to>8:00</to>", "malformed-time", "8:00"},
