@@ -46,6 +46,7 @@ struct Texts {
   std::string settings;
   std::string language;
   std::string show = windowNames.front().name;
+  std::string discriminator;
   std::string picture;
   std::string theme;
   std::string size;
@@ -115,6 +116,12 @@ void AddInstallationOptions(CLI::App& app, Texts& texts) {
 void AddWindowOptions(CLI::App& app, Texts& texts) {
   auto* show = AddText(app, "--show", texts.show, ShowHelp());
   Restrict(show, commandline::Column(windowNames, &WindowName::name), NoneOf);
+  Check(AddText(app, "--discriminator", texts.discriminator,
+                "With --show fast-selection: the stem <id>.<name> of the discriminator\n"
+                "whose day types are offered, otherwise the first of time slots")
+            ->type_name("STEM")
+            ->needs(show),
+        [](const std::string& text) { return commandline::NotUtf8("stem", text); });
   app.add_flag("--list", texts.list,
                "With --show discriminators: print the rows that the dialog lists,\n"
                "in aligned columns, and end")
@@ -181,6 +188,7 @@ Arguments ReadTexts(Texts texts) {
   return {.installation = Installation(std::move(texts.installation)),
           .language = qv::LanguageOf(texts.language),
           .show = window.window,
+          .discriminator = std::move(texts.discriminator),
           .picture = Given(std::move(texts.picture)),
           .size = ReadSize(texts.size),
           .theme = ReadTheme(texts.theme),

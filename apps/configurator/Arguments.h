@@ -12,7 +12,7 @@
 namespace configurator {
 
 /// A window that can be shown alone.
-enum class ShownWindow { Main, Discriminators, Start };
+enum class ShownWindow { Main, Discriminators, FastSelection, Start };
 
 /// What the command line calls a window.
 struct WindowName {
@@ -27,6 +27,8 @@ inline constexpr std::array windowNames = {
     WindowName{"main", ShownWindow::Main, "the main window", false},
     WindowName{"discriminators", ShownWindow::Discriminators,
                "the manager of the installation's discriminators", true},
+    WindowName{"fast-selection", ShownWindow::FastSelection,
+               "the choice of dates by a rule, March to June", false},
     WindowName{"start", ShownWindow::Start, "what is shown if there is no installation to open",
                false},
 };
@@ -48,6 +50,7 @@ struct Arguments {
   std::string installation;
   std::optional<qv::Language> language;  ///< nothing for that of the user's system
   ShownWindow show = ShownWindow::Main;
+  std::string discriminator;           ///< the stem of its file, in UTF-8; empty for the first
   std::optional<std::string> picture;  ///< the file to make, in UTF-8
   std::optional<WindowSize> size;
   std::optional<Theme> theme;  ///< nothing for that of the user's system

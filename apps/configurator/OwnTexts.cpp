@@ -147,6 +147,9 @@ constexpr qv::EnumTable texts(std::array{
         "to."},
     OwnTextRow{OwnText::WindowNotShown, "La ventana no ha llegado a mostrarse.",
                "The window was never shown."},
+    OwnTextRow{OwnText::NoDiscriminatorOfSlots,
+               "La instalación no tiene ningún discriminador así de franjas horarias.",
+               "The installation has no such discriminator of time slots."},
 });
 
 }  // namespace

@@ -85,6 +85,7 @@ enum class OwnText {
   LanguageFileMissing,
   PictureNotSaved,
   WindowNotShown,
+  NoDiscriminatorOfSlots,
 
   Count
 };

@@ -8,6 +8,7 @@
 
 #include "apps/configurator/Boxes.h"
 #include "apps/configurator/DiscriminatorManager.h"
+#include "apps/configurator/FastSelectionWindow.h"
 #include "apps/configurator/MainWindow.h"
 #include "apps/configurator/Presenter.h"
 #include "apps/configurator/Settings.h"
@@ -128,6 +129,17 @@ Workspace::Problem ShowDiscriminators(Workspace& workspace, Presenter& presenter
   return end.problem;
 }
 
+Workspace::Problem ShowFastSelection(Workspace& workspace, Presenter& presenter,
+                                     const Arguments& arguments) {
+  const FastSelectionEnd end =
+      RunFastSelection(workspace, QString::fromStdString(arguments.discriminator),
+                       [&](QWidget& dialog) { presenter.Present(dialog); });
+  if (!arguments.EndsByItself() && !end.problem) {
+    std::puts(end.result.toUtf8().constData());
+  }
+  return end.problem;
+}
+
 /// Shows the window on the open installation.
 Workspace::Problem ShowWindow(Workspace& workspace, Settings& settings, Presenter& presenter,
                               const Arguments& arguments) {
@@ -136,6 +148,9 @@ Workspace::Problem ShowWindow(Workspace& workspace, Settings& settings, Presente
   }
   if (arguments.show == ShownWindow::Discriminators) {
     return ShowDiscriminators(workspace, presenter, arguments);
+  }
+  if (arguments.show == ShownWindow::FastSelection) {
+    return ShowFastSelection(workspace, presenter, arguments);
   }
   ShowMain(workspace, settings, presenter, arguments);
   return std::nullopt;

@@ -95,6 +95,14 @@ TEST(Configurator, ABadCallGivesItsReasonAndStatus2) {
   }
 }
 
+TEST_F(ConfiguratorTest, PicturesTheFastSelectionAlone) {
+  EXPECT_FALSE(Picture({"--show", "fast-selection"}).isNull());
+  const Ended ended =
+      RunOnCopy({"--show", "fast-selection", "--discriminator", "none", "--picture", "none.png"});
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_THAT(ended.errors, HasSubstr("time slots"));
+}
+
 TEST_F(ConfiguratorTest, ListsTheDiscriminatorsSortedByName) {
   const Ended ended = RunOnCopy({"--show", "discriminators", "--list", "--language", "es"});
   EXPECT_EQ(ended.status, 0) << ended.errors;
