@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QToolTip>
 #include <algorithm>
 
@@ -81,6 +82,15 @@ void ReportList::mouseDoubleClickEvent(QMouseEvent* event) {
 void ReportList::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
   emit MenuWanted(event->globalPos());
+}
+
+void ReportList::paintEvent(QPaintEvent* event) {
+  QTreeWidget::paintEvent(event);
+  if (hasFocus() && !currentIndex().isValid()) {
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+  }
 }
 
 void ReportList::resizeEvent(QResizeEvent* event) {

@@ -8,7 +8,8 @@ namespace qv {
 /// A list in report form: rows of columns, no tree, full-row selection. It tells of keys and clicks
 /// in the terms of the dialogs that use it, and leaves sorting, copying and column widths to them.
 /// A text that its column cuts is shown whole in a tooltip. No row is current until the user, or
-/// the program, makes one so: the first Down chooses the first row.
+/// the program, makes one so: the first Down chooses the first row, and until then a ring around
+/// all of it shows the focus.
 class ReportList : public QTreeWidget {
   Q_OBJECT
 
@@ -34,6 +35,7 @@ class ReportList : public QTreeWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   bool viewportEvent(QEvent* event) override;
 

@@ -81,6 +81,25 @@ TEST_F(ReportListTest, TheFirstDownChoosesTheFirstRow) {
   EXPECT_EQ(list.SelectedRows(), std::vector<int>{1});
 }
 
+TEST_F(ReportListTest, ARingShowsTheFocusWhileNoRowIsCurrent) {
+  const QColor ring = list.palette().color(QPalette::Active, QPalette::Highlight);
+  const auto hasRing = [&] {
+    const QImage picture = list.viewport()->grab().toImage();
+    return picture.pixelColor(0, 0) == ring &&
+           picture.pixelColor(picture.width() - 1, picture.height() - 1) == ring;
+  };
+  list.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
+  list.clearFocus();
+  EXPECT_FALSE(hasRing());
+  list.setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(hasRing());
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_FALSE(hasRing());
+  list.clear();
+  EXPECT_TRUE(hasRing());
+}
+
 TEST_F(ReportListTest, AListThatGetsTheFocusAgainKeepsItsCurrentRow) {
   list.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
