@@ -71,16 +71,17 @@ class BrushesById {
   std::map<std::wstring, std::optional<Brush>> m_known;
 };
 
-void ReadMonth(CalendarDate first, const XmlNode& month, BrushesById& brushes,
-               CalendarMarks& marks) {
+using VisitDate = std::function<void(CalendarDate date, const QVWideString& id)>;
+
+void VisitMonth(CalendarDate first, const XmlNode& month, const VisitDate& visit) {
   const NumberedChildren<31> days = DaysOf(month);
   const int count = DaysOfMonth(ToDateTime(first));
   for (int day = 1; day <= count; ++day) {
     const XmlNode* node = days[static_cast<std::size_t>(day)];
-    const Brush* brush = node ? brushes.Of(node->Value()) : nullptr;
-    if (brush) {
-      marks.SetBrush(*brush);
-      marks.Select(ToDateTime({static_cast<std::int16_t>(first.year), first.month, day}));
+    const CalendarDate date{static_cast<std::int16_t>(first.year), first.month, day};
+    // The 29th of February may be one of the year as it is written and not of the narrowed one.
+    if (node && ToDateTime(date).Valid()) {
+      visit(date, node->Value());
     }
   }
 }
@@ -171,19 +172,28 @@ NumberedChildren<12> MonthsOf(const XmlNode& year) { return Numbered<12>(year, m
 
 NumberedChildren<31> DaysOf(const XmlNode& month) { return Numbered<31>(month, dayWord); }
 
-CalendarMarks ReadCalendar(Calendar calendar, DayTypes dayTypes,
-                           const std::vector<ColouredType>& rows) {
-  CalendarMarks marks;
-  BrushesById brushes(dayTypes.Node(), rows);
-  for (const XmlNode& year : ChildrenWithTag(calendar.Node(), tag::Year)) {
+void ForEachDate(const XmlNode& calendar, const VisitDate& visit) {
+  for (const XmlNode& year : ChildrenWithTag(calendar, tag::Year)) {
     const int number = Wtoi(year.Value(tag::Year).ToView());
     const NumberedChildren<12> months = MonthsOf(year);
     for (int month = 1; month <= 12; ++month) {
       if (const XmlNode* node = months[static_cast<std::size_t>(month)]) {
-        ReadMonth({number, month, 1}, *node, brushes, marks);
+        VisitMonth({number, month, 1}, *node, visit);
       }
     }
   }
+}
+
+CalendarMarks ReadCalendar(Calendar calendar, DayTypes dayTypes,
+                           const std::vector<ColouredType>& rows) {
+  CalendarMarks marks;
+  BrushesById brushes(dayTypes.Node(), rows);
+  ForEachDate(calendar.Node(), [&](CalendarDate date, const QVWideString& id) {
+    if (const Brush* brush = brushes.Of(id)) {
+      marks.SetBrush(*brush);
+      marks.Select(ToDateTime(date));
+    }
+  });
   marks.SetBrush({});
   return marks;
 }

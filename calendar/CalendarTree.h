@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <vector>
 
 #include "calendar/CalendarMarks.h"
@@ -19,12 +20,16 @@ NumberedChildren<12> MonthsOf(const XmlNode& year);
 /// The days of a month's node, in the same way.
 NumberedChildren<31> DaysOf(const XmlNode& month);
 
+/// Calls `visit` for each date of `calendar`, in the order of the document, with the id that stands
+/// there. Years are narrowed to 16 bits: 99999 is -31073. Dates that don't exist are passed over.
+void ForEachDate(const XmlNode& calendar,
+                 const std::function<void(CalendarDate date, const QVWideString& id)>& visit);
+
 /// The marks of the dates in `calendar`, and the eraser as their brush. `rows` are the day types as
 /// they are listed.
 ///
 /// The id of a date leads to a day type, and its name to the first row that bears it, whose colour
-/// is taken. Dates whose id or name leads nowhere, and days that their month doesn't have, stay
-/// without a mark. Years are narrowed to 16 bits: 99999 is -31073.
+/// is taken. Dates whose id or name leads nowhere stay without a mark.
 CalendarMarks ReadCalendar(Calendar calendar, DayTypes dayTypes,
                            const std::vector<ColouredType>& rows);
 

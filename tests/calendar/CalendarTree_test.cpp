@@ -153,6 +153,20 @@ TEST(CalendarTree, ALeapDayNeedsTheYearAsItIsWrittenAndAsItIsNarrowed) {
   EXPECT_THAT(Listed(Tree(Year(65700, leapDay)).Read()), IsEmpty());  // 164 has one
 }
 
+TEST(CalendarTree, EachDateThatExistsIsVisitedWithItsId) {
+  const Tree tree(Year(2027, "<month2><day29>w</day29><day1>x</day1></month2>") +
+                  Year(67564, "<month2><day29>w</day29></month2>") +
+                  Year(65636, "<month2><day29>w</day29></month2>") +  // 100 has none
+                  Year(2026, "<month13><day1>w</day1></month13><month1><day1/></month1>"));
+  std::vector<std::pair<CalendarDate, std::string>> dates;
+  ForEachDate(*tree.calendar, [&](CalendarDate date, const QVWideString& id) {
+    dates.emplace_back(date, Narrow(id));
+  });
+  EXPECT_THAT(dates, ElementsAre(std::pair(CalendarDate{2027, 2, 1}, "x"),
+                                 std::pair(CalendarDate{2028, 2, 29}, "w"),
+                                 std::pair(CalendarDate{2026, 1, 1}, "")));
+}
+
 TEST(CalendarTree, WithoutDayTypesTheWholeCalendarGoes) {
   const Tree tree(Year(2026, "<month1><day1>w</day1></month1>"), "<dayTypes/>");
   EXPECT_EQ(tree.Rewritten(), "");
