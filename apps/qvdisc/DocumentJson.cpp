@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "apps/qvdisc/CalendarReport.h"
 #include "apps/qvdisc/TypeJson.h"
 #include "apps/qvdisc/Words.h"
 #include "discriminator/Fields.h"
@@ -51,6 +52,7 @@ Json DocumentJson(const XmlNode& root) {
           {"rootTag", Utf8(root.Tag().ToView())},
           {"hourTypes", Children(hourTypes, qv::tag::Hour, HourTypeJson)},
           {"dayTypes", Children(root.Node(qv::tag::DayTypes), qv::tag::Day, dayType)},
+          {"calendar", CalendarAsJson(root)},
           {"content", Tree(root)}};
 }
 

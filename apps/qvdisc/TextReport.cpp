@@ -3,6 +3,7 @@
 #include <map>
 #include <vector>
 
+#include "apps/qvdisc/CalendarReport.h"
 #include "apps/qvdisc/FindingWords.h"
 #include "apps/qvdisc/Reports.h"
 #include "apps/qvdisc/TypeReport.h"
@@ -134,19 +135,10 @@ void WriteDayTypes(Writer& writer, const XmlNode& root, const NamesById& hours) 
   }
 }
 
-int DatesIn(const XmlNode& year) {
-  int dates = 0;
-  for (auto month = year.ChildsBegin(); month != year.ChildsEnd(); ++month) {
-    dates += static_cast<int>(std::distance((*month)->ChildsBegin(), (*month)->ChildsEnd()));
-  }
-  return dates;
-}
-
-void WriteCalendar(Writer& writer, const XmlNode& root) {
-  for (const XmlNode& year :
-       Section(writer, root, qv::tag::Calendar, qv::tag::Year, Word::Calendar)) {
-    const std::wstring name = Line(year, qv::tag::Year);
-    writer.Write(L"  " + writer.Said(Word::DatesOfYear, {name.c_str(), DatesIn(year)}));
+void WriteCalendar(Writer& writer, const XmlNode& root, qv::Language language) {
+  Section(writer, root, qv::tag::Calendar, qv::tag::Year, Word::Calendar);
+  for (const std::wstring& line : CalendarAsLines(root, language)) {
+    writer.Write(OneLine(line));
   }
 }
 
@@ -158,11 +150,11 @@ void WriteConditions(Writer& writer, const XmlNode& root) {
   }
 }
 
-void WriteDocument(Writer& writer, const XmlNode& root) {
+void WriteDocument(Writer& writer, const XmlNode& root, qv::Language language) {
   WriteFields(writer, root);
   const NamesById hours = WriteHourTypes(writer, root);
   WriteDayTypes(writer, root, hours);
-  WriteCalendar(writer, root);
+  WriteCalendar(writer, root, language);
   WriteConditions(writer, root);
 }
 
@@ -244,7 +236,7 @@ std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool 
     return writer.Text();
   }
   if (outcome.document) {
-    WriteDocument(writer, *outcome.document->Root());
+    WriteDocument(writer, *outcome.document->Root(), outcome.language);
   } else if (arguments.verb == Verb::List && outcome.errors.empty()) {
     WriteRows(writer, outcome);
   } else if (arguments.verb == Verb::Check && outcome.errors.empty()) {

@@ -44,7 +44,10 @@ enum class Word {
   Conditions,
   Yes,
   No,
-  DatesOfYear,  ///< year and number of dates
+  OneDate,
+  Dates,        ///< how many
+  DatesFromTo,  ///< the first and the last
+  NoKnownDayType,
   Answer,       ///< the answer that was given to a question
   Made,         ///< the stem
   WouldWrite,   ///< the path
