@@ -11,6 +11,7 @@
 #include "apps/commandline/CommandLine.h"
 #include "apps/qvdisc/CallDescription.h"
 #include "apps/qvdisc/CallOptions.h"
+#include "apps/qvdisc/MarkArguments.h"
 #include "apps/qvdisc/TypeArguments.h"
 #include "apps/qvdisc/Words.h"
 #include "tools/Utf8.h"
@@ -70,6 +71,9 @@ Arguments ReadTexts(const CLI::App& app, const OptionTexts& texts) {
   if (const auto actions = verb.get_subcommands(); !actions.empty()) {
     arguments.verbName += " " + actions.front()->get_name();
     arguments.type = ReadTypeCall(*actions.front(), texts.types);
+  }
+  if (arguments.verb == Verb::Mark || arguments.verb == Verb::Unmark) {
+    arguments.mark = ReadMarkCall(verb, texts.marks);
   }
   return arguments;
 }

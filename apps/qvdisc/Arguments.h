@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "apps/commandline/CommandLine.h"
+#include "apps/qvdisc/MarkCall.h"
 #include "apps/qvdisc/TypeCall.h"
 #include "hostkit/Language.h"
 
@@ -22,6 +23,8 @@ enum class Verb {
   Modify,
   HourType,
   DayType,
+  Mark,
+  Unmark,
   Remove,
   Check,
   Names
@@ -50,6 +53,7 @@ struct Arguments {
   std::vector<std::wstring> stems;  ///< which discriminators, as the user calls them
   FieldChanges changes;
   TypeCall type;
+  MarkCall mark;
 };
 
 /// Reads the command line, of which the first is the program's name. A call that can't be carried

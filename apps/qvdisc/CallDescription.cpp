@@ -7,6 +7,7 @@
 
 #include "apps/commandline/CommandLine.h"
 #include "apps/qvdisc/HelpSections.h"
+#include "apps/qvdisc/MarkArguments.h"
 #include "apps/qvdisc/Meaning.h"
 #include "apps/qvdisc/Pages.h"
 #include "apps/qvdisc/TypeArguments.h"
@@ -98,6 +99,23 @@ constexpr std::array verbs = {
             {"Lista, crea, cambia o elimina tipos de día con sus franjas",
              "Lists, adds, modifies or removes day types with their slots"},
             "qvdisc day-type list 'Day and night' --json"},
+    VerbRow{"mark",
+            Verb::Mark,
+            oneStem,
+            AddMark,
+            {"Da un tipo de día a fechas del calendario; siempre hace una revisión nueva",
+             "Gives dates of the calendar a day type; always makes a new revision"},
+            "qvdisc mark 'Day and night' 2026-01-01..2026-01-06 2026-12-24 'Winter day'\n"
+            "qvdisc mark 'Day and night' --weekdays sat,sun --months 1-3,10-12 --year 2027 "
+            "'Winter day'"},
+    VerbRow{"unmark",
+            Verb::Unmark,
+            oneStem,
+            AddUnmark,
+            {"Deja fechas del calendario sin tipo de día; siempre hace una revisión nueva",
+             "Leaves dates of the calendar without a day type; always makes a new revision"},
+            "qvdisc unmark 'Day and night' 2026-01-06\n"
+            "qvdisc unmark 'Day and night' --weekdays mon-sun --months 8 --year 2026"},
     VerbRow{"remove",
             Verb::Remove,
             someStems,

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/qvdisc/MarkTexts.h"
 #include "apps/qvdisc/TypeTexts.h"
 #include "hostkit/Language.h"
 
@@ -30,6 +31,7 @@ struct OptionTexts {
   bool strict = false;
   bool dryRun = false;
   TypeTexts types;
+  MarkTexts marks;
 };
 
 /// How many STEMs a verb takes.

@@ -66,9 +66,10 @@ HelpSection ExitStatus(qv::Language language) {
   constexpr Meaning heading{"Estado de salida", "Exit status"};
   constexpr Meaning done{"hecho", "done"};
   constexpr Meaning refused{
-      "rechazado, o no se ha podido escribir; de check: hay fallos o,\ncon --strict, notas",
+      "rechazado, o no se ha podido escribir; de check: hay fallos o,\ncon --strict, notas; de "
+      "mark y unmark: se han perdido fechas",
       "refused, or something could not be written; of check: there are faults\nor, with --strict, "
-      "notes"};
+      "notes; of mark and unmark: dates were lost"};
   constexpr Meaning wrong{"la llamada está mal", "the call is wrong"};
   return {heading.In(language),
           {{"0", done.In(language)}, {"1", refused.In(language)}, {"2", wrong.In(language)}}};

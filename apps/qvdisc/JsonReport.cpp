@@ -80,6 +80,9 @@ void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome)
   if (arguments.verb == Verb::HourType || arguments.verb == Verb::DayType) {
     json[arguments.verb == Verb::HourType ? "hourTypes" : "dayTypes"] = TypesAsJson(outcome.types);
   }
+  if (arguments.verb == Verb::Mark || arguments.verb == Verb::Unmark) {
+    json["marked"] = outcome.marked ? MarkedAsJson(*outcome.marked) : Json(nullptr);
+  }
   if (outcome.unsaved) {
     json["unsaved"] = *outcome.unsaved;
   }

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "apps/qvdisc/MarkedDates.h"
 #include "apps/qvdisc/RehearsedFiles.h"
 #include "apps/qvdisc/ToldTypes.h"
 #include "apps/qvdisc/Words.h"
@@ -41,19 +42,21 @@ struct Outcome {
   std::vector<SpokenText> texts;
   std::vector<int> notices;
   bool hostHasToSave = false;
-  bool saved = false;                ///< the configuration, because it had to be
-  std::vector<std::wstring> errors;  ///< in words
+  bool saved = false;                 ///< the configuration, because it had to be
+  std::vector<std::wstring> errors;   ///< in words
+  std::vector<std::wstring> remarks;  ///< the same of what ends no call as refused
 
   std::unique_ptr<XmlDocument> document;  ///< what `show` shows
   std::optional<std::string> payload;     ///< what `copy` copies
   std::optional<std::string> unsaved;     ///< a discriminator that could not be saved, as payload
   std::optional<std::string> unsavedConfiguration;  ///< the text of its file
   std::vector<IndexEnd> indexes;
-  std::vector<std::wstring> made;   ///< the stems of the discriminators that are new
-  ToldTypes types;                  ///< of a call that works on hour types or day types
-  qv::CheckedInstallation checked;  ///< what `check` found
-  std::vector<std::wstring> names;  ///< by which discriminators can be called
-  std::vector<FileChange> changes;  ///< what a dry run would have done
+  std::vector<std::wstring> made;     ///< the stems of the discriminators that are new
+  ToldTypes types;                    ///< of a call that works on hour types or day types
+  std::optional<MarkedDates> marked;  ///< nothing if the calendar wasn't saved
+  qv::CheckedInstallation checked;    ///< what `check` found
+  std::vector<std::wstring> names;    ///< by which discriminators can be called
+  std::vector<FileChange> changes;    ///< what a dry run would have done
 
   /// The call ends as refused, for one more reason.
   void Fail(Word reason, std::initializer_list<qv::FormatArgument> arguments = {}) {

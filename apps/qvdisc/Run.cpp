@@ -32,6 +32,9 @@ void Rehearse(const Arguments& arguments, const Terminal& terminal, const System
 }
 
 void TellErrors(const Outcome& outcome, const Terminal& terminal) {
+  for (const std::wstring& remark : outcome.remarks) {
+    terminal.err << ErrorLine(Utf8(remark));
+  }
   for (const std::wstring& error : outcome.errors) {
     const std::string line = ErrorLine(Utf8(error));
     terminal.err << (terminal.coloursErrors ? "\033[31m" + line + "\033[0m" : line);

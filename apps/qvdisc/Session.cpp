@@ -146,6 +146,9 @@ void Session::PerformOn(const std::vector<int>& rows) {
       return HourTypes(*m_list, rows, editing, m_outcome);
     case Verb::DayType:
       return DayTypes(*m_list, rows, editing, m_outcome);
+    case Verb::Mark:
+    case Verb::Unmark:
+      return Mark(*m_list, rows, editing, m_outcome);
     case Verb::Remove:
       return Remove(*m_list, rows, m_prompter, m_outcome);
   }

@@ -249,6 +249,9 @@ std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool 
   for (const std::wstring& line : TypesAsLines(outcome.types, outcome.language)) {
     writer.Write(OneLine(line));
   }
+  if (outcome.marked) {
+    writer.Write(OneLine(MarkedAsLine(*outcome.marked, outcome.language)));
+  }
   WriteIndexes(writer, outcome);
   return writer.Text();
 }

@@ -25,6 +25,11 @@ constexpr qv::EnumTable texts(std::array{
     WordRow{TypeWord::ValueNotOffered,
             L"El valor de un tipo de hora solo se puede elegir en una instalación embebida",
             L"The value of an hour type can be chosen on an embedded installation only"},
+    WordRow{TypeWord::CannotMark,
+            L"El tipo de día «%s» no puede marcar fechas: su nombre falta, es también de otro o "
+            L"tiene un signo de interrogación",
+            L"The day type “%s” cannot mark dates: its name is missing, shared with another, "
+            L"or has a question mark"},
     WordRow{TypeWord::HourType, L"Tipo de hora", L"Hour type"},
     WordRow{TypeWord::DayType, L"Tipo de día", L"Day type"},
     WordRow{TypeWord::Made, L"%s «%s» creado", L"%s “%s” made"},

@@ -16,6 +16,7 @@ enum class TypeWord {
   SeveralHourTypes,  ///< the text of the call
   SeveralDayTypes,   ///< the text of the call
   ValueNotOffered,
+  CannotMark,  ///< name of the day type
 
   // What became of one
   HourType,

@@ -59,6 +59,11 @@ void HourTypes(qv::DiscriminatorList& list, const std::vector<int>& rows, const 
 void DayTypes(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
               Outcome& outcome);
 
+/// Gives dates of the calendar of the first of the rows a day type, or takes it from them, as the
+/// call says.
+void Mark(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
+          Outcome& outcome);
+
 /// Removes the discriminators of the rows, after the question of the rules.
 void Remove(qv::DiscriminatorList& list, const std::vector<int>& rows, qv::Prompter& prompter,
             Outcome& outcome);

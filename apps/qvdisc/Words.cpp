@@ -49,6 +49,12 @@ constexpr qv::EnumTable texts(std::array{
             L"This question needs --yes or --no"},
     WordRow{Word::OutputFailed, L"No se ha podido escribir toda la salida",
             L"Not all of the output could be written"},
+    WordRow{Word::LeftOutBeyondWalk,
+            L"Sin guardar: %s; el primer día marcado es mayor que el último",
+            L"Left out: %s; the day of the month of the first marked date is greater than that of "
+            L"the last"},
+    WordRow{Word::LeftOutWithoutType, L"Sin guardar: %s; su tipo de día ya no existe",
+            L"Left out: %s; their day type is not there any more"},
 
     WordRow{Word::YesOrNo, L"[s/n]", L"[y/n]"},
 
@@ -69,6 +75,8 @@ constexpr qv::EnumTable texts(std::array{
     WordRow{Word::Dates, L"%d fechas", L"%d dates"},
     WordRow{Word::DatesFromTo, L"%s a %s", L"%s to %s"},
     WordRow{Word::NoKnownDayType, L"(sin tipo de día conocido)", L"(no known day type)"},
+    WordRow{Word::MarkedAs, L"%s con el tipo de día «%s»", L"%s marked as “%s”"},
+    WordRow{Word::Unmarked, L"%s sin tipo de día", L"%s unmarked"},
     WordRow{Word::Answer, L"(respuesta: %s)", L"(answer: %s)"},
     WordRow{Word::Made, L"%s: creado", L"%s: made"},
     WordRow{Word::WouldWrite, L"se escribiría: %s", L"would write: %s"},

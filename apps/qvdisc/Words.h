@@ -26,6 +26,8 @@ enum class Word {
   NotAllPasted,  ///< how many are missing
   AnswerNeeded,
   OutputFailed,
+  LeftOutBeyondWalk,   ///< the dates
+  LeftOutWithoutType,  ///< the dates
 
   // Questions
   YesOrNo,
@@ -48,6 +50,8 @@ enum class Word {
   Dates,        ///< how many
   DatesFromTo,  ///< the first and the last
   NoKnownDayType,
+  MarkedAs,     ///< the dates, counted, and the day type
+  Unmarked,     ///< the dates, counted
   Answer,       ///< the answer that was given to a question
   Made,         ///< the stem
   WouldWrite,   ///< the path

@@ -14,8 +14,8 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr std::array verbs = {"list", "show",   "index",  "copy", "paste",
-                              "add",  "modify", "remove", "check"};
+constexpr std::array verbs = {"list",   "show", "index",  "copy",   "paste", "add",
+                              "modify", "mark", "unmark", "remove", "check"};
 
 TEST(Help, OfTheProgramAndOfEachVerb) {
   const Ended program = Call({"--help"});
