@@ -1,4 +1,4 @@
-# Makes the hour types and day types of the Spanish access tariff 2.0TD.
+# Makes the Spanish access tariff 2.0TD of 2026: hour types, day types and calendar.
 set -e
 tariff='Tariff 2-0TD'
 qvdisc add --name "$tariff" --description 'Punta, llano y valle'
@@ -17,4 +17,10 @@ qvdisc day-type add "$tariff" 'Working day' --colour '#6FA8DC' \
 qvdisc day-type add "$tariff" 'Weekend or holiday' --colour '#C9A0DC' \
   --slot '00:00-24:00 P3 valle'
 
-qvdisc day-type list "$tariff"
+# The calendar of 2026: the rules first, then the national holidays that fall on a working day.
+qvdisc mark "$tariff" --weekdays mon-fri --months 1-12 --year 2026 'Working day'
+qvdisc mark "$tariff" --weekdays sat,sun --months 1-12 --year 2026 'Weekend or holiday'
+qvdisc mark "$tariff" 2026-01-01 2026-01-06 2026-05-01 2026-10-12 2026-12-08 2026-12-25 \
+  'Weekend or holiday'
+
+qvdisc show "$tariff"

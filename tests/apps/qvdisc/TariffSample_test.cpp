@@ -41,11 +41,24 @@ class TariffSample : public TypesTest {
     return types;
   }
 
+  /// The calendar of a discriminator, without the ids of the day types.
+  static Json CalendarIn(const std::filesystem::path& installation, const std::string& stem) {
+    const Ended ended = Call({"show", stem, "--json", "--installation", installation.string()});
+    EXPECT_EQ(ended.status, 0) << ended.errors;
+    Json calendar = Json::parse(ended.output)["document"]["calendar"];
+    for (Json& year : calendar["years"]) {
+      for (Json& type : year["dayTypes"]) {
+        type.erase("dayTypeId");
+      }
+    }
+    return calendar;
+  }
+
   qv::TemporaryDirectory made;
   qv::TemporaryDirectory told;
 };
 
-TEST_F(TariffSample, MakesTheTypesOfTheExampleFromNothing) {
+TEST_F(TariffSample, MakesTheTypesAndTheCalendarOfTheExampleFromNothing) {
   ASSERT_EQ(RunScript(), 0) << qv::FileBytes(Output());
   const std::string name = "Tariff 2-0TD";
   const Json hourTypes = TypesIn(made.Path(), "hour-type", name, "hourTypes");
@@ -54,6 +67,10 @@ TEST_F(TariffSample, MakesTheTypesOfTheExampleFromNothing) {
   const Json dayTypes = TypesIn(made.Path(), "day-type", name, "dayTypes");
   EXPECT_EQ(dayTypes.size(), 2U);
   EXPECT_EQ(dayTypes, TypesIn(directory.Path(), "day-type", tariff2, "dayTypes"));
+
+  const Json calendar = CalendarIn(made.Path(), name);
+  EXPECT_EQ(calendar["years"][0]["dates"], 365);
+  EXPECT_EQ(calendar, CalendarIn(directory.Path(), tariff2));
 
   const Ended checked = Call({"check", "--strict", "--installation", made.Path().string()});
   EXPECT_EQ(checked.status, 0) << checked.output;
