@@ -2,8 +2,10 @@
 
 #include <QEvent>
 
+#include "toolkit/GroupBoxMargins.h"
+
 void CBorder::SetMargin(int pixels) {
-  setContentsMargins(pixels, pixels, pixels, pixels);
+  m_margin = pixels;
   Place();
 }
 
@@ -23,7 +25,7 @@ void CBorder::LinkControl(QWidget* control, bool places) {
 
 void CBorder::Place() {
   if (m_places && m_control) {
-    m_control->setGeometry(contentsRect());
+    m_control->setGeometry(rect().marginsRemoved(qv::GroupBoxMargins(this, m_margin, true)));
   }
 }
 

@@ -26,4 +26,5 @@ class CBorder : public QGroupBox {
 
   QPointer<QWidget> m_control;
   bool m_places = false;
+  int m_margin = 0;
 };

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "toolkit/CListBorder.h"
+#include "toolkit/GroupBoxMargins.h"
 
 namespace {
 
@@ -22,21 +23,25 @@ class CBorderTest : public testing::Test {
   QWidget inside{&border};
 };
 
-TEST_F(CBorderTest, AControlThatItPlacesFillsItsInside) {
+TEST_F(CBorderTest, AControlThatItPlacesFillsItsInsideBelowTheTitle) {
   border.SetMargin(5);
   border.LinkControl(&inside, true);
   const QRect before = inside.geometry();
-  EXPECT_EQ(before, border.contentsRect());
+  EXPECT_EQ(before, border.rect().marginsRemoved(qv::GroupBoxMargins(&border, 5, true)));
+  EXPECT_GE(before.top(), border.fontMetrics().height());
   border.resize(220, 130);
-  EXPECT_EQ(inside.size(), before.size() + QSize(20, 30));
+  EXPECT_EQ(inside.geometry(), before.adjusted(0, 0, 20, 30));
 }
 
-TEST_F(CBorderTest, TheMarginIsFreeOnEachSide) {
+TEST_F(CBorderTest, TheMarginIsFreeOnEachSideWhateverTheTitle) {
   border.LinkControl(&inside, true);
   border.SetMargin(0);
   const QRect wide = inside.geometry();
   border.SetMargin(5);
   EXPECT_EQ(inside.geometry(), wide.adjusted(5, 5, -5, -5));
+  border.setTitle(QStringLiteral("Other"));
+  border.resize(border.size() + QSize(1, 0));
+  EXPECT_EQ(inside.geometry(), wide.adjusted(5, 5, -4, -5));
 }
 
 TEST_F(CBorderTest, AControlThatItDoesNotPlaceStaysWhereItIs) {
