@@ -86,22 +86,27 @@ void DiscriminatorForm::OnHourTypes(
                   m_modified);
 }
 
-void DiscriminatorForm::OnDayTypes(
-    const std::function<EditorEnd(DayTypes, Calendar, HourTypes)>& runDayTypes) {
+void DiscriminatorForm::EditSlotParts(
+    const std::function<EditorEnd(Calendar, DayTypes, HourTypes)>& run) {
   XmlNode& calendar = *Content().Node(tag::Calendar);
   XmlNode& dayTypes = *Content().Node(tag::DayTypes);
   XmlNode& hourTypes = *Content().Node(tag::HourTypes);
   EditedCopies copies({&calendar, &dayTypes, &hourTypes});
-  copies.TakeBack(runDayTypes(DayTypes(copies.Of(dayTypes)), Calendar(copies.Of(calendar)),
-                              HourTypes(copies.Of(hourTypes))),
+  copies.TakeBack(run(Calendar(copies.Of(calendar)), DayTypes(copies.Of(dayTypes)),
+                      HourTypes(copies.Of(hourTypes))),
                   m_modified);
+}
+
+void DiscriminatorForm::OnDayTypes(
+    const std::function<EditorEnd(DayTypes, Calendar, HourTypes)>& runDayTypes) {
+  EditSlotParts([&](Calendar calendar, DayTypes dayTypes, HourTypes hourTypes) {
+    return runDayTypes(dayTypes, calendar, hourTypes);
+  });
 }
 
 void DiscriminatorForm::OnCalendar(
     const std::function<EditorEnd(Calendar, DayTypes, HourTypes)>& runCalendar) {
-  OnDayTypes([&](DayTypes dayTypes, Calendar calendar, HourTypes hourTypes) {
-    return runCalendar(calendar, dayTypes, hourTypes);
-  });
+  EditSlotParts(runCalendar);
 }
 
 SaveEnd DiscriminatorForm::Save(const DiscriminatorFields& typed) {

@@ -92,6 +92,9 @@ class DiscriminatorForm {
                     std::unique_ptr<XmlDocument> document);
 
   XmlNode& Content() { return *m_document->Root(); }
+  /// Runs a dialog on copies of the three parts of a discriminator of slots, and takes them over if
+  /// it was confirmed.
+  void EditSlotParts(const std::function<EditorEnd(Calendar, DayTypes, HourTypes)>& run);
   [[nodiscard]] std::optional<Refusal> Fault(const DiscriminatorFields& typed) const;
   bool NameExists(const QVWideString& name) const;
   void TakeOver(const DiscriminatorFields& typed);

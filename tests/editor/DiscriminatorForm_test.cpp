@@ -269,6 +269,17 @@ TEST_F(FormTest, ACancelledCalendarLeavesTheDocumentAsItWas) {
   EXPECT_FALSE(form->IsModified());
 }
 
+TEST_F(FormTest, ACalendarThatThrowsLeavesTheDocumentAsItWas) {
+  auto form = OpenContent(withParts);
+  const XmlNode before(form->Root());
+  EXPECT_THROW(form->OnCalendar([](Calendar calendar, DayTypes, HourTypes) -> EditorEnd {
+    calendar.Node().NewChild(L"year", nullptr);
+    throw std::runtime_error("dialog");
+  }),
+               std::runtime_error);
+  EXPECT_EQ(form->Root(), before);
+}
+
 TEST_F(FormTest, AHourTypesDialogThatThrowsLeavesTheDocumentAsItWas) {
   auto form = OpenContent(withParts);
   EXPECT_THROW(form->OnHourTypes([](HourTypes hourTypes, DayTypes) -> EditorEnd {
