@@ -26,7 +26,7 @@ void CalendarForm::SelectRow(std::optional<int> row) {
 
 void CalendarForm::OnFastSelection(int year, const RunFastSelection& run) {
   const auto choice = run();
-  if (!choice || m_rows.empty()) {
+  if (!choice || choice->dayType < 0 || m_rows.empty()) {
     return;
   }
   m_marks.SetBrush(BrushOfRow(choice->dayType));

@@ -42,7 +42,7 @@ class CalendarForm {
   void OnFastSelection(int year, const RunFastSelection& run);
 
   /// Writes the marks to the calendar, which always counts as a change. Dates that the walk over
-  /// the months doesn't reach, and those of day types that are no more, are left out.
+  /// the months doesn't reach are left out, and those of a name that no path can hold.
   SaveEnd Save();
 
   /// Whether a fast selection was confirmed or the calendar was saved; never cleared.

@@ -23,7 +23,7 @@ bool IsNumbered(const XmlNode& node, std::wstring_view word) {
          tag.find_first_not_of(L"0123456789", word.size()) == std::wstring_view::npos;
 }
 
-/// Whether `text` is a whole number that 16 bits hold.
+/// Whether `text` is digits behind at most a minus sign, of a number that 16 bits hold.
 bool IsYear(std::wstring_view text) {
   const std::wstring_view digits = text.substr(text.starts_with(L'-') ? 1 : 0);
   const int year = Wtoi(text);
@@ -42,10 +42,10 @@ class CalendarChecker {
 
   void CheckYear(const XmlNode& node) {
     const QVWideString text = node.Value(tag::Year);
-    m_year = Wtoi(text.ToView());
+    m_written = Wtoi(text.ToView());
+    m_year = static_cast<std::int16_t>(m_written);
     if (!IsYear(text.ToView())) {
-      Tell(FindingKind::WrongYear, Format(L"calendar/%s", {text}), text,
-           Format(L"%d", {static_cast<std::int16_t>(m_year)}));
+      Tell(FindingKind::WrongYear, Format(L"calendar/%s", {text}), text, Format(L"%d", {m_year}));
     }
     const NumberedChildren<12> months = MonthsOf(node);
     for (auto child = node.ChildsBegin(); child != node.ChildsEnd(); ++child) {
@@ -84,14 +84,16 @@ class CalendarChecker {
   }
 
   void CheckDay(CalendarDate date, const XmlNode& node) {
-    if (date.day < 1 || date.day > DaysOfMonth(ToDateTime({date.year, date.month, 1}))) {
+    // A leap day needs the year as it is written and as it is narrowed.
+    const int days = DaysOfMonth(ToDateTime({m_written, date.month, 1}));
+    if (date.day > days || !ToDateTime(date).Valid()) {
       Tell(FindingKind::NoSuchDate, Format(L"calendar/%d-%02d", {date.year, date.month}),
            node.Tag());
     } else if (!m_dayTypes.contains(std::wstring(node.Value().ToView()))) {
       Tell(FindingKind::DeadDayType,
            Format(L"calendar/%d-%02d-%02d", {date.year, date.month, date.day}), node.Value());
     } else {
-      m_marks.Select(ToDateTime({static_cast<std::int16_t>(date.year), date.month, date.day}));
+      m_marks.Select(ToDateTime(date));
     }
   }
 
@@ -106,7 +108,8 @@ class CalendarChecker {
   const PartIds& m_dayTypes;
   Findings& m_findings;
   CalendarMarks m_marks;
-  int m_year = 0;
+  int m_written = 0;  // the year as it stands in the document
+  int m_year = 0;     // the same in 16 bits, as which it is read
 };
 
 }  // namespace

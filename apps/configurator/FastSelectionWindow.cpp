@@ -8,6 +8,7 @@
 #include "apps/configurator/Strings.h"
 #include "discriminator/DiscriminatorDirectory.h"
 #include "discriminator/Fields.h"
+#include "discriminator/FileNames.h"
 #include "library/QVDiscriminator.h"
 #include "tools/Names.h"
 
@@ -17,29 +18,37 @@ namespace {
 constexpr int firstMonth = 3;
 constexpr int lastMonth = 6;
 
-bool IsOfSlots(const qv::XmlNode& root) { return root.Value(qv::tag::Type) == qv::word::Slots; }
+using Document = std::unique_ptr<XmlDocument>;
 
-/// Whether the first is listed before the second.
-bool IsBefore(const qv::XmlNode& a, const qv::XmlNode& b) {
-  return qv::CompareLowered(a.Value(qv::tag::Name).ToView(), b.Value(qv::tag::Name).ToView()) < 0;
+/// The discriminator of this file if it is of slots, or null.
+Document Load(const qv::DiscriminatorDirectory& files, std::wstring_view fileName) {
+  auto document = std::make_unique<XmlDocument>();
+  const bool isOfSlots =
+      files.Load(*document, fileName) && document->Root()->Value(qv::tag::Type) == qv::word::Slots;
+  return isOfSlots ? std::move(document) : nullptr;
 }
 
-/// Loads the discriminator with this stem, or the first listed one, if it is of slots.
-std::unique_ptr<XmlDocument> LoadDiscriminator(const Workspace& workspace, const QString& stem) {
+bool IsListedBefore(const Document& a, const Document& b) {
+  return qv::CompareLowered(a->Root()->Value(qv::tag::Name).ToView(),
+                            b->Root()->Value(qv::tag::Name).ToView()) < 0;
+}
+
+/// The discriminator with this stem, or the first by name of those of slots.
+Document LoadDiscriminator(const Workspace& workspace, const QString& stem) {
   const QString directory = workspace.Directory() + QLatin1Char('/');
   const qv::DiscriminatorDirectory files(QVWideString(directory.toStdWString().c_str()),
                                          qv::Files::Disk());
-  std::unique_ptr<XmlDocument> found;
+  if (!stem.isEmpty()) {
+    return Load(files, stem.toStdWString() + qv::discriminatorExtension);
+  }
+  Document first;
   for (const std::wstring& name : files.FileNames()) {
-    auto document = std::make_unique<XmlDocument>();
-    const bool isWanted =
-        stem.isEmpty() || QString::fromStdWString(name) == stem + QStringLiteral(".xdct");
-    const bool isLoaded = isWanted && files.Load(*document, name) && IsOfSlots(*document->Root());
-    if (isLoaded && (!found || IsBefore(*document->Root(), *found->Root()))) {
-      found = std::move(document);
+    Document document = Load(files, name);
+    if (document && (!first || IsListedBefore(document, first))) {
+      first = std::move(document);
     }
   }
-  return found;
+  return first;
 }
 
 QString Told(const CDlgFastSelection& dialog) {

@@ -46,7 +46,7 @@ CDlgFastSelection::CDlgFastSelection(CWnd* parent, int year)
 CDlgFastSelection::CDlgFastSelection(CWnd* parent, std::vector<DWORD>* colours,
                                      std::vector<QVWideString>* names, int year)
     : CDlgFastSelection(parent, year) {
-  m_areGiven = true;
+  m_isFromLists = true;
   if (colours && names) {
     m_colours = *colours;
     m_names = *names;
@@ -67,7 +67,7 @@ int CDlgFastSelection::DoModal() { return CDialog::DoModal(); }
 void CDlgFastSelection::OnInitDialog() {
   InitializeTexts();
   InitializeDayTypes();
-  EnableMonths();
+  InitializeBoxes();
   PositioningControls();
 }
 
@@ -80,7 +80,6 @@ bool CDlgFastSelection::InitializeTexts() {
   for (const auto* boxes : {&m_weekDayBoxes, &m_monthBoxes}) {
     for (const Box& box : *boxes) {
       SetText(box.control, box.text);
-      box.control->setChecked(false);
     }
   }
   SetLabel(m_ui->labelDayType, m_ui->comboDayType, Text::DayType);
@@ -89,7 +88,7 @@ bool CDlgFastSelection::InitializeTexts() {
 }
 
 bool CDlgFastSelection::InitializeDayTypes() {
-  if (!m_areGiven) {
+  if (!m_isFromLists) {
     TakeDayTypesOfNode();
   }
   std::vector<qv::ColourChoice::Entry> entries;
@@ -109,9 +108,13 @@ void CDlgFastSelection::TakeDayTypesOfNode() {
   }
 }
 
-void CDlgFastSelection::EnableMonths() {
+void CDlgFastSelection::InitializeBoxes() {
+  for (const Box& box : m_weekDayBoxes) {
+    box.control->setChecked(false);
+  }
   int month = 1;
   for (const Box& box : m_monthBoxes) {
+    box.control->setChecked(false);
     box.control->setEnabled(m_months->Contains(month++));
   }
 }

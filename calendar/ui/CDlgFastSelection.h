@@ -45,7 +45,8 @@ class QVDISCRIMINATOR_EXPORT CDlgFastSelection : public CDialog {
   // The base isn't exported, so that what a host calls stands here.
   int DoModal() override;
 
-  /// Index of the chosen day type, as in the caller's list; -1 if there is none, or before `IDOK`.
+  /// Index of the chosen day type, as in the caller's list; -1 if there is none, or before the
+  /// first `IDOK`. A run that is cancelled leaves all three as they were.
   int m_nDayType = -1;
   /// Bit 0 for January to bit 11 for December. What several runs of one object tick adds up.
   DWORD m_dwMonths = 0;
@@ -68,14 +69,14 @@ class QVDISCRIMINATOR_EXPORT CDlgFastSelection : public CDialog {
   bool InitializeTexts();
   bool InitializeDayTypes();
   void TakeDayTypesOfNode();
-  void EnableMonths();
+  void InitializeBoxes();
   static DWORD MaskOf(const std::vector<Box>& boxes);
 
   const std::unique_ptr<Ui::Template1302> m_ui;
   const std::unique_ptr<qv::MonthRange> m_months;
   std::vector<Box> m_weekDayBoxes;  // from Monday on
   std::vector<Box> m_monthBoxes;
-  bool m_areGiven = false;  // else the day types are those of the node
+  bool m_isFromLists = false;  // otherwise from the node
   std::vector<DWORD> m_colours;
   std::vector<QVWideString> m_names;
   XmlDocument::XmlNode* m_dayTypes = nullptr;

@@ -61,6 +61,9 @@ TEST(SymbolTable, HoldsWhatAHostNeedsOfTheFastSelection) {
        {"CDlgFastSelection::DoModal()", "CDlgFastSelection::staticMetaObject",
         "CDlgFastSelection::~CDlgFastSelection()", "CDlgFastSelection::SetMaxMinMonth(int, int)",
         "CDlgFastSelection::CDlgFastSelection(QWidget*, qv::XmlNode*, int)",
+        "CDlgFastSelection::CDlgFastSelection(QWidget*, std::vector<unsigned int, "
+        "std::allocator<unsigned int> >*, std::vector<QVBasicString<wchar_t, QVWideChar>, "
+        "std::allocator<QVBasicString<wchar_t, QVWideChar> > >*, int)",
         "typeinfo for CDlgFastSelection", "vtable for CDlgFastSelection"}) {
     EXPECT_NE(std::find(symbols.begin(), symbols.end(), needed), symbols.end()) << needed;
   }

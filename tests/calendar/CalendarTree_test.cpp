@@ -112,10 +112,11 @@ TEST(CalendarTree, TwoNodesOfOneYearAreOneAfterwardsAndTheLaterWins) {
 
 TEST(CalendarTree, YearsAreSorted) {
   const Tree tree(Year(2027, "<month1><day1>w</day1></month1>") +
-                  Year(2026, "<month12><day31>w</day31></month12>") +
+                  Year(2026, "<month12><day1>w</day1></month12>") +
                   Year(2027, "<month2><day28>w</day28></month2>"));
-  EXPECT_EQ(tree.Rewritten(), Year(2026, "<month12><day31>w</day31></month12>") +
-                                  Year(2027, "<month1><day1>w</day1></month1>"));
+  EXPECT_EQ(tree.Rewritten(),
+            Year(2026, "<month12><day1>w</day1></month12>") +
+                Year(2027, "<month1><day1>w</day1></month1><month2><day28>w</day28></month2>"));
 }
 
 struct YearCase {
@@ -279,7 +280,45 @@ TEST(CalendarTree, AWhiteDayTypeWithANameIsAnOrdinaryOne) {
             Year(2026, month));
 }
 
-TEST(CalendarTree, NamesThatNoPathCanHoldFallAway) {
+TEST(CalendarTree, AFirstMarkOnThe1stNeverLosesAnything) {
+  for (int day = 1; day <= 28; ++day) {
+    const std::string year =
+        Year(2026, "<month1><day1>w</day1></month1><month3><day" + std::to_string(day) + ">r</day" +
+                       std::to_string(day) + "></month3>");
+    EXPECT_EQ(Tree(year).Rewritten(), year);
+  }
+}
+
+TEST(CalendarTree, NamesThatDifferInCaseAreTwo) {
+  const Tree tree(Year(2026, "<month1><day1>l</day1><day2>u</day2></month1>"),
+                  "<dayTypes><day><id>u</id><name>WORK</name><color>000001</color></day>"
+                  "<day><id>l</id><name>work</name><color>000002</color></day></dayTypes>");
+  EXPECT_THAT(Listed(tree.Read()), ElementsAre("2026-1-1 work 2", "2026-1-2 WORK 1"));
+  EXPECT_EQ(tree.Rewritten(), Year(2026, "<month1><day1>l</day1><day2>u</day2></month1>"));
+}
+
+TEST(CalendarTree, AWhiteDayTypeWithoutANameErasesWhatAnEarlierYearNodeMarked) {
+  const Tree tree(Year(2026, "<month1><day1>w</day1><day2>w</day2></month1>") +
+                      Year(2026, "<month1><day1>e</day1></month1>"),
+                  "<dayTypes><day><id>w</id><name>Work</name><color>1</color></day>"
+                  "<day><id>e</id><name></name><color>FFFFFF</color></day></dayTypes>");
+  EXPECT_THAT(Listed(tree.Read()), ElementsAre("2026-1-2 Work 1"));
+}
+
+TEST(CalendarTree, AnIdThatNoPathCanHoldFallsAway) {
+  const Tree tree(Year(2026, "<month1><day1>a?b</day1></month1>"),
+                  "<dayTypes><day><id>a?b</id><name>Work</name><color>1</color></day></dayTypes>");
+  EXPECT_THAT(Listed(tree.Read()), IsEmpty());
+}
+
+TEST(CalendarTree, ANameWithAQuestionMarkIsLookedUpByWhatStandsBeforeIt) {
+  const Tree tree(Year(2026, "<month1><day1>q</day1></month1>"),
+                  "<dayTypes><day><id>q</id><name>a?b</name><color>1</color></day>"
+                  "<day><id>a</id><name>a</name><color>2</color></day></dayTypes>");
+  EXPECT_EQ(tree.Rewritten(), Year(2026, "<month1><day1>a</day1></month1>"));
+}
+
+TEST(CalendarTree, ANameWithAQuestionMarkThatLeadsNowhereFallsAway) {
   const Tree tree(Year(2026, "<month1><day1>q</day1></month1>"),
                   "<dayTypes><day><id>q</id><name>a?b</name><color>1</color></day></dayTypes>");
   EXPECT_THAT(Listed(tree.Read()), ElementsAre("2026-1-1 a?b 1"));

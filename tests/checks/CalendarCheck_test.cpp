@@ -47,13 +47,25 @@ TEST(CalendarCheck, YearsThatAreReadAsOthersAreTold) {
                    .value = text,
                    .expected = year};
   };
-  EXPECT_THAT(Found("<year><year>soon</year></year><year><year>99999</year></year>"
-                    "<year><year>20x6</year></year><year/><year><year>-</year></year>"),
-              ElementsAre(wrong(L"soon", L"0"), wrong(L"99999", L"-31073"), wrong(L"20x6", L"20"),
-                          wrong(L"", L"0"), wrong(L"-", L"0")));
+  EXPECT_THAT(
+      Found("<year><year>soon</year></year><year><year>99999</year></year>"
+            "<year><year>20x6</year></year><year/><year><year>-</year></year>"
+            "<year><year>-32769</year></year><year><year> 5</year></year>"
+            "<year><year>1234567890123456789012345678901234567890</year></year>"),
+      ElementsAre(wrong(L"soon", L"0"), wrong(L"99999", L"-31073"), wrong(L"20x6", L"20"),
+                  wrong(L"", L"0"), wrong(L"-", L"0"), wrong(L"-32769", L"32767"),
+                  wrong(L" 5", L"5"), wrong(L"1234567890123456789012345678901234567890", L"-1")));
   EXPECT_THAT(Found("<year><year>0</year></year><year><year>-32768</year></year>"
                     "<year><year>32767</year></year>"),
               IsEmpty());
+}
+
+TEST(CalendarCheck, ALeapDayThatIsLostByNarrowingIsTold) {
+  const auto found = Found("<year><year>65636</year><month2><day29>d</day29></month2></year>");
+  ASSERT_EQ(found.size(), 2U);
+  EXPECT_EQ(
+      found[1],
+      (Finding{.kind = FindingKind::NoSuchDate, .place = L"calendar/100-02", .value = L"day29"}));
 }
 
 TEST(CalendarCheck, DatesThatAWalkLeavesOutAreCounted) {

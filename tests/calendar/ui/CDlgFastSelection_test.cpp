@@ -45,6 +45,7 @@ TEST_F(FastSelectionDialog, OpensWithNothingTickedAndTheFirstDayType) {
     EXPECT_EQ(Combo(fastDayType)->currentIndex(), 0);
     EXPECT_EQ(IconColour(0), QColor(Qt::red));
     EXPECT_EQ(IconColour(1), QColor(Qt::white));
+    EXPECT_EQ(IconColour(2), QColor(Qt::blue));
     for (const auto* checks : TopWindow()->findChildren<QCheckBox*>()) {
       EXPECT_FALSE(checks->isChecked());
       EXPECT_TRUE(checks->isEnabled());
@@ -166,6 +167,52 @@ TEST_F(FastSelectionDialog, AWrongRangeLeavesTheWholeYear) {
     for (const int check : monthChecks) {
       EXPECT_TRUE(TopControl(check)->isEnabled());
     }
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(FastSelectionDialog, OfOneMonthOnlyThatOneCanBeTickedByKeyboard) {
+  CDlgFastSelection dialog(nullptr, days.get(), 2026);
+  EXPECT_TRUE(dialog.SetMaxMinMonth(3, 3));
+  EXPECT_EQ(Play(dialog,
+                 [] {
+                   for (const int check : monthChecks) {
+                     QTest::keyClick(TopControl(check), Qt::Key_Space);
+                   }
+                   Press(weekDayChecks[4], Qt::Key_Space);
+                   Press(fastDayType, Qt::Key_Down);
+                   Press(weekDayChecks[4], Qt::Key_Return);
+                 }),
+            IDOK);
+  EXPECT_EQ(dialog.m_dwMonths, 0x4U);
+  EXPECT_EQ(dialog.m_dwWeekDays, 0x10U);
+  EXPECT_EQ(dialog.m_nDayType, 1);
+}
+
+TEST_F(FastSelectionDialog, ARunThatIsCancelledKeepsWhatTheOneBeforeGave) {
+  CDlgFastSelection dialog(nullptr, days.get(), 2026);
+  Play(dialog, [] {
+    Tick({weekDayChecks[0], monthChecks[0]});
+    Combo(fastDayType)->setCurrentIndex(1);
+    Click(IDOK);
+  });
+  EXPECT_TRUE(dialog.SetMaxMinMonth(2, 2));
+  Play(dialog, [] {
+    EXPECT_FALSE(TopControl(monthChecks[0])->isEnabled());
+    EXPECT_TRUE(TopControl(monthChecks[1])->isEnabled());
+    Tick({monthChecks[1]});
+    Click(IDCANCEL);
+  });
+  EXPECT_EQ(dialog.m_dwMonths, 1U);
+  EXPECT_EQ(dialog.m_dwWeekDays, 1U);
+  EXPECT_EQ(dialog.m_nDayType, 1);
+}
+
+TEST_F(FastSelectionDialog, OfANodeDayTypesAreReadWhenItRuns) {
+  CDlgFastSelection dialog(nullptr, days.get(), 2026);
+  days->NewChild(L"day", nullptr)->SetValue(L"name", L"late");
+  Play(dialog, [] {
+    EXPECT_EQ(Items(), QStringList({"zeta", "alpha", "late"}));
     Click(IDCANCEL);
   });
 }
