@@ -1,93 +1,222 @@
 #include "calendar/YearGeometry.h"
 
 #include <algorithm>
+#include <limits>
+
+#include "calendar/Weeks.h"
 
 namespace qv {
 namespace {
 
-constexpr int months = 12;
+constexpr int monthsOfYear = 12;
 constexpr int daysOfWeek = 7;
+constexpr int saturday = 5;
 constexpr int linesAboveWeeks = 2;  // the month's name and the weekdays
-constexpr int lines = linesAboveWeeks + 6;
+constexpr int weekLines = 6;
+constexpr int lines = linesAboveWeeks + weekLines;
 
-Extent CellFor(Extent size, int columns, int gap) {
-  const int rows = months / columns;
-  return {std::max(0, (size.cx - (columns - 1) * gap) / columns / daysOfWeek),
-          std::max(0, (size.cy - (rows - 1) * gap) / rows / lines)};
+/// In pixels of the layout: below this, numbers can't be read, and above it there is room to spare.
+constexpr Extent leastCell{18, 12};
+constexpr Extent roomyCell{21, 14};
+
+struct Gaps {
+  int months;
+  int weekend;
+};
+
+/// How well a number fits into a cell, which is half as broad again as it is high.
+int RoomFor(Extent cell) { return std::min(cell.cx * 2, cell.cy * 3); }
+
+Extent InDots(Extent pixels, Density density) {
+  return {density.Dots(pixels.cx), density.Dots(pixels.cy)};
 }
 
-/// How well a number fits into a cell, which is broader than it is high.
-int RoomFor(Extent cell) {
-  constexpr int breadth = 3;
-  constexpr int height = 4;
-  return std::min(cell.cx * height, cell.cy * breadth * 2);
+int Columns(bool hasWeeks) { return daysOfWeek + (hasWeeks ? 1 : 0); }
+
+/// The months with the largest cells, which stay in proportion to each other: a year that is drawn
+/// out of shape is hard to read.
+YearArrangement Fitted(Extent size, int columns, int rows, bool hasWeeks, Gaps gaps) {
+  const int width = (size.cx - (columns - 1) * gaps.months) / columns - gaps.weekend;
+  const int height = (size.cy - (rows - 1) * gaps.months) / rows;
+  const int cx = std::max(0, width / Columns(hasWeeks));
+  const int cy = std::max(0, height / lines);
+  return {columns, rows, hasWeeks, {std::min(cx, cy * 2), std::min(cy, cx)}};
+}
+
+YearArrangement WholeYear(Extent size, bool hasWeeks, Gaps gaps) {
+  YearArrangement best = Fitted(size, 1, monthsOfYear, hasWeeks, gaps);
+  for (const int columns : {2, 3, 4, 6, 12}) {
+    const auto other = Fitted(size, columns, monthsOfYear / columns, hasWeeks, gaps);
+    if (RoomFor(other.cell) > RoomFor(best.cell)) {
+      best = other;
+    }
+  }
+  return best;
+}
+
+/// So many months that their cells are no smaller than this; at least one.
+YearArrangement SomeMonths(Extent size, bool hasWeeks, Gaps gaps, Extent cell) {
+  const int width = Columns(hasWeeks) * cell.cx + gaps.weekend + gaps.months;
+  const int height = lines * cell.cy + gaps.months;
+  const int columns = std::max(1, (size.cx + gaps.months) / width);
+  const int rows = std::max(1, (size.cy + gaps.months) / height);
+  return Fitted(size, columns, rows, hasWeeks, gaps);
+}
+
+YearArrangement Arranged(Extent size, Density density, Gaps gaps) {
+  const int roomy = RoomFor(InDots(roomyCell, density));
+  const Extent least = InDots(leastCell, density);
+  for (const bool hasWeeks : {true, false}) {
+    const auto year = WholeYear(size, hasWeeks, gaps);
+    if (RoomFor(year.cell) >= (hasWeeks ? roomy : RoomFor(least))) {
+      return year;
+    }
+  }
+  return SomeMonths(size, false, gaps, least);
+}
+
+bool Holds(const Rect& area, Point place) {
+  return place.x >= area.left && place.x < area.right && place.y >= area.top &&
+         place.y < area.bottom;
+}
+
+/// How far a place lies beyond the edges of an area, which are left out.
+int Beyond(int place, int first, int end) {
+  return std::max({0, first - place, place - (end - 1)});
+}
+
+std::int64_t SquaredDistance(Point place, const Rect& area) {
+  const std::int64_t across = Beyond(place.x, area.left, area.right);
+  const std::int64_t down = Beyond(place.y, area.top, area.bottom);
+  return across * across + down * down;
+}
+
+int DaysIn(int year, int month) { return DaysOfMonth(ToDateTime({year, month, 1})); }
+
+/// The day of a month in a cell below its weekdays; it may be none of the month.
+int DayAt(int year, int month, int column, int line) {
+  return line * daysOfWeek + column - WeekdayOf({year, month, 1}) + 1;
 }
 
 }  // namespace
 
-YearGeometry::YearGeometry(Extent size, int year)
-    : m_year(year), m_gap(std::min(size.cx, size.cy) / 40) {
-  m_cell = CellFor(size, m_columns, m_gap);
-  for (const int columns : {2, 3, 4, 6, 12}) {
-    const Extent cell = CellFor(size, columns, m_gap);
-    if (RoomFor(cell) > RoomFor(m_cell)) {
-      m_columns = columns;
-      m_cell = cell;
-    }
-  }
+YearGeometry::YearGeometry(Extent size, int year, Density density, int firstMonth)
+    : m_year(year),
+      m_gap(std::max(density.Dots(6), std::min(size.cx, size.cy) / 40)),
+      m_weekendGap(std::max(density.Dots(2), size.cx / 400)),
+      m_arrangement(Arranged(size, density, {m_gap, m_weekendGap})),
+      m_months(std::min(monthsOfYear, m_arrangement.columns * m_arrangement.rows)),
+      m_firstMonth(std::clamp(firstMonth, 1, monthsOfYear - m_months + 1)) {
+  const Extent month = MonthSize();
+  m_corner = {(size.cx - m_arrangement.columns * (month.cx + m_gap) + m_gap) / 2,
+              (size.cy - m_arrangement.rows * (month.cy + m_gap) + m_gap) / 2};
+}
+
+Extent YearGeometry::MonthSize() const {
+  return {Columns(HasWeeks()) * CellWidth() + m_weekendGap, lines * CellHeight()};
 }
 
 Point YearGeometry::CornerOf(int month) const {
-  const int index = month - 1;
-  return {index % m_columns * (daysOfWeek * m_cell.cx + m_gap),
-          index / m_columns * (lines * m_cell.cy + m_gap)};
+  const Extent size = MonthSize();
+  const int index = month - m_firstMonth;
+  return {m_corner.x + index % m_arrangement.columns * (size.cx + m_gap),
+          m_corner.y + index / m_arrangement.columns * (size.cy + m_gap)};
 }
 
+/// Column -1 has the numbers of the weeks.
 Rect YearGeometry::CellAt(int month, int column, int line) const {
+  if (!Shows(month)) {
+    return {};
+  }
   const Point corner = CornerOf(month);
-  const int left = corner.x + column * m_cell.cx;
-  const int top = corner.y + line * m_cell.cy;
-  return {left, top, left + m_cell.cx, top + m_cell.cy};
+  const int before = (column + Columns(HasWeeks()) - daysOfWeek) * CellWidth();
+  const int left = corner.x + before + (column < saturday ? 0 : m_weekendGap);
+  const int top = corner.y + line * CellHeight();
+  return {left, top, left + CellWidth(), top + CellHeight()};
 }
 
 Rect YearGeometry::NameOf(int month) const {
   const Rect first = CellAt(month, 0, 0);
-  return {first.left, first.top, first.left + daysOfWeek * m_cell.cx, first.bottom};
+  return {first.left, first.top, CellAt(month, daysOfWeek - 1, 0).right, first.bottom};
 }
 
 Rect YearGeometry::HeadOf(int month, int weekday) const { return CellAt(month, weekday, 1); }
 
-int YearGeometry::CellsBefore(int month) const {
-  constexpr int mondayOfDayOfWeek = 2;
-  const int first = ToDateTime({m_year, month, 1}).DayOfWeek();
-  return (first - mondayOfDayOfWeek + daysOfWeek) % daysOfWeek;
-}
-
 Rect YearGeometry::CellOf(CalendarDate date) const {
-  const int cell = CellsBefore(date.month) + date.day - 1;
+  const int cell = WeekdayOf({m_year, date.month, 1}) + date.day - 1;
   return CellAt(date.month, cell % daysOfWeek, linesAboveWeeks + cell / daysOfWeek);
 }
 
-std::optional<int> YearGeometry::MonthAt(Point place) const {
-  const int column = place.x / (daysOfWeek * m_cell.cx + m_gap);
-  const int row = place.y / (lines * m_cell.cy + m_gap);
-  const int month = row * m_columns + column + 1;
-  return column < m_columns && month <= months ? std::optional(month) : std::nullopt;
+std::optional<Rect> YearGeometry::WeekOf(int month, int week) const {
+  for (int line = linesAboveWeeks; line < lines && HasWeeks(); ++line) {
+    if (PlaceIn(month, -1, line) == YearPlace(WeekNumber{month, week})) {
+      return CellAt(month, -1, line);
+    }
+  }
+  return std::nullopt;
 }
 
-std::optional<CalendarDate> YearGeometry::DateAt(Point place) const {
-  const bool hasCells = m_cell.cx > 0 && m_cell.cy > 0;
-  const auto month = hasCells && place.x >= 0 && place.y >= 0 ? MonthAt(place) : std::nullopt;
+/// What stands in a cell, if anything; column -1 has the numbers of the weeks.
+std::optional<YearPlace> YearGeometry::PlaceIn(int month, int column, int line) const {
+  if (line == 0) {
+    return column < 0 ? std::nullopt : std::optional(YearPlace(MonthName{month}));
+  }
+  if (line == 1) {
+    return column < 0 ? std::nullopt : std::optional(YearPlace(WeekdayHead{month, column}));
+  }
+  const int days = DaysIn(m_year, month);
+  const int day = DayAt(m_year, month, std::max(0, column), line - linesAboveWeeks);
+  if (column >= 0) {
+    return day >= 1 && day <= days ? std::optional(YearPlace(CalendarDate{m_year, month, day}))
+                                   : std::nullopt;
+  }
+  const CalendarDate first{m_year, month, std::max(1, day)};
+  return first.day <= days ? std::optional(YearPlace(WeekNumber{month, WeekNumberOf(first)}))
+                           : std::nullopt;
+}
+
+std::optional<int> YearGeometry::MonthAt(Point place) const {
+  const Extent size = MonthSize();
+  for (int month = m_firstMonth; month < m_firstMonth + m_months; ++month) {
+    const Point corner = CornerOf(month);
+    if (Holds({corner.x, corner.y, corner.x + size.cx, corner.y + size.cy}, place)) {
+      return month;
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<YearPlace> YearGeometry::PlaceAt(Point place) const {
+  const auto month = HasCells() ? MonthAt(place) : std::nullopt;
   if (!month) {
     return std::nullopt;
   }
-  const Point corner = CornerOf(*month);
-  const int column = (place.x - corner.x) / m_cell.cx;
-  const int week = (place.y - corner.y) / m_cell.cy - linesAboveWeeks;
-  const int day = week * daysOfWeek + column - CellsBefore(*month) + 1;
-  const CalendarDate date{m_year, *month, day};
-  const bool isInside = column < daysOfWeek && week >= 0 && ToDateTime(date).Valid();
-  return isInside ? std::optional(date) : std::nullopt;
+  if (Holds(NameOf(*month), place)) {
+    return MonthName{*month};
+  }
+  const int line = (place.y - CornerOf(*month).y) / CellHeight();
+  for (int column = HasWeeks() ? -1 : 0; column < daysOfWeek; ++column) {
+    if (Holds(CellAt(*month, column, line), place)) {
+      return PlaceIn(*month, column, line);
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<CalendarDate> YearGeometry::NearestDate(Point place) const {
+  std::optional<CalendarDate> nearest;
+  auto least = std::numeric_limits<std::int64_t>::max();
+  for (int month = m_firstMonth; month < m_firstMonth + m_months && HasCells(); ++month) {
+    for (int day = 1; day <= DaysIn(m_year, month); ++day) {
+      const CalendarDate date{m_year, month, day};
+      const auto distance = SquaredDistance(place, CellOf(date));
+      if (distance < least) {
+        least = distance;
+        nearest = date;
+      }
+    }
+  }
+  return nearest;
 }
 
 }  // namespace qv

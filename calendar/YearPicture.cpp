@@ -4,64 +4,292 @@
 #include <string>
 #include <string_view>
 
+#include "calendar/Contrast.h"
+#include "calendar/Weeks.h"
+
 namespace qv {
 namespace {
 
-/// The height of a text in a line of this height.
-int TextHeight(int line) { return std::min(line, std::max(line * 7 / 10, 8)); }
+constexpr int saturday = 5;
 
-/// The longest start of `text` that fits.
-std::wstring_view Cut(const Canvas& canvas, std::wstring_view text, int height, int width) {
-  while (!text.empty() && canvas.TextExtent(text, height).cx > width) {
-    text.remove_suffix(1);
+/// In hundredths of the way to another colour.
+constexpr unsigned faintness = 35;
+constexpr unsigned weekendTint = 12;
+
+/// What the dates of one brush have in common; without a brush, those on paper.
+struct Coat {
+  const Brush* brush = nullptr;
+  Colour ground = 0;
+  Colour ink = 0;
+  wchar_t sign = L'\0';
+  bool isLikePaper = false;
+};
+
+/// A colour between two: so many hundredths of the second one.
+Colour Mixed(Colour first, Colour second, unsigned hundredths) {
+  Colour mixed = 0;
+  for (const int shift : {0, 8, 16}) {
+    const Colour part =
+        (first >> shift & 0xFF) * (100 - hundredths) + (second >> shift & 0xFF) * hundredths;
+    mixed |= (part / 100) << shift;
   }
-  return text;
+  return mixed;
 }
 
-void PaintText(Canvas& canvas, const Rect& place, std::wstring_view text, Colour ink) {
-  const int height = TextHeight(place.Height());
-  const std::wstring_view shown = Cut(canvas, text, height, place.Width());
-  if (!shown.empty()) {
-    const Extent extent = canvas.TextExtent(shown, height);
-    canvas.Text({place.left + (place.Width() - extent.cx) / 2,
-                 place.top + (place.Height() - extent.cy) / 2},
-                shown, height, ink);
-  }
+wchar_t SignOf(const Brush& brush, const std::vector<LegendEntry>& legend) {
+  const auto entry = std::find_if(legend.begin(), legend.end(),
+                                  [&](const LegendEntry& each) { return each.brush == brush; });
+  return entry == legend.end() ? L'\0' : entry->sign;
 }
 
-void PaintDate(Canvas& canvas, const Rect& cell, int day, const Brush* brush,
-               const YearStyle& style) {
-  const Colour ground = brush ? brush->colour : style.paper;
-  canvas.Rectangle(cell, style.faintInk, ground);
-  PaintText(canvas, cell, std::to_wstring(day), brush ? InkOn(ground) : style.ink);
+bool Contains(const std::vector<CalendarDate>& sorted, CalendarDate date) {
+  return std::binary_search(sorted.begin(), sorted.end(), date);
 }
 
-void PaintMonth(Canvas& canvas, const YearGeometry& year, int month, const CalendarMarks& marks,
-                const YearStyle& style) {
-  PaintText(canvas, year.NameOf(month),
-            style.monthNames[static_cast<std::size_t>(month - 1)].ToView(), style.ink);
-  for (int weekday = 0; weekday < 7; ++weekday) {
-    PaintText(canvas, year.HeadOf(month, weekday),
-              style.weekdayNames[static_cast<std::size_t>(weekday)].ToView(), style.faintInk);
-  }
-  const int days = DaysOfMonth(ToDateTime({year.Year(), month, 1}));
-  for (int day = 1; day <= days; ++day) {
-    const CalendarDate date{year.Year(), month, day};
-    Rect cell = year.CellOf(date);
-    // Cells share their lines.
-    ++cell.right;
-    ++cell.bottom;
-    PaintDate(canvas, cell, day, marks.BrushOf(date), style);
-  }
+Rect Inset(const Rect& area, int dots) {
+  return {area.left + dots, area.top + dots, area.right - dots, area.bottom - dots};
 }
+
+/// What colours dates have; each brush is looked at once, since contrasts take time.
+class Wardrobe {
+ public:
+  explicit Wardrobe(const YearLook& look) : m_look(look) {
+    const YearStyle& style = look.style;
+    const Colour weekend = Mixed(style.paper, style.ink, weekendTint);
+    m_onPaper = {nullptr, style.paper, style.ink, L'\0', false};
+    m_onWeekend = {nullptr, weekend, LegibleInkOn(weekend), L'\0', false};
+  }
+
+  const Coat& Of(CalendarDate date, bool isWeekend) {
+    const Brush* brush = BrushOf(date);
+    return brush ? OfBrush(*brush) : isWeekend ? m_onWeekend : m_onPaper;
+  }
+
+ private:
+  const Brush* BrushOf(CalendarDate date) const {
+    if (!Contains(m_look.preview, date)) {
+      return m_look.marks.BrushOf(date);
+    }
+    return m_look.previewBrush.IsEraser() ? nullptr : &m_look.previewBrush;
+  }
+
+  const Coat& OfBrush(const Brush& brush) {
+    const auto known = std::find_if(m_coats.begin(), m_coats.end(),
+                                    [&](const Coat& coat) { return coat.brush == &brush; });
+    if (known != m_coats.end()) {
+      return *known;
+    }
+    const bool isLikePaper =
+        LookAlike(brush.colour, m_onPaper.ground) || LookAlike(brush.colour, m_onWeekend.ground);
+    m_coats.push_back({&brush, brush.colour, LegibleInkOn(brush.colour),
+                       SignOf(brush, m_look.legend), isLikePaper});
+    return m_coats.back();
+  }
+
+  const YearLook& m_look;
+  Coat m_onPaper;
+  Coat m_onWeekend;
+  std::vector<Coat> m_coats;
+};
+
+/// A date as it is to be painted.
+struct Tile {
+  CalendarDate date;
+  Rect cell;
+  Coat coat;
+};
+
+/// Paints parts of the year. Texts of one height follow each other, since a canvas is slow to
+/// change its face.
+class YearPainter {
+ public:
+  YearPainter(Canvas& canvas, const YearGeometry& year, const YearLook& look)
+      : m_canvas(canvas),
+        m_year(year),
+        m_look(look),
+        m_style(look.style),
+        m_line(look.style.density.LineBreadth()),
+        m_faintInk(Mixed(look.style.ink, look.style.ground, faintness)) {
+    const int least = std::min(year.CellHeight(), look.style.density.Dots(11));
+    m_numberHeight =
+        std::max(least, std::min(year.CellHeight(), year.CellWidth() * 2 / 3) * 6 / 10);
+    m_smallHeight = std::max(std::min(least, look.style.density.Dots(9)), m_numberHeight * 3 / 4);
+  }
+
+  void PaintNames() {
+    const int height = std::max(m_numberHeight, m_year.CellHeight() * 7 / 10);
+    ForEachMonth([&](int month) {
+      const auto& name = m_style.monthNames[static_cast<std::size_t>(month - 1)];
+      Centre(m_year.NameOf(month), name.ToView(), height, m_style.ink);
+    });
+  }
+
+  void PaintHeads() {
+    for (int weekday = 0; weekday < 7; ++weekday) {
+      const auto& name = m_style.weekdayNames[static_cast<std::size_t>(weekday)];
+      ForEachMonth([&](int month) {
+        Centre(m_year.HeadOf(month, weekday), name.ToView(), m_smallHeight, m_faintInk);
+      });
+    }
+  }
+
+  void PaintWeeks() {
+    ForEachMonth([&](int month) {
+      for (const CalendarDate monday : FirstDatesOfWeeks(month)) {
+        const int week = WeekNumberOf(monday);
+        if (const auto cell = m_year.WeekOf(month, week)) {
+          Centre(*cell, std::to_wstring(week), m_smallHeight, m_faintInk);
+        }
+      }
+    });
+  }
+
+  void Paint(const std::vector<CalendarDate>& dates) {
+    const std::vector<Tile> tiles = TilesOf(dates);
+    for (const Tile& tile : tiles) {
+      PaintGround(tile);
+    }
+    MeasureNumbers();
+    for (const Tile& tile : tiles) {
+      PaintNumber(tile);
+    }
+    for (const Tile& tile : tiles) {
+      PaintSign(tile);
+    }
+  }
+
+  std::vector<CalendarDate> DatesOnShow() const {
+    std::vector<CalendarDate> dates;
+    ForEachMonth([&](int month) {
+      for (int day = 1; day <= DaysIn(month); ++day) {
+        dates.push_back({m_year.Year(), month, day});
+      }
+    });
+    return dates;
+  }
+
+ private:
+  template <class Visit>
+  void ForEachMonth(Visit visit) const {
+    for (int i = 0; i < m_year.MonthsShown(); ++i) {
+      visit(m_year.FirstMonth() + i);
+    }
+  }
+
+  int DaysIn(int month) const { return DaysOfMonth(ToDateTime({m_year.Year(), month, 1})); }
+
+  /// The 1st and the Mondays behind it.
+  std::vector<CalendarDate> FirstDatesOfWeeks(int month) const {
+    std::vector<CalendarDate> dates{{m_year.Year(), month, 1}};
+    for (int day = 8 - WeekdayOf(dates.front()); day <= DaysIn(month); day += 7) {
+      dates.push_back({m_year.Year(), month, day});
+    }
+    return dates;
+  }
+
+  std::vector<Tile> TilesOf(const std::vector<CalendarDate>& dates) const {
+    Wardrobe wardrobe(m_look);
+    std::vector<Tile> tiles;
+    tiles.reserve(dates.size());
+    for (const CalendarDate date : dates) {
+      tiles.push_back({date, m_year.CellOf(date), wardrobe.Of(date, WeekdayOf(date) >= saturday)});
+    }
+    return tiles;
+  }
+
+  void PaintGround(const Tile& tile) {
+    Rect area{tile.cell.left, tile.cell.top, tile.cell.right - m_line, tile.cell.bottom - m_line};
+    if (tile.date == m_look.focused) {
+      m_canvas.Fill(tile.cell, m_style.ink);
+      m_canvas.Fill(Inset(tile.cell, m_line), m_style.paper);
+      area = Inset(tile.cell, 2 * m_line);
+    } else if (Contains(m_look.selected, tile.date) || Contains(m_look.preview, tile.date)) {
+      m_canvas.Fill(tile.cell, m_style.highlight);
+      area = Inset(tile.cell, m_line);
+    }
+    if (tile.coat.isLikePaper) {
+      m_canvas.Fill(area, m_faintInk);
+      area = Inset(area, m_line);
+    }
+    m_canvas.Fill(area, tile.coat.ground);
+  }
+
+  void MeasureNumbers() {
+    for (std::size_t day = 1; day < m_numbers.size(); ++day) {
+      m_numbers[day] = std::to_wstring(day);
+      m_numberWidths[day] = m_canvas.TextExtent(m_numbers[day], m_numberHeight).cx;
+    }
+  }
+
+  int SignWidth(const Tile& tile) const { return tile.coat.sign ? m_smallHeight * 2 / 3 : 0; }
+
+  /// Today's number is the other way round: the ground's colour on a plate of ink.
+  void PaintNumber(const Tile& tile) {
+    const auto day = static_cast<std::size_t>(tile.date.day);
+    const int room = tile.cell.Width() - m_line - SignWidth(tile);
+    const Point at{tile.cell.left + std::max(0, room - m_numberWidths[day]) / 2,
+                   tile.cell.top + (tile.cell.Height() - m_line - m_numberHeight) / 2};
+    const bool isToday = tile.date == m_look.today;
+    if (isToday) {
+      m_canvas.Fill(
+          {at.x - m_line, at.y, at.x + m_numberWidths[day] + m_line, at.y + m_numberHeight},
+          tile.coat.ink);
+    }
+    m_canvas.Text(at, m_numbers[day], m_numberHeight, isToday ? tile.coat.ground : tile.coat.ink);
+  }
+
+  void PaintSign(const Tile& tile) {
+    if (tile.coat.sign) {
+      m_canvas.Text(
+          {tile.cell.right - m_line - SignWidth(tile), tile.cell.bottom - m_line - m_smallHeight},
+          {&tile.coat.sign, 1}, m_smallHeight, tile.coat.ink);
+    }
+  }
+
+  void Centre(const Rect& place, std::wstring_view text, int height, Colour ink) {
+    while (!text.empty() && m_canvas.TextExtent(text, height).cx > place.Width()) {
+      text.remove_suffix(1);
+    }
+    if (!text.empty()) {
+      const int width = m_canvas.TextExtent(text, height).cx;
+      m_canvas.Text(
+          {place.left + (place.Width() - width) / 2, place.top + (place.Height() - height) / 2},
+          text, height, ink);
+    }
+  }
+
+  Canvas& m_canvas;
+  const YearGeometry& m_year;
+  const YearLook& m_look;
+  const YearStyle& m_style;
+  int m_line;  // breadth
+  Colour m_faintInk;
+  int m_numberHeight;
+  int m_smallHeight;
+  std::array<std::wstring, 32> m_numbers;
+  std::array<int, 32> m_numberWidths{};
+};
 
 }  // namespace
 
-void PaintYear(Canvas& canvas, const YearGeometry& year, const CalendarMarks& marks,
-               const YearStyle& style) {
-  for (int month = 1; month <= 12; ++month) {
-    PaintMonth(canvas, year, month, marks, style);
+void PaintYear(Canvas& canvas, const YearGeometry& year, const YearLook& look) {
+  YearPainter painter(canvas, year, look);
+  painter.PaintNames();
+  painter.PaintHeads();
+  painter.PaintWeeks();
+  painter.Paint(painter.DatesOnShow());
+}
+
+void PaintDates(Canvas& canvas, const YearGeometry& year, const YearLook& look,
+                std::span<const CalendarDate> dates) {
+  std::vector<CalendarDate> shown;
+  for (const CalendarDate date : dates) {
+    if (date.year == year.Year() && year.Shows(date.month)) {
+      shown.push_back(date);
+      canvas.Fill(year.CellOf(date), look.style.ground);
+    }
   }
+  YearPainter(canvas, year, look).Paint(shown);
 }
 
 }  // namespace qv

@@ -2,19 +2,11 @@
 
 #include <QMouseEvent>
 
+#include "toolkit/BoxGround.h"
 #include "toolkit/OffScreen.h"
 #include "toolkit/PaintBox.h"
 
 namespace qv {
-namespace {
-
-/// In dots of the screen. The last cells' lines stand beside them.
-YearGeometry GeometryFor(Extent surface, int year) {
-  return {{surface.cx - 1, surface.cy - 1}, year};
-}
-
-}  // namespace
-
 YearView::YearView(QWidget* parent, CalendarMarks& marks) : QWidget(parent), m_marks(marks) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
@@ -36,24 +28,29 @@ void YearView::SetWeekdayName(std::size_t index, const QVWideString& name) {
 
 YearStyle YearView::PaletteStyle() const {
   YearStyle style = m_style;
+  style.ground = FromQColor(GroundOf(*this));
   style.paper = FromQColor(palette().color(QPalette::Base));
   style.ink = FromQColor(palette().color(QPalette::WindowText));
-  style.faintInk = FromQColor(palette().color(QPalette::Disabled, QPalette::WindowText));
+  style.highlight = FromQColor(palette().color(QPalette::Highlight));
   return style;
 }
 
 void YearView::paintEvent(QPaintEvent*) {
   PaintOffScreen(*this, [this](const OffScreenSurface& surface) {
-    PaintYear(surface.canvas, GeometryFor(surface.size, m_year), m_marks, PaletteStyle());
+    YearLook look{.marks = m_marks, .style = PaletteStyle()};
+    look.style.density = surface.density;
+    PaintYear(surface.canvas, {surface.size, m_year, surface.density}, look);
   });
 }
 
 std::optional<CalendarDate> YearView::DateAt(const QPointF& place) const {
   const Density density{devicePixelRatioF()};
   const Extent surface{density.Dots(width()), density.Dots(height())};
-  return GeometryFor(surface, m_year)
-      .DateAt({static_cast<int>(place.x() * density.dotsPerPixel),
-               static_cast<int>(place.y() * density.dotsPerPixel)});
+  const auto found = YearGeometry(surface, m_year, density)
+                         .PlaceAt({static_cast<int>(place.x() * density.dotsPerPixel),
+                                   static_cast<int>(place.y() * density.dotsPerPixel)});
+  const auto* date = found ? std::get_if<CalendarDate>(&*found) : nullptr;
+  return date ? std::optional(*date) : std::nullopt;
 }
 
 void YearView::mousePressEvent(QMouseEvent* event) {

@@ -26,7 +26,7 @@ class CalendarDialog : public DialogTest {
   /// Clicks a date of the year on show.
   static void ClickDate(int month, int day) {
     auto* view = Control()->findChild<YearView*>();
-    const YearGeometry geometry({view->width() - 1, view->height() - 1}, Control()->GetYear());
+    const YearGeometry geometry({view->width(), view->height()}, Control()->GetYear(), {1});
     const Rect cell = geometry.CellOf({Control()->GetYear(), month, day});
     QTest::mouseClick(view, Qt::LeftButton, {},
                       {cell.left + cell.Width() / 2, cell.top + cell.Height() / 2});

@@ -100,9 +100,9 @@ class ShownCalendar : public CalendarControl {
 
   QPoint PlaceOf(CalendarDate date) const {
     const double density = View()->devicePixelRatioF();
-    const YearGeometry geometry({static_cast<int>(View()->width() * density) - 1,
-                                 static_cast<int>(View()->height() * density) - 1},
-                                date.year);
+    const YearGeometry geometry(
+        {static_cast<int>(View()->width() * density), static_cast<int>(View()->height() * density)},
+        date.year, {density});
     const Rect cell = geometry.CellOf(date);
     return QPoint(cell.left + cell.Width() / 2, cell.top + cell.Height() / 2) / density;
   }
