@@ -88,7 +88,7 @@ Colour LegibleInkOn(Colour ground) {
 }
 
 bool LookAlike(Colour first, Colour second) {
-  constexpr double leastDistance = 20;
+  constexpr double leastDistance = 15;
   return std::any_of(sights.begin(), sights.end(), [first, second](const Matrix& sight) {
     return Distance(SeenWith(sight, first), SeenWith(sight, second)) < leastDistance;
   });

@@ -13,7 +13,7 @@ Colour LegibleInkOn(Colour ground);
 
 /// Whether two colours are hard to tell apart with common sight or with one of the three kinds of
 /// colour blindness. The measure is their distance in CIE Lab (CIE76, white of D65), which has to
-/// be at least 20 for each kind of sight; blindness is simulated by the matrices of Machado,
+/// be at least 15 for each kind of sight; blindness is simulated by the matrices of Machado,
 /// Oliveira and Fernandes (2009) for full severity, on linear light.
 bool LookAlike(Colour first, Colour second);
 

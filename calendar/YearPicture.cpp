@@ -4,43 +4,15 @@
 #include <string>
 #include <string_view>
 
-#include "calendar/Contrast.h"
+#include "calendar/DateCoats.h"
+#include "calendar/Mixed.h"
 #include "calendar/Weeks.h"
 
 namespace qv {
 namespace {
 
-constexpr int saturday = 5;
-
-/// In hundredths of the way to another colour.
+/// In hundredths of the way to the ground.
 constexpr unsigned faintness = 35;
-constexpr unsigned weekendTint = 12;
-
-/// What the dates of one brush have in common; without a brush, those on paper.
-struct Coat {
-  const Brush* brush = nullptr;
-  Colour ground = 0;
-  Colour ink = 0;
-  wchar_t sign = L'\0';
-  bool isLikePaper = false;
-};
-
-/// A colour between two: so many hundredths of the second one.
-Colour Mixed(Colour first, Colour second, unsigned hundredths) {
-  Colour mixed = 0;
-  for (const int shift : {0, 8, 16}) {
-    const Colour part =
-        (first >> shift & 0xFF) * (100 - hundredths) + (second >> shift & 0xFF) * hundredths;
-    mixed |= (part / 100) << shift;
-  }
-  return mixed;
-}
-
-wchar_t SignOf(const Brush& brush, const std::vector<LegendEntry>& legend) {
-  const auto entry = std::find_if(legend.begin(), legend.end(),
-                                  [&](const LegendEntry& each) { return each.brush == brush; });
-  return entry == legend.end() ? L'\0' : entry->sign;
-}
 
 bool Contains(const std::vector<CalendarDate>& sorted, CalendarDate date) {
   return std::binary_search(sorted.begin(), sorted.end(), date);
@@ -50,53 +22,11 @@ Rect Inset(const Rect& area, int dots) {
   return {area.left + dots, area.top + dots, area.right - dots, area.bottom - dots};
 }
 
-/// What colours dates have; each brush is looked at once, since contrasts take time.
-class Wardrobe {
- public:
-  explicit Wardrobe(const YearLook& look) : m_look(look) {
-    const YearStyle& style = look.style;
-    const Colour weekend = Mixed(style.paper, style.ink, weekendTint);
-    m_onPaper = {nullptr, style.paper, style.ink, L'\0', false};
-    m_onWeekend = {nullptr, weekend, LegibleInkOn(weekend), L'\0', false};
-  }
-
-  const Coat& Of(CalendarDate date, bool isWeekend) {
-    const Brush* brush = BrushOf(date);
-    return brush ? OfBrush(*brush) : isWeekend ? m_onWeekend : m_onPaper;
-  }
-
- private:
-  const Brush* BrushOf(CalendarDate date) const {
-    if (!Contains(m_look.preview, date)) {
-      return m_look.marks.BrushOf(date);
-    }
-    return m_look.previewBrush.IsEraser() ? nullptr : &m_look.previewBrush;
-  }
-
-  const Coat& OfBrush(const Brush& brush) {
-    const auto known = std::find_if(m_coats.begin(), m_coats.end(),
-                                    [&](const Coat& coat) { return coat.brush == &brush; });
-    if (known != m_coats.end()) {
-      return *known;
-    }
-    const bool isLikePaper =
-        LookAlike(brush.colour, m_onPaper.ground) || LookAlike(brush.colour, m_onWeekend.ground);
-    m_coats.push_back({&brush, brush.colour, LegibleInkOn(brush.colour),
-                       SignOf(brush, m_look.legend), isLikePaper});
-    return m_coats.back();
-  }
-
-  const YearLook& m_look;
-  Coat m_onPaper;
-  Coat m_onWeekend;
-  std::vector<Coat> m_coats;
-};
-
 /// A date as it is to be painted.
 struct Tile {
   CalendarDate date;
   Rect cell;
-  Coat coat;
+  DateCoat coat;
 };
 
 /// Paints parts of the year. Texts of one height follow each other, since a canvas is slow to
@@ -109,15 +39,18 @@ class YearPainter {
         m_look(look),
         m_style(look.style),
         m_line(look.style.density.LineBreadth()),
+        m_ring(std::max(m_line, year.CellHeight() / 20)),
         m_faintInk(Mixed(look.style.ink, look.style.ground, faintness)) {
     const int least = std::min(year.CellHeight(), look.style.density.Dots(11));
     m_numberHeight =
-        std::max(least, std::min(year.CellHeight(), year.CellWidth() * 2 / 3) * 6 / 10);
-    m_smallHeight = std::max(std::min(least, look.style.density.Dots(9)), m_numberHeight * 3 / 4);
+        std::max(least, std::min(year.CellHeight(), year.CellWidth() * 2 / 3) * 7 / 10);
+    const int leastSmall = std::min(least, look.style.density.Dots(10));
+    m_smallHeight = std::max(leastSmall, m_numberHeight * 5 / 6);
+    m_signHeight = std::max(leastSmall, m_numberHeight * 3 / 5);
   }
 
   void PaintNames() {
-    const int height = std::max(m_numberHeight, m_year.CellHeight() * 7 / 10);
+    const int height = std::max(m_numberHeight, m_year.CellHeight() * 8 / 10);
     ForEachMonth([&](int month) {
       const auto& name = m_style.monthNames[static_cast<std::size_t>(month - 1)];
       Centre(m_year.NameOf(month), name.ToView(), height, m_style.ink);
@@ -188,11 +121,11 @@ class YearPainter {
   }
 
   std::vector<Tile> TilesOf(const std::vector<CalendarDate>& dates) const {
-    Wardrobe wardrobe(m_look);
+    DateCoats coats(m_look);
     std::vector<Tile> tiles;
     tiles.reserve(dates.size());
     for (const CalendarDate date : dates) {
-      tiles.push_back({date, m_year.CellOf(date), wardrobe.Of(date, WeekdayOf(date) >= saturday)});
+      tiles.push_back({date, m_year.CellOf(date), coats.Of(date)});
     }
     return tiles;
   }
@@ -201,14 +134,14 @@ class YearPainter {
     Rect area{tile.cell.left, tile.cell.top, tile.cell.right - m_line, tile.cell.bottom - m_line};
     if (tile.date == m_look.focused) {
       m_canvas.Fill(tile.cell, m_style.ink);
-      m_canvas.Fill(Inset(tile.cell, m_line), m_style.paper);
-      area = Inset(tile.cell, 2 * m_line);
+      m_canvas.Fill(Inset(tile.cell, m_ring), m_style.paper);
+      area = Inset(tile.cell, 2 * m_ring);
     } else if (Contains(m_look.selected, tile.date) || Contains(m_look.preview, tile.date)) {
-      m_canvas.Fill(tile.cell, m_style.highlight);
-      area = Inset(tile.cell, m_line);
+      m_canvas.Fill(tile.cell, tile.coat.ring);
+      area = Inset(tile.cell, std::max(m_line, tile.cell.Height() / 10));
     }
-    if (tile.coat.isLikePaper) {
-      m_canvas.Fill(area, m_faintInk);
+    if (tile.coat.frame) {
+      m_canvas.Fill(area, *tile.coat.frame);
       area = Inset(area, m_line);
     }
     m_canvas.Fill(area, tile.coat.ground);
@@ -221,7 +154,7 @@ class YearPainter {
     }
   }
 
-  int SignWidth(const Tile& tile) const { return tile.coat.sign ? m_smallHeight * 2 / 3 : 0; }
+  int SignWidth(const Tile& tile) const { return tile.coat.sign ? m_signHeight * 2 / 3 : 0; }
 
   /// Today's number is the other way round: the ground's colour on a plate of ink.
   void PaintNumber(const Tile& tile) {
@@ -241,8 +174,8 @@ class YearPainter {
   void PaintSign(const Tile& tile) {
     if (tile.coat.sign) {
       m_canvas.Text(
-          {tile.cell.right - m_line - SignWidth(tile), tile.cell.bottom - m_line - m_smallHeight},
-          {&tile.coat.sign, 1}, m_smallHeight, tile.coat.ink);
+          {tile.cell.right - m_line - SignWidth(tile), tile.cell.bottom - m_line - m_signHeight},
+          {&tile.coat.sign, 1}, m_signHeight, tile.coat.ink);
     }
   }
 
@@ -262,10 +195,12 @@ class YearPainter {
   const YearGeometry& m_year;
   const YearLook& m_look;
   const YearStyle& m_style;
-  int m_line;  // breadth
+  int m_line;  // breadth, also of the gap between dates
+  int m_ring;  // breadth, around the focused date
   Colour m_faintInk;
   int m_numberHeight;
-  int m_smallHeight;
+  int m_smallHeight;  // of weekdays and weeks
+  int m_signHeight;
   std::array<std::wstring, 32> m_numbers;
   std::array<int, 32> m_numberWidths{};
 };
