@@ -107,7 +107,6 @@ void PainterCanvas::Line(Point from, Point to, Colour pen) {
 void PainterCanvas::Text(Point at, std::wstring_view text, int height, Colour colour) {
   const Face& face = FaceOf(height);
   const int baseline = (height - HeightOf(face.metrics)) / 2 + face.metrics.ascent();
-  m_painter.setFont(face.font);
   m_painter.setPen(ToQColor(colour));
   m_painter.drawText(QPoint(at.x, at.y + baseline), ToQString(text));
 }
@@ -120,6 +119,7 @@ const PainterCanvas::Face& PainterCanvas::FaceOf(int height) const {
   if (!m_face || m_face->height != height) {
     const QFont font = FontOfHeight(height);
     m_face = Face{height, font, QFontMetrics(font)};
+    m_painter.setFont(font);
   }
   return *m_face;
 }

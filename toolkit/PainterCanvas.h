@@ -39,7 +39,8 @@ class PainterCanvas : public Canvas {
 
   QPainter& m_painter;
   int m_lineBreadth;
-  /// The one that was used last, since texts of one height follow each other.
+  /// The one that was used last, since texts of one height follow each other. The painter has its
+  /// font: to set one takes a painter longer than a short text.
   mutable std::optional<Face> m_face;
 };
 

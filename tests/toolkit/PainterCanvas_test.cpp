@@ -190,6 +190,21 @@ TEST(PainterCanvas, ALabelsFontIsExactlyItsHeight) {
   EXPECT_EQ(metrics.ascent() + metrics.descent(), 14);
 }
 
+TEST(PainterCanvas, ATextHasItsHeightWhateverWasMeasuredOrDrawnBefore) {
+  const auto draw = [](Canvas& canvas) { canvas.Text({2, 5}, L"8", 12, black); };
+  EXPECT_EQ(Painted([&](Canvas& canvas) {
+              canvas.TextExtent(L"8", 12);
+              canvas.TextExtent(L"8", 30);
+              draw(canvas);
+            }),
+            Painted(draw));
+  EXPECT_EQ(Painted([&](Canvas& canvas) {
+              canvas.Text({2, 5}, L"8", 30, 0xFFFFFF);
+              draw(canvas);
+            }),
+            Painted(draw));
+}
+
 TEST(PainterCanvas, LeavesThePainterAsItWas) {
   QImage image(side, side, QImage::Format_RGB32);
   QPainter painter(&image);
