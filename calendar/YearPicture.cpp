@@ -22,6 +22,12 @@ Rect Inset(const Rect& area, int dots) {
   return {area.left + dots, area.top + dots, area.right - dots, area.bottom - dots};
 }
 
+/// A text with the width that it takes. To measure one takes as long as to draw it.
+struct Label {
+  std::wstring text;
+  int width = 0;
+};
+
 /// A date as it is to be painted.
 struct Tile {
   CalendarDate date;
@@ -52,27 +58,32 @@ class YearPainter {
   void PaintNames() {
     const int height = std::max(m_numberHeight, m_year.CellHeight() * 8 / 10);
     ForEachMonth([&](int month) {
+      const Rect place = m_year.NameOf(month);
       const auto& name = m_style.monthNames[static_cast<std::size_t>(month - 1)];
-      Centre(m_year.NameOf(month), name.ToView(), height, m_style.ink);
+      Centre(place, Fitted(name.ToView(), height, place.Width()), height, m_style.ink);
     });
   }
 
   void PaintHeads() {
     for (int weekday = 0; weekday < 7; ++weekday) {
       const auto& name = m_style.weekdayNames[static_cast<std::size_t>(weekday)];
+      const Label label = Fitted(name.ToView(), m_smallHeight, m_year.CellWidth());
       ForEachMonth([&](int month) {
-        Centre(m_year.HeadOf(month, weekday), name.ToView(), m_smallHeight, m_faintInk);
+        Centre(m_year.HeadOf(month, weekday), label, m_smallHeight, m_faintInk);
       });
     }
   }
 
   void PaintWeeks() {
+    if (!m_year.HasWeeks()) {
+      return;
+    }
+    const std::vector<Label> numbers = NumbersTo(53, m_smallHeight);
     ForEachMonth([&](int month) {
-      for (const CalendarDate monday : FirstDatesOfWeeks(month)) {
-        const int week = WeekNumberOf(monday);
-        if (const auto cell = m_year.WeekOf(month, week)) {
-          Centre(*cell, std::to_wstring(week), m_smallHeight, m_faintInk);
-        }
+      for (const CalendarDate first : FirstDatesOfWeeks(month)) {
+        const int week = WeekNumberOf(first);
+        Centre(m_year.WeekOf(month, week).value_or(Rect()), numbers[static_cast<std::size_t>(week)],
+               m_smallHeight, m_faintInk);
       }
     });
   }
@@ -82,9 +93,9 @@ class YearPainter {
     for (const Tile& tile : tiles) {
       PaintGround(tile);
     }
-    MeasureNumbers();
+    const std::vector<Label> numbers = NumbersTo(31, m_numberHeight);
     for (const Tile& tile : tiles) {
-      PaintNumber(tile);
+      PaintNumber(tile, numbers[static_cast<std::size_t>(tile.date.day)]);
     }
     for (const Tile& tile : tiles) {
       PaintSign(tile);
@@ -147,28 +158,28 @@ class YearPainter {
     m_canvas.Fill(area, tile.coat.ground);
   }
 
-  void MeasureNumbers() {
-    for (std::size_t day = 1; day < m_numbers.size(); ++day) {
-      m_numbers[day] = std::to_wstring(day);
-      m_numberWidths[day] = m_canvas.TextExtent(m_numbers[day], m_numberHeight).cx;
+  std::vector<Label> NumbersTo(int last, int height) const {
+    std::vector<Label> numbers(1);
+    for (int number = 1; number <= last; ++number) {
+      const std::wstring text = std::to_wstring(number);
+      numbers.push_back({text, m_canvas.TextExtent(text, height).cx});
     }
+    return numbers;
   }
 
   int SignWidth(const Tile& tile) const { return tile.coat.sign ? m_signHeight * 2 / 3 : 0; }
 
   /// Today's number is the other way round: the ground's colour on a plate of ink.
-  void PaintNumber(const Tile& tile) {
-    const auto day = static_cast<std::size_t>(tile.date.day);
+  void PaintNumber(const Tile& tile, const Label& number) {
     const int room = tile.cell.Width() - m_line - SignWidth(tile);
-    const Point at{tile.cell.left + std::max(0, room - m_numberWidths[day]) / 2,
+    const Point at{tile.cell.left + std::max(0, room - number.width) / 2,
                    tile.cell.top + (tile.cell.Height() - m_line - m_numberHeight) / 2};
     const bool isToday = tile.date == m_look.today;
     if (isToday) {
-      m_canvas.Fill(
-          {at.x - m_line, at.y, at.x + m_numberWidths[day] + m_line, at.y + m_numberHeight},
-          tile.coat.ink);
+      m_canvas.Fill({at.x - m_line, at.y, at.x + number.width + m_line, at.y + m_numberHeight},
+                    tile.coat.ink);
     }
-    m_canvas.Text(at, m_numbers[day], m_numberHeight, isToday ? tile.coat.ground : tile.coat.ink);
+    m_canvas.Text(at, number.text, m_numberHeight, isToday ? tile.coat.ground : tile.coat.ink);
   }
 
   void PaintSign(const Tile& tile) {
@@ -179,15 +190,21 @@ class YearPainter {
     }
   }
 
-  void Centre(const Rect& place, std::wstring_view text, int height, Colour ink) {
-    while (!text.empty() && m_canvas.TextExtent(text, height).cx > place.Width()) {
+  /// The longest start of a text that fits.
+  Label Fitted(std::wstring_view text, int height, int room) const {
+    int width = m_canvas.TextExtent(text, height).cx;
+    while (!text.empty() && width > room) {
       text.remove_suffix(1);
+      width = m_canvas.TextExtent(text, height).cx;
     }
-    if (!text.empty()) {
-      const int width = m_canvas.TextExtent(text, height).cx;
-      m_canvas.Text(
-          {place.left + (place.Width() - width) / 2, place.top + (place.Height() - height) / 2},
-          text, height, ink);
+    return {std::wstring(text), width};
+  }
+
+  void Centre(const Rect& place, const Label& label, int height, Colour ink) {
+    if (!label.text.empty()) {
+      m_canvas.Text({place.left + (place.Width() - label.width) / 2,
+                     place.top + (place.Height() - height) / 2},
+                    label.text, height, ink);
     }
   }
 
@@ -201,8 +218,6 @@ class YearPainter {
   int m_numberHeight;
   int m_smallHeight;  // of weekdays and weeks
   int m_signHeight;
-  std::array<std::wstring, 32> m_numbers;
-  std::array<int, 32> m_numberWidths{};
 };
 
 }  // namespace
