@@ -62,7 +62,12 @@ DateCoat DateCoats::Plain(Colour ground, Colour ink) const {
 }
 
 Colour DateCoats::RingOn(Colour ground, Colour ink) const {
-  return LookAlike(m_look.style.highlight, ground) ? ink : m_look.style.highlight;
+  for (const Colour ring : {m_look.style.highlight, m_look.style.ink}) {
+    if (!LookAlike(ring, ground)) {
+      return ring;
+    }
+  }
+  return ink;
 }
 
 bool DateCoats::IsLikePaper(Colour colour) const {

@@ -45,14 +45,15 @@ class YearPainter {
         m_look(look),
         m_style(look.style),
         m_line(look.style.density.LineBreadth()),
-        m_ring(std::max(m_line, year.CellHeight() / 20)),
+        m_ring(std::max(m_line, year.CellHeight() / 10)),
+        m_focusRing(std::max(m_line, year.CellHeight() / 20)),
         m_faintInk(Mixed(look.style.ink, look.style.ground, faintness)) {
     const int least = std::min(year.CellHeight(), look.style.density.Dots(11));
     m_numberHeight =
         std::max(least, std::min(year.CellHeight(), year.CellWidth() * 2 / 3) * 7 / 10);
     const int leastSmall = std::min(least, look.style.density.Dots(10));
     m_smallHeight = std::max(leastSmall, m_numberHeight * 5 / 6);
-    m_signHeight = std::max(leastSmall, m_numberHeight * 3 / 5);
+    m_signHeight = std::max(leastSmall, m_numberHeight * 3 / 4);
   }
 
   void PaintNames() {
@@ -145,11 +146,11 @@ class YearPainter {
     Rect area{tile.cell.left, tile.cell.top, tile.cell.right - m_line, tile.cell.bottom - m_line};
     if (tile.date == m_look.focused) {
       m_canvas.Fill(tile.cell, m_style.ink);
-      m_canvas.Fill(Inset(tile.cell, m_ring), m_style.paper);
-      area = Inset(tile.cell, 2 * m_ring);
+      m_canvas.Fill(Inset(tile.cell, m_focusRing), m_style.paper);
+      area = Inset(tile.cell, 2 * m_focusRing);
     } else if (Contains(m_look.selected, tile.date) || Contains(m_look.preview, tile.date)) {
       m_canvas.Fill(tile.cell, tile.coat.ring);
-      area = Inset(tile.cell, std::max(m_line, tile.cell.Height() / 10));
+      area = Inset(tile.cell, m_ring);
     }
     if (tile.coat.frame) {
       m_canvas.Fill(area, *tile.coat.frame);
@@ -171,7 +172,7 @@ class YearPainter {
 
   /// Today's number is the other way round: the ground's colour on a plate of ink.
   void PaintNumber(const Tile& tile, const Label& number) {
-    const int room = tile.cell.Width() - m_line - SignWidth(tile);
+    const int room = tile.cell.Width() - m_ring - SignWidth(tile);
     const Point at{tile.cell.left + std::max(0, room - number.width) / 2,
                    tile.cell.top + (tile.cell.Height() - m_line - m_numberHeight) / 2};
     const bool isToday = tile.date == m_look.today;
@@ -185,7 +186,7 @@ class YearPainter {
   void PaintSign(const Tile& tile) {
     if (tile.coat.sign) {
       m_canvas.Text(
-          {tile.cell.right - m_line - SignWidth(tile), tile.cell.bottom - m_line - m_signHeight},
+          {tile.cell.right - m_ring - SignWidth(tile), tile.cell.bottom - m_ring - m_signHeight},
           {&tile.coat.sign, 1}, m_signHeight, tile.coat.ink);
     }
   }
@@ -212,8 +213,9 @@ class YearPainter {
   const YearGeometry& m_year;
   const YearLook& m_look;
   const YearStyle& m_style;
-  int m_line;  // breadth, also of the gap between dates
-  int m_ring;  // breadth, around the focused date
+  int m_line;       // breadth, also of the gap between dates
+  int m_ring;       // breadth, around a selected date
+  int m_focusRing;  // of each of its two colours
   Colour m_faintInk;
   int m_numberHeight;
   int m_smallHeight;  // of weekdays and weeks

@@ -120,6 +120,8 @@ TEST_F(YearPictureTest, TheRingOfASelectedDateIsSeenOnItsColour) {
   look.selected = {{2026, 1, 29}, {2026, 1, 30}};
   Mark({0xD87900, L"Nearly the highlight"}, {2026, 1, 30});
   EXPECT_THAT(Drawn({2026, 1, 29}), Contains(HasSubstr("brush D77800")));
+  EXPECT_THAT(Drawn({2026, 1, 30}), Contains(HasSubstr("brush E0E0E0")));
+  look.style.highlight = look.style.ink = 0xD87800;
   EXPECT_THAT(Drawn({2026, 1, 30}), Contains(HasSubstr("brush 000000")));
 }
 
