@@ -15,9 +15,10 @@ constexpr int linesAboveWeeks = 2;  // the month's name and the weekdays
 constexpr int weekLines = 6;
 constexpr int lines = linesAboveWeeks + weekLines;
 
-/// In pixels of the layout: below this, numbers can't be read, and above it there is room to spare.
-constexpr Extent leastCell{18, 12};
-constexpr Extent roomyCell{21, 14};
+/// In pixels of the layout: below this, numbers and signs can't be read, and above it there is room
+/// to spare.
+constexpr Extent leastCell{18, 11};
+constexpr Extent roomyCell{21, 13};
 
 struct Gaps {
   int months;
@@ -26,6 +27,8 @@ struct Gaps {
 
 /// How well a number fits into a cell, which is half as broad again as it is high.
 int RoomFor(Extent cell) { return std::min(cell.cx * 2, cell.cy * 3); }
+
+bool Holds(Extent cell, Extent least) { return cell.cx >= least.cx && cell.cy >= least.cy; }
 
 Extent InDots(Extent pixels, Density density) {
   return {density.Dots(pixels.cx), density.Dots(pixels.cy)};
@@ -43,36 +46,33 @@ YearArrangement Fitted(Extent size, int columns, int rows, bool hasWeeks, Gaps g
   return {columns, rows, hasWeeks, {std::min(cx, cy * 2), std::min(cy, cx)}};
 }
 
-YearArrangement WholeYear(Extent size, bool hasWeeks, Gaps gaps) {
-  YearArrangement best = Fitted(size, 1, monthsOfYear, hasWeeks, gaps);
-  for (const int columns : {2, 3, 4, 6, 12}) {
+/// All months with the largest cells, if there is a way to have none below the least.
+std::optional<YearArrangement> WholeYear(Extent size, bool hasWeeks, Gaps gaps, Extent least) {
+  std::optional<YearArrangement> best;
+  for (const int columns : {1, 2, 3, 4, 6, 12}) {
     const auto other = Fitted(size, columns, monthsOfYear / columns, hasWeeks, gaps);
-    if (RoomFor(other.cell) > RoomFor(best.cell)) {
+    if (Holds(other.cell, least) && (!best || RoomFor(other.cell) > RoomFor(best->cell))) {
       best = other;
     }
   }
   return best;
 }
 
-/// So many months that their cells are no smaller than this; at least one.
-YearArrangement SomeMonths(Extent size, bool hasWeeks, Gaps gaps, Extent cell) {
-  const int width = Columns(hasWeeks) * cell.cx + gaps.weekend + gaps.months;
+/// As many months as have cells no smaller than this; at least one.
+YearArrangement SomeMonths(Extent size, Gaps gaps, Extent cell) {
+  const int width = daysOfWeek * cell.cx + gaps.weekend + gaps.months;
   const int height = lines * cell.cy + gaps.months;
   const int columns = std::max(1, (size.cx + gaps.months) / width);
   const int rows = std::max(1, (size.cy + gaps.months) / height);
-  return Fitted(size, columns, rows, hasWeeks, gaps);
+  return Fitted(size, columns, rows, false, gaps);
 }
 
 YearArrangement Arranged(Extent size, Density density, Gaps gaps) {
-  const int roomy = RoomFor(InDots(roomyCell, density));
-  const Extent least = InDots(leastCell, density);
-  for (const bool hasWeeks : {true, false}) {
-    const auto year = WholeYear(size, hasWeeks, gaps);
-    if (RoomFor(year.cell) >= (hasWeeks ? roomy : RoomFor(least))) {
-      return year;
-    }
+  if (const auto year = WholeYear(size, true, gaps, InDots(roomyCell, density))) {
+    return *year;
   }
-  return SomeMonths(size, false, gaps, least);
+  const Extent least = InDots(leastCell, density);
+  return WholeYear(size, false, gaps, least).value_or(SomeMonths(size, gaps, least));
 }
 
 bool Holds(const Rect& area, Point place) {

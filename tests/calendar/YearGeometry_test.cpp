@@ -99,7 +99,7 @@ TEST_P(YearGeometryTest, AllLiesInsideAndInTheMiddle) {
 TEST_P(YearGeometryTest, CellsAreLegible) {
   const YearGeometry geometry(GetParam(), 2026, common);
   EXPECT_GE(geometry.CellWidth(), 18);
-  EXPECT_GE(geometry.CellHeight(), 12);
+  EXPECT_GE(geometry.CellHeight(), 11);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, YearGeometryTest, testing::ValuesIn(FortySizes()),
