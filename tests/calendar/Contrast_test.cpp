@@ -49,9 +49,9 @@ TEST(LookAlike, AsksAllKindsOfSight) {
   for (const auto& [first, second, areAlike] :
        {Pair{0xFFFFFF, 0xFFFFFF, true}, Pair{0xFFFFFF, 0x000000, false},
         Pair{0x808080, 0x888888, true},   // to everybody
-        Pair{0x4060A0, 0x7040A0, true},   // without cones for long waves
-        Pair{0xC00000, 0x3C6400, true},   // without those for long or middle waves
-        Pair{0x00AAC8, 0x00B496, true},   // without those for short waves
+        Pair{0x003333, 0x990033, true},   // without cones for long waves alone
+        Pair{0x006633, 0x990033, true},   // without those for middle waves alone
+        Pair{0x003300, 0x003333, true},   // without those for short waves alone
         Pair{0xFF0000, 0x00FF00, false},  // the green is much lighter to everybody
         Pair{0x0000FF, 0xFFFF00, false}}) {
     EXPECT_EQ(LookAlike(Rgb(first), Rgb(second)), areAlike) << std::hex << first << " " << second;

@@ -73,6 +73,17 @@ TEST_P(YearGeometryTest, NamesHeadsAndWeeksAreFoundLikewise) {
   }
 }
 
+TEST_P(YearGeometryTest, EveryDateStandsBesideTheNumberOfItsWeek) {
+  for (const int year : {2024, 2026, 2027}) {
+    const YearGeometry geometry(GetParam(), year, common);
+    for (const CalendarDate date : DatesOf(geometry)) {
+      const auto week = geometry.WeekOf(date.month, WeekNumberOf(date));
+      ASSERT_EQ(week.has_value(), geometry.HasWeeks());
+      ASSERT_TRUE(!week || week->top == geometry.CellOf(date).top);
+    }
+  }
+}
+
 TEST_P(YearGeometryTest, AllLiesInsideAndInTheMiddle) {
   const YearGeometry geometry(GetParam(), 2026, common);
   Rect all{GetParam().cx, GetParam().cy, 0, 0};
