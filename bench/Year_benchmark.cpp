@@ -1,12 +1,14 @@
 // What a repaint of the year costs, beside the same primitives drawn straight with the painter.
 #include <benchmark/benchmark.h>
 
+#include <QApplication>
 #include <QImage>
 #include <QPainter>
 #include <string_view>
 #include <vector>
 
 #include "calendar/YearPicture.h"
+#include "calendar/ui/QVCalendar.h"
 #include "toolkit/PaintBox.h"
 #include "toolkit/PainterCanvas.h"
 #include "toolkit/Strings.h"
@@ -35,6 +37,7 @@ class MarkedYears {
     m_look.focused = {{year, 11, 23}};
   }
 
+  qv::CalendarMarks& Marks() { return m_marks; }
   qv::YearLook& Look() { return m_look; }
 
   void Count(int shown) {
@@ -186,6 +189,32 @@ void SwitchYearAndBack(benchmark::State& state) {
   }
 }
 
+/// Shows the control, with the texts of the picture.
+void Show(QVCalendar& calendar, const qv::YearStyle& style) {
+  for (std::size_t i = 0; i < style.monthNames.size(); ++i) {
+    calendar.SetMonthName(static_cast<int>(i), style.monthNames[i]);
+  }
+  for (std::size_t i = 0; i < style.weekdayNames.size(); ++i) {
+    calendar.SetWeekdayName(static_cast<int>(i), style.weekdayNames[i]);
+  }
+  calendar.resize(size.cx, size.cy);
+  calendar.show();
+  QApplication::processEvents();
+}
+
+/// Each time another year of the control, up to the window's own picture, without signs.
+void ControlSwitchesYear(benchmark::State& state) {
+  MarkedYears years;
+  QVCalendar calendar(nullptr, years.Marks(), qv::ToDateTime({year, 11, 22}));
+  Show(calendar, years.Look().style);
+  int shown = year;
+  for (auto _ : state) {
+    shown = shown == year ? year + 1 : year;
+    calendar.SetYear(shown);
+    QApplication::processEvents();
+  }
+}
+
 void InMicroseconds(benchmark::internal::Benchmark* timing) {
   timing->Unit(benchmark::kMicrosecond);
 }
@@ -194,5 +223,6 @@ BENCHMARK(Painter)->Apply(InMicroseconds);
 BENCHMARK(Drawing)->Apply(InMicroseconds);
 BENCHMARK(DragStep)->Apply(InMicroseconds);
 BENCHMARK(SwitchYearAndBack)->Apply(InMicroseconds);
+BENCHMARK(ControlSwitchesYear)->Apply(InMicroseconds);
 
 }  // namespace
