@@ -159,11 +159,17 @@ class YearPainter {
     m_canvas.Fill(area, tile.coat.ground);
   }
 
+  /// By the widths of the digits: what kerning makes of it can't be seen in the middle of a cell.
   std::vector<Label> NumbersTo(int last, int height) const {
+    std::array<int, 10> widths{};
+    for (std::size_t digit = 0; digit < widths.size(); ++digit) {
+      widths[digit] = m_canvas.TextExtent(std::to_wstring(digit), height).cx;
+    }
     std::vector<Label> numbers(1);
     for (int number = 1; number <= last; ++number) {
-      const std::wstring text = std::to_wstring(number);
-      numbers.push_back({text, m_canvas.TextExtent(text, height).cx});
+      const int width = widths[static_cast<std::size_t>(number % 10)];
+      const int tens = number < 10 ? 0 : widths[static_cast<std::size_t>(number / 10)];
+      numbers.push_back({std::to_wstring(number), tens + width});
     }
     return numbers;
   }
