@@ -1,6 +1,7 @@
 #include "calendar/YearGeometry.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 
 #include "calendar/Weeks.h"

@@ -1,6 +1,7 @@
 #include "calendar/YearLegend.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "calendar/Contrast.h"
 
