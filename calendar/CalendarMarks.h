@@ -22,6 +22,14 @@ struct Brush {
   friend bool operator==(const Brush&, const Brush&) = default;
 };
 
+/// A date and what it is to be marked with; the eraser takes its mark away.
+struct DateBrush {
+  CalendarDate date;
+  Brush brush;
+
+  friend bool operator==(const DateBrush&, const DateBrush&) = default;
+};
+
 /// The marks of dates: each date has one brush, or none. Strokes can be undone and done again,
 /// which the history keeps as the differences that they made.
 class CalendarMarks {
@@ -38,12 +46,18 @@ class CalendarMarks {
   /// passed over. Whether any date changed; otherwise there is no step.
   bool Apply(const std::vector<CalendarDate>& dates);
 
+  /// Marks dates with a brush each, as one step, in the same way; the current brush stays.
+  bool ApplyEach(const std::vector<DateBrush>& dates);
+
   /// Takes the last step back; false if there is none. A new step forgets those taken back.
   bool Undo();
   /// Does the step that was taken back last again; false if there is none.
   bool Redo();
   bool CanUndo() const { return !m_done.empty(); }
   bool CanRedo() const { return !m_undone.empty(); }
+  /// The dates that `Undo` and `Redo` would change now.
+  std::vector<CalendarDate> DatesToUndo() const;
+  std::vector<CalendarDate> DatesToRedo() const;
 
   /// What a date is marked with, or null. Holds as long as these marks live.
   const Brush* BrushOf(CalendarDate date) const;
@@ -78,6 +92,13 @@ class CalendarMarks {
   using Step = std::vector<Change>;
 
   std::optional<BrushIndex> At(CalendarDate date) const;
+  /// Nothing for the eraser.
+  std::optional<BrushIndex> IndexOf(const Brush& brush);
+  /// Marks a date and adds what it did, if anything, to the step.
+  void Put(CalendarDate date, std::optional<BrushIndex> brush, Step& step);
+  /// Whether the step did anything, which makes it the last one.
+  bool Finish(Step step);
+  static std::vector<CalendarDate> DatesOf(const Step& step);
   void Put(CalendarDate date, std::optional<BrushIndex> brush);
 
   Brush m_brush;

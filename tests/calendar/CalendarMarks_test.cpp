@@ -129,6 +129,32 @@ TEST_F(CalendarMarksTest, UndoDoesNotNeedTheBrushOfItsStroke) {
   EXPECT_EQ(marks.CurrentBrush(), rest);
 }
 
+TEST_F(CalendarMarksTest, AStepMayMarkEachDateDifferently) {
+  Select(work, {2026, 1, 3});
+  marks.SetBrush(work);
+  EXPECT_TRUE(marks.ApplyEach({{{2026, 1, 1}, rest}, {{2026, 1, 2}, work}, {{2026, 1, 3}, {}}}));
+  EXPECT_EQ(At({2026, 1, 1}), L"Rest");
+  EXPECT_EQ(At({2026, 1, 2}), L"Work");
+  EXPECT_EQ(At({2026, 1, 3}), L"-");
+  EXPECT_EQ(marks.CurrentBrush(), work);
+  EXPECT_EQ(marks.DatesToUndo().size(), 3U);
+  ASSERT_TRUE(marks.Undo());
+  EXPECT_EQ(At({2026, 1, 1}), L"-");
+  EXPECT_EQ(At({2026, 1, 3}), L"Work");
+  EXPECT_FALSE(marks.CanUndo());
+  EXPECT_TRUE(marks.DatesToUndo().empty());
+  EXPECT_EQ(marks.DatesToRedo().size(), 3U);
+}
+
+TEST_F(CalendarMarksTest, ADateThatAStepMarksTwiceGoesBackToWhatItWas) {
+  EXPECT_TRUE(marks.ApplyEach({{{2026, 1, 1}, rest}, {{2026, 1, 1}, work}}));
+  EXPECT_EQ(At({2026, 1, 1}), L"Work");
+  ASSERT_TRUE(marks.Undo());
+  EXPECT_EQ(At({2026, 1, 1}), L"-");
+  ASSERT_TRUE(marks.Redo());
+  EXPECT_EQ(At({2026, 1, 1}), L"Work");
+}
+
 TEST_F(CalendarMarksTest, ABrushFoundKeepsItsPlaceWhileOthersMark) {
   Select(work, {2026, 1, 1});
   const Brush* brush = marks.BrushOf({2026, 1, 1});
