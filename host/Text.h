@@ -103,6 +103,28 @@ enum class Text : unsigned {
   CalendarSunday = 34863,     ///< heading of a column of days, short form
   NoDayTypesYet = 60050,      ///< in the list without day types: where they are made, button %s
 
+  // Calendar: what people hear of it, its tooltips, legend and menu
+  YearName = 60060,         ///< name of the year, for people who can't see it
+  YearDate = 60061,         ///< a date: weekday %s, day %d, month %s, year %d
+  YearDateTyped = 60062,    ///< a date in these words %s that has a day type: its name %s
+  YearDateUntyped = 60063,  ///< a date in these words %s that has none
+  YearWeek = 60064,         ///< name of a row of dates: the number %d of its week
+  YearBefore = 60065,       ///< button to the year before
+  YearAfter = 60066,        ///< button to the year after
+  MarksBefore = 60067,      ///< tooltip of that button when earlier years have dates with a type
+  MarksAfter = 60068,       ///< likewise for later years
+  LegendName = 60069,       ///< name of the legend, for people who can't see it
+  WithoutDayType = 60070,   ///< legend: the dates that have no day type
+  LegendDays = 60071,       ///< legend: day type %s and how many days it has, %d
+  YearUndo = 60072,         ///< menu
+  YearRedo = 60073,         ///< menu
+  CopyWeek = 60074,         ///< menu
+  PasteWeek = 60075,        ///< menu
+  CopyMonth = 60076,        ///< menu
+  PasteMonth = 60077,       ///< menu
+  RepeatByWeekday = 60078,  ///< menu: marks of the year on show for the next one
+  RepeatByDate = 60079,     ///< menu: likewise
+
   // Fast selection
   FastSelectionTitle = 456,  ///< title
   Year = 432,                ///< label; a colon and the year are appended
