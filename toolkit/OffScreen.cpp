@@ -1,6 +1,5 @@
 #include "toolkit/OffScreen.h"
 
-#include <QImage>
 #include <QPainter>
 #include <cmath>
 
@@ -16,30 +15,49 @@ Density DensityOf(const QPainter& painter) {
   return {std::sqrt(std::abs(painter.deviceTransform().determinant()))};
 }
 
-QImage SurfaceFor(QSize size, Density density) {
-  const QSize dots(static_cast<int>(std::ceil(size.width() * density.dotsPerPixel)),
-                   static_cast<int>(std::ceil(size.height() * density.dotsPerPixel)));
-  return {dots, QImage::Format_RGB32};
+QSize DotsOf(QSize size, Density density) {
+  return {static_cast<int>(std::ceil(size.width() * density.dotsPerPixel)),
+          static_cast<int>(std::ceil(size.height() * density.dotsPerPixel))};
+}
+
+bool Fits(const QImage& surface, QSize dots, Density density) {
+  return surface.size() == dots && surface.devicePixelRatio() == density.dotsPerPixel;
+}
+
+QImage NewSurface(QSize dots, const QColor& ground) {
+  QImage surface(dots, QImage::Format_RGB32);
+  surface.fill(ground);
+  return surface;
 }
 
 }  // namespace
 
 void PaintOffScreen(QWidget& widget, const std::function<void(const OffScreenSurface&)>& paint) {
+  QImage surface;
+  PaintOffScreen(widget, surface, paint);
+}
+
+void PaintOffScreen(QWidget& widget, QImage& kept,
+                    const std::function<void(const OffScreenSurface&)>& paint) {
   QPainter screen(&widget);
   const Density density = DensityOf(screen);
-  QImage surface = SurfaceFor(widget.size(), density);
-  if (surface.isNull()) {
+  const QSize dots = DotsOf(widget.size(), density);
+  const QColor ground = GroundOf(widget);
+  const bool isNew = !Fits(kept, dots, density);
+  if (isNew) {
+    kept = NewSurface(dots, ground);
+  }
+  if (kept.isNull()) {
     return;
   }
-  const QColor ground = GroundOf(widget);
-  surface.fill(ground);
+  kept.setDevicePixelRatio(1);
   {
-    QPainter painter(&surface);
+    QPainter painter(&kept);
     PainterCanvas canvas(painter, density.LineBreadth());
-    paint({canvas, {surface.width(), surface.height()}, density, FromQColor(ground)});
+    paint({canvas, {kept.width(), kept.height()}, density, FromQColor(ground), isNew});
   }
-  surface.setDevicePixelRatio(density.dotsPerPixel);
-  screen.drawImage(0, 0, surface);
+  kept.setDevicePixelRatio(density.dotsPerPixel);
+  screen.drawImage(0, 0, kept);
 }
 
 }  // namespace qv
