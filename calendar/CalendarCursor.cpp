@@ -54,7 +54,7 @@ void CalendarCursor::SetYears(int first, int last) {
 
 bool CalendarCursor::Move(CursorKey key, bool byYear, bool extends) {
   const CalendarDate to = byYear ? ByYear(m_date, key) : ByDayAndMonth(m_date, key);
-  if (to.year < m_firstYear || to.year > m_lastYear) {
+  if (!CanReach(to.year)) {
     return false;
   }
   const bool changes = to != m_date || (HasRange() && !extends);

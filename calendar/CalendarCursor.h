@@ -19,6 +19,8 @@ class CalendarCursor {
   /// Years that the cursor stays in, both included; what leads out of them does nothing.
   void SetYears(int first, int last);
 
+  bool CanReach(int year) const { return year >= m_firstYear && year <= m_lastYear; }
+
   /// Left and Right go by the day, Up and Down by the week, Home and End to the first and last date
   /// of the month, the page keys by the month. `byYear` makes that the year in each case. `extends`
   /// takes the range along, which else goes. Whether the cursor moved or the range went.

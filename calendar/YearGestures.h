@@ -18,7 +18,7 @@ class YearGestures {
 
   CalendarCursor& Cursor() { return m_cursor; }
   const CalendarCursor& Cursor() const { return m_cursor; }
-  CopiedMarks& Copied() { return m_copied; }
+  const CopiedMarks& Copied() const { return m_copied; }
 
   /// Begins a stroke at a date, or at the cursor's if it `extends`, and takes the cursor along.
   void Press(CalendarDate date, bool extends = false);

@@ -3,6 +3,7 @@
 #include <QDate>
 
 #include "calendar/ui/CDlgFastSelection.h"
+#include "calendar/ui/CalendarNames.h"
 #include "calendar/ui/QVCalendar.h"
 #include "toolkit/Caption.h"
 #include "toolkit/DialogColumn.h"
@@ -15,16 +16,6 @@ namespace {
 constexpr QSize leastSize(400, 300);
 constexpr int calendarNumber = 5004;
 constexpr int borderMargin = 5;
-
-/// In the order of the months.
-constexpr std::array monthNames = {Text::January,   Text::February, Text::March,    Text::April,
-                                   Text::May,       Text::June,     Text::July,     Text::August,
-                                   Text::September, Text::October,  Text::November, Text::December};
-
-/// From Monday on.
-constexpr std::array weekdayNames = {
-    Text::CalendarMonday, Text::CalendarTuesday,  Text::CalendarWednesday, Text::CalendarThursday,
-    Text::CalendarFriday, Text::CalendarSaturday, Text::CalendarSunday};
 
 QVDateTime Today() {
   const QDate today = QDate::currentDate();
@@ -64,12 +55,14 @@ void CDlgCalendar::OnInitDialog() {
 void CDlgCalendar::CreateCalendar() {
   m_calendar = new QVCalendar(this, m_form->Marks(), Today());
   m_calendar->setProperty("controlId", calendarNumber);
-  for (std::size_t i = 0; i < monthNames.size(); ++i) {
-    m_calendar->SetMonthName(static_cast<int>(i), qv::ToWide(Worded(monthNames[i])));
+  for (std::size_t i = 0; i < qv::monthTexts.size(); ++i) {
+    m_calendar->SetMonthName(static_cast<int>(i), qv::ToWide(Worded(qv::monthTexts[i])));
   }
-  for (std::size_t i = 0; i < weekdayNames.size(); ++i) {
-    m_calendar->SetWeekdayName(static_cast<int>(i), qv::ToWide(Worded(weekdayNames[i])));
+  for (std::size_t i = 0; i < qv::weekdayHeadTexts.size(); ++i) {
+    m_calendar->SetWeekdayName(static_cast<int>(i), qv::ToWide(Worded(qv::weekdayHeadTexts[i])));
   }
+  m_calendar->SetDayTypes(m_form->Rows());
+  connect(m_calendar, &QVCalendar::BrushWanted, this, &CDlgCalendar::SelectBrush);
   m_calendar->show();
   setTabOrder(m_calendar, m_ui.listDayTypes);
   m_ui.listDayTypes->setFocus();
@@ -107,9 +100,20 @@ void CDlgCalendar::InitializeDayTypesList() {
   m_action.clear();
 }
 
+void CDlgCalendar::SelectBrush(int row) {
+  if (row < 0) {
+    m_ui.listDayTypes->clearSelection();
+  } else if (row < m_ui.listDayTypes->topLevelItemCount()) {
+    m_list->Select(row);
+  }
+}
+
 void CDlgCalendar::UpdateSelectedAction() {
   const auto row = m_list->SelectedRow();
   m_form->SelectRow(row);
+  if (m_calendar) {
+    m_calendar->ShowBrush();
+  }
   m_ui.swatchAction->setVisible(row.has_value());
   m_ui.swatchAction->SetColour(m_form->Marks().CurrentBrush().colour);
   m_action = row ? qv::ToQString(m_form->Marks().CurrentBrush().text) : Worded(Text::UnmarkDates);

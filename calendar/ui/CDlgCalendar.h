@@ -32,6 +32,7 @@ class CDlgCalendar : public qv::EditingDialog<qv::CalendarForm> {
   void InitializeTexts();
   void InitializeDayTypesList();
   QString WhereDayTypesAreMade() const;
+  void SelectBrush(int row);
   void UpdateSelectedAction();
   void ShowAction();
   void OnFastSelection();

@@ -3,16 +3,20 @@
 #include <QWidget>
 
 #include "calendar/CalendarMarks.h"
+#include "discriminator/ColouredType.h"
 
-class QToolButton;
+class QScrollBar;
 
 namespace qv {
+class LegendView;
+class YearButton;
 class YearField;
 class YearView;
 }  // namespace qv
 
-/// A whole year in which dates are marked with the brush, by a click. The buttons beside the year,
-/// the wheel over it, and a number typed into it go to another one.
+/// A whole year in which dates are marked with the brush, by pointer and keyboard, with a legend of
+/// its day types below. The buttons beside the year, the wheel over it, and a number typed into it
+/// go to another one.
 class QVCalendar : public QWidget {
   Q_OBJECT
 
@@ -24,6 +28,9 @@ class QVCalendar : public QWidget {
   /// index throws `std::out_of_range`.
   void SetMonthName(int index, const QVWideString& name);
   void SetWeekdayName(int index, const QVWideString& name);
+
+  /// The day types of the legend, in its order. Without them there is no legend.
+  void SetDayTypes(const std::vector<qv::ColouredType>& rows);
 
   /// Sets the brush; white (0xFFFFFF) with an empty text erases.
   void SetSelType(qv::Colour colour, const wchar_t* id);
@@ -43,16 +50,32 @@ class QVCalendar : public QWidget {
 
   /// Shows what became of the marks.
   void ShowMarks();
+  /// Shows in the legend with what dates are marked now.
+  void ShowBrush();
+
+ signals:
+  /// The user chose the brush of a day type by its row in the legend; -1 is the eraser.
+  void BrushWanted(int row);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
-  void OfferYears();
+  void AddShortcuts();
+  void NameParts();
+  void OnYear(int year);
+  void OnMarked();
+  void OnMonths();
+  void LayOut();
+  void LayOutYear(const QRect& room);
 
   qv::CalendarMarks& m_marks;
-  QToolButton* m_before;
-  QToolButton* m_after;
+  std::vector<qv::ColouredType> m_dayTypes;
+  qv::YearButton* m_before;
+  qv::YearButton* m_after;
   qv::YearField* m_year;
   qv::YearView* m_view;
+  QScrollBar* m_months;  // where not all of them fit
+  qv::LegendView* m_legend;
 };

@@ -1,64 +1,246 @@
 #include "calendar/ui/YearView.h"
 
-#include <QMouseEvent>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QToolTip>
+#include <algorithm>
 
-#include "toolkit/BoxGround.h"
-#include "toolkit/OffScreen.h"
-#include "toolkit/PaintBox.h"
+#include "calendar/PlaceDates.h"
+#include "calendar/YearDates.h"
+#include "calendar/ui/YearKeys.h"
+#include "calendar/ui/YearWords.h"
+#include "toolkit/Caption.h"
+#include "toolkit/Strings.h"
 
 namespace qv {
-YearView::YearView(QWidget* parent, CalendarMarks& marks) : QWidget(parent), m_marks(marks) {
-  setAttribute(Qt::WA_OpaquePaintEvent);
+namespace {
+
+constexpr int monthsOfYear = 12;
+
+const CalendarDate* DateIn(const std::optional<YearPlace>& place) {
+  return place ? std::get_if<CalendarDate>(&*place) : nullptr;
 }
 
-void YearView::SetYear(int year) {
-  m_year = year;
-  update();
+}  // namespace
+
+YearView::YearView(QWidget* parent, CalendarMarks& marks, CalendarDate today)
+    : YearSheet(parent, marks, today), m_marks(marks), m_gestures(marks, today) {
+  setFocusPolicy(Qt::StrongFocus);
 }
 
-void YearView::SetMonthName(std::size_t index, const QVWideString& name) {
-  m_style.monthNames.at(index) = name;
-  update();
+YearView::~YearView() = default;
+
+void YearView::GoToYear(int year) {
+  const CalendarDate at = m_gestures.Cursor().Date();
+  if (at.year != year) {
+    m_gestures.Cancel();
+    m_gestures.Cursor().GoTo(MonthsAfter(at, (year - at.year) * monthsOfYear));
+  }
+  SetYear(year);
+  ShowCursor();
 }
 
-void YearView::SetWeekdayName(std::size_t index, const QVWideString& name) {
-  m_style.weekdayNames.at(index) = name;
-  update();
+void YearView::Do(const std::function<bool(YearGestures&)>& gesture) {
+  if (gesture(m_gestures)) {
+    ShowChanged(m_marks.DatesToUndo());
+  }
+  if (const int year = m_gestures.Cursor().Date().year; year != Year()) {
+    emit YearWanted(year);
+  }
+  ShowCursor();
 }
 
-YearStyle YearView::PaletteStyle() const {
-  YearStyle style = m_style;
-  style.ground = FromQColor(GroundOf(*this));
-  style.paper = FromQColor(palette().color(QPalette::Base));
-  style.ink = FromQColor(palette().color(QPalette::WindowText));
-  style.highlight = FromQColor(palette().color(QPalette::Highlight));
-  return style;
+void YearView::Undo() {
+  if (m_marks.Undo()) {
+    ShowChanged(m_marks.DatesToRedo());
+  }
 }
 
-void YearView::paintEvent(QPaintEvent*) {
-  PaintOffScreen(*this, [this](const OffScreenSurface& surface) {
-    YearLook look{.marks = m_marks, .style = PaletteStyle()};
-    look.style.density = surface.density;
-    PaintYear(surface.canvas, {surface.size, m_year, surface.density}, look);
-  });
+void YearView::Redo() {
+  if (m_marks.Redo()) {
+    ShowChanged(m_marks.DatesToUndo());
+  }
 }
 
-std::optional<CalendarDate> YearView::DateAt(const QPointF& place) const {
-  const Density density{devicePixelRatioF()};
-  const Extent surface{density.Dots(width()), density.Dots(height())};
-  const auto found = YearGeometry(surface, m_year, density)
-                         .PlaceAt({static_cast<int>(place.x() * density.dotsPerPixel),
-                                   static_cast<int>(place.y() * density.dotsPerPixel)});
-  const auto* date = found ? std::get_if<CalendarDate>(&*found) : nullptr;
-  return date ? std::optional(*date) : std::nullopt;
+void YearView::ShowChanged(const std::vector<CalendarDate>& dates) {
+  emit Marked();
+  const bool isSeen = std::any_of(dates.begin(), dates.end(),
+                                  [this](CalendarDate date) { return date.year == Year(); });
+  if (!isSeen) {
+    emit YearWanted(dates.front().year);
+  }
+  Repaint(dates);
+}
+
+void YearView::ShowCursor() {
+  const CalendarCursor& cursor = m_gestures.Cursor();
+  const YearGeometry geometry = Geometry();
+  const int month = cursor.Date().month;
+  if (!m_gestures.IsDrawing() && !geometry.Shows(month)) {
+    const bool isBefore = month < geometry.FirstMonth();
+    SetFirstMonth(isBefore ? month : month - geometry.MonthsShown() + 1);
+  }
+  YearState state{m_gestures.Covered(), {}, {}};
+  if (cursor.HasRange()) {
+    state.selected = cursor.Selected();
+  }
+  if (hasFocus()) {
+    state.focused = cursor.Date();
+  }
+  ShowState(std::move(state));
+  setAccessibleDescription(WordsOf(cursor.Date()));
+}
+
+QString YearView::WordsOf(CalendarDate date) const {
+  const std::wstring words = DateInWords(date, m_marks.BrushOf(date), HostDateForms());
+  return ToQString(words);
+}
+
+bool YearView::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) {
+    return YearSheet::event(event);
+  }
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  const auto place = PlaceAt(help.pos());
+  const CalendarDate* date = DateIn(place);
+  const QString words = date ? WordsOf(*date) : QString();
+  QToolTip::showText(help.globalPos(), PlainToolTip(words), this, date ? CellOf(*date) : QRect());
+  return true;
+}
+
+void YearView::focusInEvent(QFocusEvent* event) {
+  YearSheet::focusInEvent(event);
+  ShowCursor();
+}
+
+void YearView::focusOutEvent(QFocusEvent* event) {
+  YearSheet::focusOutEvent(event);
+  // The release may go elsewhere now.
+  m_gestures.Cancel();
+  ShowCursor();
 }
 
 void YearView::mousePressEvent(QMouseEvent* event) {
-  const auto date = DateAt(event->position());
-  if (event->button() == Qt::LeftButton && date && m_marks.Apply({*date})) {
-    update();
-    emit Marked();
+  const auto place = PlaceAt(event->position());
+  if (const CalendarDate* date = DateIn(place); date && event->button() == Qt::LeftButton) {
+    m_isOutside = false;
+    const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
+    Do([&](YearGestures& gestures) {
+      gestures.Press(*date, extends);
+      return false;
+    });
   }
+}
+
+void YearView::mouseMoveEvent(QMouseEvent* event) {
+  if (!m_gestures.IsDrawing()) {
+    return;
+  }
+  ScrollPast(event->position());
+  if (const auto date = NearestDate(event->position())) {
+    const bool asBlock = event->modifiers().testFlag(Qt::ControlModifier);
+    Do([&](YearGestures& gestures) {
+      gestures.DragTo(*date, asBlock);
+      return false;
+    });
+  }
+}
+
+void YearView::ScrollPast(const QPointF& place) {
+  const bool wasOutside = m_isOutside;
+  m_isOutside = !QRectF(rect()).contains(place);
+  if (m_isOutside && !wasOutside) {
+    const bool isBefore = place.y() < 0 || (place.x() < 0 && place.y() < height());
+    const YearGeometry geometry = Geometry();
+    SetFirstMonth(std::clamp(geometry.FirstMonth() + (isBefore ? -1 : 1), 1,
+                             monthsOfYear + 1 - geometry.MonthsShown()));
+  }
+}
+
+void YearView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && m_gestures.IsDrawing()) {
+    Do([](YearGestures& gestures) { return gestures.Release(); });
+  }
+}
+
+void YearView::mouseDoubleClickEvent(QMouseEvent* event) {
+  const auto place = PlaceAt(event->position());
+  if (!place || DateIn(place) || event->button() != Qt::LeftButton) {
+    mousePressEvent(event);
+    return;
+  }
+  Do([&](YearGestures& gestures) { return gestures.Mark(DatesOfPlace(*place, Year())); });
+}
+
+void YearView::wheelEvent(QWheelEvent* event) {
+  const YearGeometry geometry = Geometry();
+  const int turn = event->angleDelta().y();
+  if (geometry.MonthsShown() == monthsOfYear || turn == 0) {
+    event->ignore();
+    return;
+  }
+  SetFirstMonth(std::clamp(geometry.FirstMonth() + (turn > 0 ? -1 : 1), 1,
+                           monthsOfYear + 1 - geometry.MonthsShown()));
+  event->accept();
+}
+
+void YearView::keyPressEvent(QKeyEvent* event) {
+  if (!HandleKey(*event)) {
+    YearSheet::keyPressEvent(event);
+  }
+}
+
+bool YearView::HandleKey(const QKeyEvent& event) {
+  if (m_gestures.IsDrawing()) {
+    if (event.key() == Qt::Key_Escape) {
+      Do([](YearGestures& gestures) {
+        gestures.Cancel();
+        return false;
+      });
+    }
+    return true;
+  }
+  if (const auto key = CursorKeyOf(event.key())) {
+    const bool byYear = event.modifiers().testFlag(Qt::ControlModifier);
+    const bool extends = event.modifiers().testFlag(Qt::ShiftModifier);
+    Do([&](YearGestures& gestures) {
+      gestures.Cursor().Move(*key, byYear, extends);
+      return false;
+    });
+    return true;
+  }
+  if (const auto row = BrushKeyOf(event.key())) {
+    emit BrushWanted(*row);
+    return true;
+  }
+  return HandleVerb(event.key());
+}
+
+bool YearView::HandleVerb(int key) {
+  const bool isReturn = key == Qt::Key_Return || key == Qt::Key_Enter;
+  if (key == Qt::Key_Space || (isReturn && m_gestures.Cursor().HasRange())) {
+    Do([](YearGestures& gestures) { return gestures.MarkSelected(); });
+    return true;
+  }
+  if (key == Qt::Key_Delete) {
+    Do([](YearGestures& gestures) { return gestures.EraseSelected(); });
+    return true;
+  }
+  return false;
+}
+
+void YearView::contextMenuEvent(QContextMenuEvent* event) {
+  const auto place = PlaceAt(event->pos());
+  const CalendarDate* date = DateIn(place);
+  const bool isByMouse = event->reason() == QContextMenuEvent::Mouse;
+  if (isByMouse && date) {
+    Do([&](YearGestures& gestures) {
+      gestures.Cursor().GoTo(*date);
+      return false;
+    });
+  }
+  const QRect cell = CellOf(m_gestures.Cursor().Date());
+  emit MenuWanted(isByMouse ? event->globalPos() : mapToGlobal(cell.center()));
 }
 
 }  // namespace qv
