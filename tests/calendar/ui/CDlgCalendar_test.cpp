@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QSpinBox>
 
+#include "calendar/ui/LegendView.h"
 #include "calendar/ui/QVCalendar.h"
 #include "calendar/ui/YearView.h"
 #include "tests/support/DialogTest.h"
@@ -122,6 +123,48 @@ TEST_F(CalendarDialog, OkWithoutAChangeCountsAsOne) {
   EXPECT_EQ(Run([] { Click(IDOK); }), IDOK);
   EXPECT_TRUE(modified);
   EXPECT_EQ(*calendar, before);
+}
+
+TEST_F(CalendarDialog, DigitsAndTheLegendSelectTheBrushInTheList) {
+  Run([] {
+    auto* view = Control()->findChild<YearView*>();
+    QTest::keyClick(view, Qt::Key_2);
+    EXPECT_EQ(SelectedRows(calendarDayTypes), std::vector{1});
+    EXPECT_EQ(Caption(actionLabel), "work");
+    QTest::keyClick(view, Qt::Key_9);
+    EXPECT_EQ(SelectedRows(calendarDayTypes), std::vector{1}) << "there is no ninth";
+    QTest::keyClick(view, Qt::Key_0);
+    EXPECT_TRUE(SelectedRows(calendarDayTypes).empty());
+    EXPECT_EQ(Caption(actionLabel), TitleOf(Text::UnmarkDates));
+    auto* legend = Control()->findChild<LegendView*>();
+    QTest::mouseClick(legend, Qt::LeftButton, {}, legend->PlaceOf(0).center());
+    EXPECT_EQ(SelectedRows(calendarDayTypes), std::vector{0});
+    QTest::mouseClick(legend, Qt::LeftButton, {}, legend->PlaceOf(2).center());
+    EXPECT_TRUE(SelectedRows(calendarDayTypes).empty());
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(CalendarDialog, AStrokeAndAFastSelectionAreUndoneFromAnywhereInIt) {
+  Run([] {
+    GoTo(2026);
+    ClickRow(calendarDayTypes, 0);
+    ClickDate(6, 2);
+    RuleNext({weekDayChecks[0], monthChecks[0]}, 0);
+    Click(fastSelectionButton);
+    // A window manager would do that when the other window goes.
+    TopWindow()->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(TopWindow()));
+    Press(calendarDayTypes, Qt::Key_Z, Qt::ControlModifier);
+    Press(calendarDayTypes, Qt::Key_Z, Qt::ControlModifier);
+    Press(calendarDayTypes, Qt::Key_Z, Qt::ControlModifier);
+    Press(calendarDayTypes, Qt::Key_Y, Qt::ControlModifier);
+    Click(IDOK);
+  });
+  EXPECT_TRUE(modified);
+  EXPECT_EQ(IdOf(2026, 6, 1), L"w") << "what was there first can't be undone";
+  EXPECT_EQ(IdOf(2026, 6, 2), L"r");
+  EXPECT_EQ(IdOf(2026, 1, 5), L"-");
 }
 
 TEST_F(CalendarDialog, FastSelectionMarksTheYearOnShow) {
