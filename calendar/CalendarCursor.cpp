@@ -1,5 +1,7 @@
 #include "calendar/CalendarCursor.h"
 
+#include <algorithm>
+
 #include "calendar/YearDates.h"
 
 namespace qv {
@@ -67,6 +69,11 @@ void CalendarCursor::GoTo(CalendarDate date, bool extends) {
   if (!extends) {
     m_start = date;
   }
+}
+
+bool CalendarCursor::IsSelected(CalendarDate date) const {
+  const auto [first, last] = std::minmax({m_start, m_date});
+  return first <= date && date <= last;
 }
 
 std::vector<CalendarDate> CalendarCursor::Selected() const { return DatesBetween(m_start, m_date); }

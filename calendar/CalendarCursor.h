@@ -33,6 +33,8 @@ class CalendarCursor {
   bool HasRange() const { return m_start != m_date; }
   /// Leaves the cursor's date alone selected.
   void DropRange() { m_start = m_date; }
+  /// Whether a date is in the range, or the cursor's alone.
+  bool IsSelected(CalendarDate date) const;
   /// The dates of the range in order, or that of the cursor alone.
   std::vector<CalendarDate> Selected() const;
 

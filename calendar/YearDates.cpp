@@ -24,6 +24,10 @@ CalendarDate DaysAfter(CalendarDate date, int days) {
   return DateOf(DaysOf(date) + std::chrono::days(days));
 }
 
+int DaysFromTo(CalendarDate from, CalendarDate to) {
+  return static_cast<int>((DaysOf(to) - DaysOf(from)).count());
+}
+
 CalendarDate MonthsAfter(CalendarDate date, int months) {
   const int all = date.year * 12 + date.month - 1 + months;
   const int month = (all % 12 + 12) % 12;

@@ -12,6 +12,9 @@ constexpr int daysOfWeek = 7;
 /// are `Valid`.
 CalendarDate DaysAfter(CalendarDate date, int days);
 
+/// How many days the second date is after the first; negative if it is before.
+int DaysFromTo(CalendarDate from, CalendarDate to);
+
 /// The same day so many months later or earlier, or the last of a month that is shorter.
 CalendarDate MonthsAfter(CalendarDate date, int months);
 

@@ -53,6 +53,10 @@ TEST(CalendarCursor, ARangeRunsFromWhereItBegan) {
   EXPECT_TRUE(cursor.Move(CursorKey::Up, false, true));
   EXPECT_EQ(cursor.Selected().front(), (CalendarDate{2026, 5, 26}));
   EXPECT_EQ(cursor.Selected().back(), (CalendarDate{2026, 5, 30}));
+  EXPECT_TRUE(cursor.IsSelected({2026, 5, 26}));
+  EXPECT_TRUE(cursor.IsSelected({2026, 5, 30}));
+  EXPECT_FALSE(cursor.IsSelected({2026, 5, 31}));
+  EXPECT_FALSE(cursor.IsSelected({2026, 5, 25}));
   EXPECT_TRUE(cursor.Move(CursorKey::Right, false, false));
   EXPECT_EQ(cursor.Selected(), std::vector{cursor.Date()});
 }

@@ -16,6 +16,12 @@ TEST(YearDates, DaysAreCountedAcrossMonthsAndYears) {
   EXPECT_EQ(DaysAfter({1, 1, 1}, -1), (CalendarDate{0, 12, 31}));
 }
 
+TEST(YearDates, DaysFromOneDateToAnotherAreThoseToCount) {
+  EXPECT_EQ(DaysFromTo({2024, 2, 28}, {2024, 3, 1}), 2);
+  EXPECT_EQ(DaysFromTo({2024, 3, 1}, {2024, 2, 28}), -2);
+  EXPECT_EQ(DaysFromTo({2024, 1, 1}, DaysAfter({2024, 1, 1}, 1000)), 1000);
+}
+
 TEST(YearDates, AMonthThatIsShorterGivesItsLastDay) {
   EXPECT_EQ(MonthsAfter({2026, 1, 31}, 1), (CalendarDate{2026, 2, 28}));
   EXPECT_EQ(MonthsAfter({2024, 2, 29}, 12), (CalendarDate{2025, 2, 28}));
