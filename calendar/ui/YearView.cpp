@@ -8,6 +8,7 @@
 #include "calendar/PlaceDates.h"
 #include "calendar/YearDates.h"
 #include "calendar/ui/YearKeys.h"
+#include "calendar/ui/YearNews.h"
 #include "calendar/ui/YearWords.h"
 #include "toolkit/Caption.h"
 #include "toolkit/Strings.h"
@@ -36,11 +37,16 @@ void YearView::GoToYear(int year) {
     m_gestures.Cancel();
     m_gestures.Cursor().GoTo(MonthsAfter(at, (year - at.year) * monthsOfYear));
   }
-  SetYear(year);
+  if (year != Year()) {
+    SetYear(year);
+    TellYear(*this);
+    TellCursor(*this);
+  }
   ShowCursor();
 }
 
 void YearView::Do(const std::function<bool(YearGestures&)>& gesture) {
+  const CalendarCursor before = m_gestures.Cursor();
   if (gesture(m_gestures)) {
     ShowChanged(m_marks.DatesToUndo());
   }
@@ -48,6 +54,17 @@ void YearView::Do(const std::function<bool(YearGestures&)>& gesture) {
     emit YearWanted(year);
   }
   ShowCursor();
+  TellWhatMoved(before);
+}
+
+void YearView::TellWhatMoved(const CalendarCursor& before) {
+  const CalendarCursor& cursor = m_gestures.Cursor();
+  if (cursor.Date() != before.Date()) {
+    TellCursor(*this);
+  }
+  if (cursor.HasRange() || before.HasRange()) {
+    TellSelection(*this);
+  }
 }
 
 void YearView::Undo() {
@@ -70,6 +87,7 @@ void YearView::ShowChanged(const std::vector<CalendarDate>& dates) {
     emit YearWanted(dates.front().year);
   }
   Repaint(dates);
+  TellMarks(*this, dates);
 }
 
 void YearView::ShowCursor() {
@@ -88,7 +106,6 @@ void YearView::ShowCursor() {
     state.focused = cursor.Date();
   }
   ShowState(std::move(state));
-  setAccessibleDescription(WordsOf(cursor.Date()));
 }
 
 QString YearView::WordsOf(CalendarDate date) const {
@@ -111,6 +128,7 @@ bool YearView::event(QEvent* event) {
 void YearView::focusInEvent(QFocusEvent* event) {
   YearSheet::focusInEvent(event);
   ShowCursor();
+  TellCursor(*this);
 }
 
 void YearView::focusOutEvent(QFocusEvent* event) {

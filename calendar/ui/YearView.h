@@ -4,6 +4,7 @@
 
 #include "calendar/YearGestures.h"
 #include "calendar/ui/YearSheet.h"
+#include "calendar/ui/YearTable.h"
 
 namespace qv {
 
@@ -57,9 +58,11 @@ class YearView : public YearSheet {
   bool HandleKey(const QKeyEvent& event);
   bool HandleVerb(int key);
   void ShowCursor();
+  void TellWhatMoved(const CalendarCursor& before);
   void ShowChanged(const std::vector<CalendarDate>& dates);
   void ScrollPast(const QPointF& place);
 
+  YearTableOffer m_offer;
   CalendarMarks& m_marks;
   YearGestures m_gestures;
   bool m_isOutside = false;  // whether a stroke's pointer has left the view

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <vector>
+
+#include "calendar/CalendarDate.h"
+
+namespace qv {
+
+class YearView;
+
+// What assistive technology is told of a year, as far as there is any that listens.
+
+/// The cursor is on another date.
+void TellCursor(YearView& view);
+/// Another range is selected.
+void TellSelection(YearView& view);
+/// Dates of the year have other marks.
+void TellMarks(YearView& view, const std::vector<CalendarDate>& dates);
+/// Another year is on show.
+void TellYear(YearView& view);
+
+}  // namespace qv
