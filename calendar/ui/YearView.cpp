@@ -29,8 +29,6 @@ YearView::YearView(QWidget* parent, CalendarMarks& marks, CalendarDate today)
   setFocusPolicy(Qt::StrongFocus);
 }
 
-YearView::~YearView() = default;
-
 void YearView::GoToYear(int year) {
   const CalendarDate at = m_gestures.Cursor().Date();
   if (at.year != year) {

@@ -15,7 +15,6 @@ class YearView : public YearSheet {
  public:
   /// `marks` outlive the view. It shows the year of `today`.
   YearView(QWidget* parent, CalendarMarks& marks, CalendarDate today);
-  ~YearView() override;
 
   /// Shows another year, to which the cursor goes as well.
   void GoToYear(int year);

@@ -145,6 +145,26 @@ TEST_F(CalendarDialog, DigitsAndTheLegendSelectTheBrushInTheList) {
   });
 }
 
+TEST_F(CalendarDialog, KeysOfTheYearDoNotEndTheDialog) {
+  const int result = Run([] {
+    GoTo(2026);
+    ClickRow(calendarDayTypes, 0);
+    auto* view = Control()->findChild<YearView*>();
+    QTest::mousePress(view, Qt::LeftButton, {}, view->CellOf({2026, 6, 5}).center());
+    QTest::keyClick(view, Qt::Key_Escape);
+    EXPECT_TRUE(TopWindow()) << "Escape takes the stroke back";
+    ClickDate(6, 2);
+    QTest::keyClick(view, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(view, Qt::Key_Return);
+    EXPECT_TRUE(TopWindow()) << "Return marks the range";
+    QTest::keyClick(view, Qt::Key_Return);
+    EXPECT_FALSE(TopWindow()) << "without a range it is OK";
+  });
+  EXPECT_EQ(result, IDOK);
+  EXPECT_EQ(IdOf(2026, 6, 3), L"r");
+  EXPECT_EQ(IdOf(2026, 6, 5), L"-");
+}
+
 TEST_F(CalendarDialog, AStrokeAndAFastSelectionAreUndoneFromAnywhereInIt) {
   Run([] {
     GoTo(2026);
