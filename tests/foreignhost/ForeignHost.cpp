@@ -2,8 +2,10 @@
 // module of its own, runs every exported class and unloads both again.
 #include <dlfcn.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLibrary>
+#include <QWidget>
 #include <cstdio>
 
 #include "tests/foreignhost/Services.h"
@@ -63,6 +65,11 @@ int main(int argc, char** argv) {
   }
   if (!module.unload() || IsLoaded(argv[2])) {
     return Fail("the library could not be unloaded");
+  }
+  // Nothing of it is asked any more.
+  QWidget plain;
+  if (!QAccessible::queryAccessibleInterface(&plain)) {
+    return Fail("a widget should be accessible as before");
   }
   return 0;
 }
