@@ -2,6 +2,8 @@
 
 #include "tools/Colour.h"
 
+#include <initializer_list>
+
 namespace qv {
 
 /// A colour between two: so many hundredths of the way from the first to the second one.
