@@ -17,9 +17,9 @@ struct LegendEntry {
 };
 
 /// An entry for each of `rows`, in their order, and a last one for the dates of `year` without a
-/// day type. If any two of the rows' colours look alike to someone, all rows have signs: letters in
-/// their order, from A on. Rows of one name and colour are one brush, and have equal numbers of
-/// days.
+/// day type. If any two of the rows' colours look alike to someone, all rows have signs: the
+/// first letter of their name, or else another of it, or any that is free. Rows of one name and
+/// colour are one brush, and have equal numbers of days.
 std::vector<LegendEntry> LegendOf(const CalendarMarks& marks, const std::vector<ColouredType>& rows,
                                   int year);
 

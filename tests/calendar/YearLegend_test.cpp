@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+
 namespace qv {
 namespace {
 
@@ -50,19 +53,34 @@ TEST_F(YearLegendTest, TypesOfOneColourAreToldApartByName) {
 
 TEST_F(YearLegendTest, ColoursThatLookAlikeBringSignsForAll) {
   const auto legend = LegendOf(marks, {work, rest, Row(nearlyYellow, L"Other")}, 2026);
-  EXPECT_EQ(legend[0].sign, L'A');
-  EXPECT_EQ(legend[1].sign, L'B');
-  EXPECT_EQ(legend[2].sign, L'C');
+  EXPECT_EQ(legend[0].sign, L'W');
+  EXPECT_EQ(legend[1].sign, L'R');
+  EXPECT_EQ(legend[2].sign, L'O');
   EXPECT_EQ(legend[3].sign, L'\0');
 }
 
-TEST_F(YearLegendTest, ThereAreFiftyTwoSigns) {
-  const std::vector<ColouredType> rows(60, work);
+TEST_F(YearLegendTest, SignsAreTheFirstLettersOfNamesAsFarAsTheyAreFree) {
+  std::vector<ColouredType> rows;
+  for (const wchar_t* name :
+       {L"A high", L"B mid-high", L"B1 mid", L"b", L"C low", L"\u00D1and\u00FA", L"", L"?!"}) {
+    rows.push_back(Row(red, name));
+  }
+  std::wstring signs;
+  for (const LegendEntry& entry : LegendOf(marks, rows, 2026)) {
+    signs += entry.sign;
+  }
+  // The last ones have no letter of their own that is left.
+  EXPECT_EQ(signs, std::wstring(L"AB1DCNEF") + L'\0');
+}
+
+TEST_F(YearLegendTest, ThereAreSixtyTwoSigns) {
+  const std::vector<ColouredType> rows(70, work);
   const auto legend = LegendOf(marks, rows, 2026);
-  EXPECT_EQ(legend[25].sign, L'Z');
-  EXPECT_EQ(legend[26].sign, L'a');
-  EXPECT_EQ(legend[51].sign, L'z');
-  EXPECT_EQ(legend[52].sign, L'\0');
+  std::set<wchar_t> signs;
+  for (std::size_t i = 0; i < 62; ++i) {
+    EXPECT_TRUE(legend[i].sign && signs.insert(legend[i].sign).second);
+  }
+  EXPECT_EQ(legend[62].sign, L'\0');
 }
 
 }  // namespace
