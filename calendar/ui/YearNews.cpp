@@ -1,35 +1,47 @@
 #include "calendar/ui/YearNews.h"
 
-#include <QAccessible>
-
 #include "calendar/YearGrid.h"
 #include "calendar/ui/YearView.h"
 
 namespace qv {
 namespace {
 
+YearListener listenerInstead = nullptr;
+
+bool IsHeard() { return listenerInstead || QAccessible::isActive(); }
+
+void Tell(QAccessibleEvent& event) {
+  if (listenerInstead) {
+    listenerInstead(event);
+  } else {
+    QAccessible::updateAccessibility(&event);
+  }
+}
+
 void TellOf(YearView& view, CalendarDate date, QAccessible::Event what) {
   QAccessibleEvent event(&view, what);
   event.setChild(YearGrid(view.Year()).CellOf(date));
-  QAccessible::updateAccessibility(&event);
+  Tell(event);
 }
 
 }  // namespace
 
+void ListenInstead(YearListener listener) { listenerInstead = listener; }
+
 void TellCursor(YearView& view) {
   const CalendarDate date = view.Gestures().Cursor().Date();
-  if (QAccessible::isActive() && view.hasFocus() && date.year == view.Year()) {
+  if (IsHeard() && view.hasFocus() && date.year == view.Year()) {
     TellOf(view, date, QAccessible::Focus);
   }
 }
 
 void TellSelection(YearView& view) {
   QAccessibleEvent event(&view, QAccessible::SelectionWithin);
-  QAccessible::updateAccessibility(&event);
+  Tell(event);
 }
 
 void TellMarks(YearView& view, const std::vector<CalendarDate>& dates) {
-  if (!QAccessible::isActive()) {
+  if (!IsHeard()) {
     return;
   }
   for (const CalendarDate date : dates) {
@@ -41,7 +53,7 @@ void TellMarks(YearView& view, const std::vector<CalendarDate>& dates) {
 
 void TellYear(YearView& view) {
   QAccessibleTableModelChangeEvent event(&view, QAccessibleTableModelChangeEvent::ModelReset);
-  QAccessible::updateAccessibility(&event);
+  Tell(event);
 }
 
 }  // namespace qv

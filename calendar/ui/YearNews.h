@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <vector>
 
 #include "calendar/CalendarDate.h"
@@ -9,6 +10,11 @@ namespace qv {
 class YearView;
 
 // What assistive technology is told of a year, as far as there is any that listens.
+
+/// Hears the news in place of assistive technology, which Qt alone finds out about: a test can't
+/// make it listen. Null, as at first, for none.
+using YearListener = void (*)(const QAccessibleEvent& event);
+void ListenInstead(YearListener listener);
 
 /// The cursor is on another date.
 void TellCursor(YearView& view);
