@@ -178,6 +178,8 @@ void CDlgCalendar::ShowAction() {
 }
 
 void CDlgCalendar::OnDestroy() {
+  // The list's selection, which goes with its rows, is nobody's brush any more.
+  const QSignalBlocker silent(m_ui.listDayTypes);
   // It shows the marks of the form, which goes now.
   delete m_calendar;
   m_calendar = nullptr;

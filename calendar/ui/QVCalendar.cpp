@@ -101,7 +101,11 @@ void QVCalendar::GetFirstSelectedDay(QVDateTime& date) const { date = DateOrNone
 
 void QVCalendar::GetLastSelectedDay(QVDateTime& date) const { date = DateOrNone(m_marks.Last()); }
 
-int QVCalendar::GetYear() const { return m_year->value(); }
+int QVCalendar::GetYear() const {
+  // A number that was typed counts, also if a key has left the field without its knowing.
+  m_year->interpretText();
+  return m_year->value();
+}
 
 void QVCalendar::SetYear(int year) { m_year->setValue(year); }
 

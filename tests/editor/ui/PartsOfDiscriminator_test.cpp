@@ -22,19 +22,62 @@ void AddHourType(int end) {
 
 class PartsOfDiscriminator : public Editor {
  protected:
-  /// Modifies the discriminator "old": its button opens the hour types, in which `play` plays the
+  /// Modifies the discriminator "old": the button opens one of its parts, in which `play` plays the
   /// user, and then the editor ends.
-  void PlayInHourTypes(const std::function<void()>& play, int end) {
+  void PlayIn(int link, const std::function<void()>& play, int end) {
     Modify(PutOldFile(), [&] {
       WhenNextWindow(play);
-      Click(hourTypesLink);
+      Click(link);
       EXPECT_EQ(Saved(), oldFile) << "nothing reaches the disk before OK";
       Click(end);
     });
   }
 
+  void PlayInHourTypes(const std::function<void()>& play, int end) {
+    PlayIn(hourTypesLink, play, end);
+  }
+
   QByteArray Saved() const { return Content("1.old.xdct"); }
 };
+
+TEST_F(PartsOfDiscriminator, AConfirmedCalendarIsAChangeEvenWithoutOne) {
+  PlayIn(
+      calendarLink,
+      [] {
+        EXPECT_EQ(TopWindow()->windowTitle(), TitleOf(Text::CalendarTitle));
+        Click(IDOK);
+      },
+      IDOK);
+  EXPECT_TRUE(modified);
+  EXPECT_FALSE(Saved().contains("<revision>r</revision>"));
+}
+
+TEST_F(PartsOfDiscriminator, ACancelledCalendarKeepsTheRevision) {
+  PlayIn(
+      calendarLink, [] { Click(IDCANCEL); }, IDOK);
+  EXPECT_FALSE(modified);
+  EXPECT_TRUE(Saved().contains("<revision>r</revision>"));
+}
+
+TEST_F(PartsOfDiscriminator, DatesAreMarkedThroughTheButtonOfTheCalendarAndSaved) {
+  QByteArray file = oldFile;
+  file.replace("<dayTypes/>", "<dayTypes><day><id>w</id><name>Work</name></day></dayTypes>");
+  Modify(PutFile("1.old.xdct", file), [] {
+    WhenNextWindow([] {
+      WhenNextWindow([] {
+        TopControl<QAbstractButton>(weekDayChecks[0])->click();
+        TopControl<QAbstractButton>(monthChecks[0])->click();
+        Click(IDOK);
+      });
+      Click(fastSelectionButton);
+      Click(IDOK);
+    });
+    Click(calendarLink);
+    Click(IDOK);
+  });
+  EXPECT_TRUE(Saved().contains("<month1>"));
+  EXPECT_TRUE(Saved().contains(">w</day"));
+}
 
 TEST_F(PartsOfDiscriminator, HourTypesAreAddedThroughTheirButtonAndSaved) {
   PlayInHourTypes([] { AddHourType(IDOK); }, IDOK);
