@@ -57,6 +57,12 @@ QVCalendar::QVCalendar(QWidget* parent, qv::CalendarMarks& marks, const QVDateTi
   setFocusProxy(m_view);
 }
 
+QVCalendar::~QVCalendar() {
+  // The part that has the focus loses it when the calendar has gone but for its parts.
+  m_year->disconnect(this);
+  m_view->disconnect(this);
+}
+
 void QVCalendar::AddShortcuts() {
   const auto add = [this](QKeyCombination key, void (qv::YearView::*verb)()) {
     connect(new QShortcut(key, this), &QShortcut::activated, m_view, verb);

@@ -23,6 +23,7 @@ class QVCalendar : public QWidget {
  public:
   /// Shows `marks`, which outlive the calendar, in the year of `today`.
   QVCalendar(QWidget* parent, qv::CalendarMarks& marks, const QVDateTime& today);
+  ~QVCalendar() override;
 
   /// The texts of the months, from 0 for January, and of the weekdays, from 0 for Monday. Another
   /// index throws `std::out_of_range`.
