@@ -48,10 +48,14 @@ std::vector<CalendarDate> DatesBetween(CalendarDate one, CalendarDate other) {
 std::vector<CalendarDate> BlockBetween(CalendarDate one, CalendarDate other) {
   const auto [first, last] = std::minmax({WeekdayOf(one), WeekdayOf(other)});
   const auto [from, to] = std::minmax({MondayOf(one), MondayOf(other)});
+  const auto [firstYear, lastYear] = std::minmax({one.year, other.year});
   std::vector<CalendarDate> dates;
   for (CalendarDate monday = from; monday <= to; monday = DaysAfter(monday, daysOfWeek)) {
     for (int weekday = first; weekday <= last; ++weekday) {
-      dates.push_back(DaysAfter(monday, weekday));
+      const CalendarDate date = DaysAfter(monday, weekday);
+      if (date.year >= firstYear && date.year <= lastYear) {
+        dates.push_back(date);
+      }
     }
   }
   return dates;

@@ -22,7 +22,8 @@ CalendarDate MonthsAfter(CalendarDate date, int months);
 std::vector<CalendarDate> DatesBetween(CalendarDate one, CalendarDate other);
 
 /// The dates of a block, whose corners are two dates: in each week from that of one to that of the
-/// other, those weekdays that lie from the weekday of one to that of the other.
+/// other, those weekdays that lie from the weekday of one to that of the other. Dates of a year
+/// that is neither of theirs nor between, as at the turn of a year, are left out.
 std::vector<CalendarDate> BlockBetween(CalendarDate one, CalendarDate other);
 
 /// The Monday of the date's week.

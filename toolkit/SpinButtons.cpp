@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QToolButton>
 #include <QWheelEvent>
+#include <cstdlib>
 
 namespace qv {
 namespace {
@@ -46,15 +47,9 @@ void SpinButtons::Step(int delta) {
 }
 
 void SpinButtons::Turn(const QWheelEvent& event) {
-  // Fine wheels and touchpads turn in parts of a step.
-  m_turned += event.angleDelta().y();
-  for (; m_turned >= QWheelEvent::DefaultDeltasPerStep;
-       m_turned -= QWheelEvent::DefaultDeltasPerStep) {
-    Step(1);
-  }
-  for (; m_turned <= -QWheelEvent::DefaultDeltasPerStep;
-       m_turned += QWheelEvent::DefaultDeltasPerStep) {
-    Step(-1);
+  const int steps = m_wheel.Turn(event.angleDelta().y());
+  for (int step = 0; step < std::abs(steps); ++step) {
+    Step(steps > 0 ? 1 : -1);
   }
 }
 

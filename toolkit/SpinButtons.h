@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "toolkit/WheelSteps.h"
+
 class QLineEdit;
 class QToolButton;
 
@@ -40,7 +42,7 @@ class SpinButtons : public QWidget {
   QToolButton* m_up;
   QToolButton* m_down;
   QLineEdit* m_buddy = nullptr;
-  int m_turned = 0;  ///< of the wheel, in eighths of a degree, what is not yet a step
+  WheelSteps m_wheel;
 };
 
 }  // namespace qv

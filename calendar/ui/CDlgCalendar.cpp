@@ -36,6 +36,11 @@ CDlgCalendar::CDlgCalendar(CWnd* parent, qv::XmlNode* calendar, qv::XmlNode* day
   connect(m_ui.buttonFastSelection, &QPushButton::clicked, this, &CDlgCalendar::OnFastSelection);
 }
 
+CDlgCalendar::~CDlgCalendar() {
+  // A parent that is destroyed takes a running dialog along, whose form goes before its controls.
+  delete m_calendar;
+}
+
 std::unique_ptr<qv::CalendarForm> CDlgCalendar::MakeForm() {
   return std::make_unique<qv::CalendarForm>(m_calendarNode, m_dayTypes);
 }

@@ -19,6 +19,7 @@ class CDlgCalendar : public qv::EditingDialog<qv::CalendarForm> {
   /// `calendar` is written by OK, `dayTypes` only read, and `hourTypes` not used. All outlive the
   /// dialog.
   CDlgCalendar(CWnd* parent, qv::XmlNode* calendar, qv::XmlNode* dayTypes, qv::XmlNode* hourTypes);
+  ~CDlgCalendar() override;
 
  protected:
   std::unique_ptr<qv::CalendarForm> MakeForm() override;

@@ -43,7 +43,7 @@ QVCalendar::QVCalendar(QWidget* parent, qv::CalendarMarks& marks, const QVDateTi
   connect(m_before, &QToolButton::clicked, m_year, &QSpinBox::stepDown);
   connect(m_after, &QToolButton::clicked, m_year, &QSpinBox::stepUp);
   connect(m_view, &qv::YearView::Marked, this, &QVCalendar::OnMarked);
-  connect(m_view, &qv::YearView::YearWanted, this, &QVCalendar::SetYear);
+  connect(m_view, &qv::YearView::YearWanted, this, &QVCalendar::OnYearWanted);
   connect(m_view, &qv::YearView::BrushWanted, this, &QVCalendar::BrushWanted);
   connect(m_view, &qv::YearView::MonthsChanged, this, &QVCalendar::OnMonths);
   connect(m_view, &qv::YearView::MenuWanted, m_view,
@@ -77,6 +77,8 @@ void QVCalendar::NameParts() {
   m_after->setAccessibleName(qv::YearWord(Text::YearAfter));
   m_view->setAccessibleName(qv::YearWord(Text::YearName));
   m_legend->setAccessibleName(qv::YearWord(Text::LegendName));
+  m_year->setAccessibleName(qv::HostWord(Text::Year));
+  m_months->setAccessibleName(qv::HostWord(Text::Months));
 }
 
 void QVCalendar::SetMonthName(int index, const QVWideString& name) {
@@ -107,13 +109,15 @@ void QVCalendar::GetFirstSelectedDay(QVDateTime& date) const { date = DateOrNone
 
 void QVCalendar::GetLastSelectedDay(QVDateTime& date) const { date = DateOrNone(m_marks.Last()); }
 
-int QVCalendar::GetYear() const {
-  // A number that was typed counts, also if a key has left the field without its knowing.
-  m_year->interpretText();
-  return m_year->value();
-}
+int QVCalendar::GetYear() const { return m_year->value(); }
 
 void QVCalendar::SetYear(int year) { m_year->setValue(year); }
+
+void QVCalendar::OnYearWanted(int year) {
+  // It may be one that is on offer no more, or not yet, since its last mark went or came.
+  m_year->setRange(std::min(m_year->minimum(), year), std::max(m_year->maximum(), year));
+  SetYear(year);
+}
 
 void QVCalendar::OnYear(int year) {
   m_view->GoToYear(year);
@@ -172,7 +176,9 @@ void QVCalendar::LayOut() {
   m_before->setGeometry(left - line, 0, line, line);
   m_after->setGeometry(left + yearWidth, 0, line, line);
   const int top = line + line / 4;
-  const int legendHeight = m_dayTypes.empty() ? 0 : m_legend->HeightFor(width());
+  // The year is what people come for; the list has all day types as well.
+  const int most = std::max(0, height() - top) / 3;
+  const int legendHeight = m_dayTypes.empty() ? 0 : std::min(m_legend->HeightFor(width()), most);
   m_legend->setGeometry(0, height() - legendHeight, width(), legendHeight);
   LayOutYear({0, top, width(), std::max(0, height() - top - legendHeight)});
 }
@@ -190,8 +196,8 @@ void QVCalendar::LayOutYear(const QRect& room) {
 
 void QVCalendar::wheelEvent(QWheelEvent* event) {
   const bool isOverHeader = event->position().y() < m_year->height();
-  if (isOverHeader && event->angleDelta().y() != 0) {
-    m_year->stepBy(event->angleDelta().y() > 0 ? 1 : -1);
+  if (isOverHeader) {
+    m_year->stepBy(m_wheel.Turn(event->angleDelta().y()));
   }
   event->setAccepted(isOverHeader);
 }

@@ -4,6 +4,7 @@
 
 #include "calendar/CalendarMarks.h"
 #include "discriminator/ColouredType.h"
+#include "toolkit/WheelSteps.h"
 
 class QScrollBar;
 
@@ -66,6 +67,7 @@ class QVCalendar : public QWidget {
   void AddShortcuts();
   void NameParts();
   void OnYear(int year);
+  void OnYearWanted(int year);
   void OnMarked();
   void OnMonths();
   void LayOut();
@@ -79,4 +81,5 @@ class QVCalendar : public QWidget {
   qv::YearView* m_view;
   QScrollBar* m_months;  // where not all of them fit
   qv::LegendView* m_legend;
+  qv::WheelSteps m_wheel;  // over the header
 };

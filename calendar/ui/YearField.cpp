@@ -5,7 +5,7 @@
 namespace qv {
 
 YearField::YearField(QWidget* parent) : QSpinBox(parent) {
-  setKeyboardTracking(false);
+  setFocusPolicy(Qt::StrongFocus);
   setAlignment(Qt::AlignHCenter);
 }
 

@@ -4,8 +4,8 @@
 
 namespace qv {
 
-/// A year, to be typed, stepped by the arrows, or turned by the wheel. What is typed counts when
-/// Return is pressed, which does nothing else, or when the field is left.
+/// A year, to be typed, stepped by the arrows, or turned by the wheel, which leaves the focus where
+/// it is. What is typed counts at once; Return does nothing.
 class YearField : public QSpinBox {
   Q_OBJECT
 

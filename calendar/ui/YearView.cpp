@@ -40,7 +40,7 @@ void YearView::GoToYear(int year) {
     TellYear(*this);
     TellCursor(*this);
   }
-  ShowCursor();
+  ShowGestures();
 }
 
 void YearView::Do(const std::function<bool(YearGestures&)>& gesture) {
@@ -51,7 +51,10 @@ void YearView::Do(const std::function<bool(YearGestures&)>& gesture) {
   if (const int year = m_gestures.Cursor().Date().year; year != Year()) {
     emit YearWanted(year);
   }
-  ShowCursor();
+  if (m_gestures.Cursor().Date() != before.Date() && !m_gestures.IsDrawing()) {
+    Reveal(m_gestures.Cursor().Date().month);
+  }
+  ShowGestures();
   TellWhatMoved(before);
 }
 
@@ -66,13 +69,13 @@ void YearView::TellWhatMoved(const CalendarCursor& before) {
 }
 
 void YearView::Undo() {
-  if (m_marks.Undo()) {
+  if (!m_gestures.IsDrawing() && m_marks.Undo()) {
     ShowChanged(m_marks.DatesToRedo());
   }
 }
 
 void YearView::Redo() {
-  if (m_marks.Redo()) {
+  if (!m_gestures.IsDrawing() && m_marks.Redo()) {
     ShowChanged(m_marks.DatesToUndo());
   }
 }
@@ -84,18 +87,27 @@ void YearView::ShowChanged(const std::vector<CalendarDate>& dates) {
   if (!isSeen) {
     emit YearWanted(dates.front().year);
   }
+  const YearGeometry geometry = Geometry();
+  const bool isInSight = std::any_of(dates.begin(), dates.end(), [&](CalendarDate date) {
+    return date.year == Year() && geometry.Shows(date.month);
+  });
+  if (!isInSight) {
+    Reveal(dates.front().month);
+  }
   Repaint(dates);
   TellMarks(*this, dates);
 }
 
-void YearView::ShowCursor() {
-  const CalendarCursor& cursor = m_gestures.Cursor();
+void YearView::Reveal(int month) {
   const YearGeometry geometry = Geometry();
-  const int month = cursor.Date().month;
-  if (!m_gestures.IsDrawing() && !geometry.Shows(month)) {
+  if (!geometry.Shows(month)) {
     const bool isBefore = month < geometry.FirstMonth();
     SetFirstMonth(isBefore ? month : month - geometry.MonthsShown() + 1);
   }
+}
+
+void YearView::ShowGestures() {
+  const CalendarCursor& cursor = m_gestures.Cursor();
   YearState state{m_gestures.Covered(), {}, {}};
   if (cursor.HasRange()) {
     state.selected = cursor.Selected();
@@ -125,7 +137,11 @@ bool YearView::event(QEvent* event) {
 
 void YearView::focusInEvent(QFocusEvent* event) {
   YearSheet::focusInEvent(event);
-  ShowCursor();
+  if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+    // A pointer is where it is, and goes on to press what it sees there.
+    Reveal(m_gestures.Cursor().Date().month);
+  }
+  ShowGestures();
   TellCursor(*this);
 }
 
@@ -133,7 +149,7 @@ void YearView::focusOutEvent(QFocusEvent* event) {
   YearSheet::focusOutEvent(event);
   // The release may go elsewhere now.
   m_gestures.Cancel();
-  ShowCursor();
+  ShowGestures();
 }
 
 void YearView::mousePressEvent(QMouseEvent* event) {
@@ -149,12 +165,15 @@ void YearView::mousePressEvent(QMouseEvent* event) {
 }
 
 void YearView::mouseMoveEvent(QMouseEvent* event) {
-  if (!m_gestures.IsDrawing()) {
-    return;
+  if (m_gestures.IsDrawing()) {
+    ScrollPast(event->position());
+    DragTo(*event);
   }
-  ScrollPast(event->position());
-  if (const auto date = NearestDate(event->position())) {
-    const bool asBlock = event->modifiers().testFlag(Qt::ControlModifier);
+}
+
+void YearView::DragTo(const QMouseEvent& event) {
+  if (const auto date = NearestDate(event.position())) {
+    const bool asBlock = event.modifiers().testFlag(Qt::ControlModifier);
     Do([&](YearGestures& gestures) {
       gestures.DragTo(*date, asBlock);
       return false;
@@ -175,6 +194,8 @@ void YearView::ScrollPast(const QPointF& place) {
 
 void YearView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && m_gestures.IsDrawing()) {
+    // Control may have been pressed or let go without a move.
+    DragTo(*event);
     Do([](YearGestures& gestures) { return gestures.Release(); });
   }
 }
@@ -190,13 +211,13 @@ void YearView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void YearView::wheelEvent(QWheelEvent* event) {
   const YearGeometry geometry = Geometry();
-  const int turn = event->angleDelta().y();
-  if (geometry.MonthsShown() == monthsOfYear || turn == 0) {
+  if (geometry.MonthsShown() == monthsOfYear) {
     event->ignore();
     return;
   }
-  SetFirstMonth(std::clamp(geometry.FirstMonth() + (turn > 0 ? -1 : 1), 1,
-                           monthsOfYear + 1 - geometry.MonthsShown()));
+  const int steps = m_wheel.Turn(event->angleDelta().y());
+  SetFirstMonth(
+      std::clamp(geometry.FirstMonth() - steps, 1, monthsOfYear + 1 - geometry.MonthsShown()));
   event->accept();
 }
 
@@ -216,6 +237,13 @@ bool YearView::HandleKey(const QKeyEvent& event) {
     }
     return true;
   }
+  if (event.modifiers().testAnyFlags(Qt::AltModifier | Qt::MetaModifier)) {
+    return false;
+  }
+  if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
+    AskForMenuAtCursor();
+    return true;
+  }
   if (const auto key = CursorKeyOf(event.key())) {
     const bool byYear = event.modifiers().testFlag(Qt::ControlModifier);
     const bool extends = event.modifiers().testFlag(Qt::ShiftModifier);
@@ -225,7 +253,8 @@ bool YearView::HandleKey(const QKeyEvent& event) {
     });
     return true;
   }
-  if (const auto row = BrushKeyOf(event.key())) {
+  const auto row = BrushKeyOf(event.key());
+  if (row && !event.modifiers().testFlag(Qt::ControlModifier)) {
     emit BrushWanted(*row);
     return true;
   }
@@ -255,8 +284,17 @@ void YearView::contextMenuEvent(QContextMenuEvent* event) {
       return false;
     });
   }
-  const QRect cell = CellOf(m_gestures.Cursor().Date());
-  emit MenuWanted(isByMouse ? event->globalPos() : mapToGlobal(cell.center()));
+  if (isByMouse) {
+    emit MenuWanted(event->globalPos());
+  } else {
+    AskForMenuAtCursor();
+  }
+}
+
+void YearView::AskForMenuAtCursor() {
+  const CalendarDate date = m_gestures.Cursor().Date();
+  Reveal(date.month);
+  emit MenuWanted(mapToGlobal(CellOf(date).center()));
 }
 
 }  // namespace qv

@@ -5,6 +5,7 @@
 #include "calendar/YearGestures.h"
 #include "calendar/ui/YearSheet.h"
 #include "calendar/ui/YearTable.h"
+#include "toolkit/WheelSteps.h"
 
 namespace qv {
 
@@ -56,7 +57,11 @@ class YearView : public YearSheet {
  private:
   bool HandleKey(const QKeyEvent& event);
   bool HandleVerb(int key);
-  void ShowCursor();
+  /// Scrolls to a month that isn't on show.
+  void Reveal(int month);
+  void ShowGestures();
+  void DragTo(const QMouseEvent& event);
+  void AskForMenuAtCursor();
   void TellWhatMoved(const CalendarCursor& before);
   void ShowChanged(const std::vector<CalendarDate>& dates);
   void ScrollPast(const QPointF& place);
@@ -64,6 +69,7 @@ class YearView : public YearSheet {
   YearTableOffer m_offer;
   CalendarMarks& m_marks;
   YearGestures m_gestures;
+  WheelSteps m_wheel;
   bool m_isOutside = false;  // whether a stroke's pointer has left the view
 };
 

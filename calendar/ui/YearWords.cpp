@@ -20,6 +20,11 @@ QString YearWord(Text text) {
   return loadString ? OwnText(*loadString, text) : QString();
 }
 
+QString HostWord(Text text) {
+  const QVLoadString* loadString = QVLoadString::Get();
+  return loadString ? HostText(*loadString, text) : QString();
+}
+
 QString YearCaption(Text text) {
   const QVLoadString* loadString = QVLoadString::Get();
   return loadString && !loadString->IsMute(text) ? HostCaption(*loadString, text) : QString();

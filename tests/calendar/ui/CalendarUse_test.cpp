@@ -145,6 +145,21 @@ TEST_F(CalendarDialog, AYearThatIsOnlyTypedIsThatOfTheFastSelection) {
   EXPECT_EQ(IdOf(2031, 1, 1), L"r");
 }
 
+TEST_F(CalendarDialog, ADestroyedParentTakesItAlongWhileAYearIsTyped) {
+  auto* parent = new QWidget;
+  parent->show();
+  auto* dialog = new CDlgCalendar(parent, calendar.get(), days.get(), hours.get());
+  const int result = Drive([&] { return dialog->DoModal(); },
+                           [&] {
+                             auto* year = Control()->findChild<QSpinBox*>();
+                             year->setFocus();
+                             year->selectAll();
+                             QTest::keyClicks(year, "20");
+                             delete parent;
+                           });
+  EXPECT_EQ(result, IDCANCEL);
+}
+
 TEST_F(CalendarDialog, ASecondRunBeginsWithoutABrush) {
   CDlgCalendar dialog(nullptr, calendar.get(), days.get(), hours.get());
   Play(dialog, [] {
