@@ -52,7 +52,8 @@ class FreeSigns {
     return sign;
   }
 
-  std::wstring m_free = L"ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789abcdefghijklmnopqrstuvwxyz";
+  // Letters, but for those that look like digits beside a number, or are too broad for a date.
+  std::wstring m_free = L"ABCDEFGHJKLNPQRSTUVXYZabcdefghijknpqrstuvxyz";
 };
 
 /// A sign for each row: the first letter of its name where that is free.

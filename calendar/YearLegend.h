@@ -18,7 +18,8 @@ struct LegendEntry {
 
 /// An entry for each of `rows`, in their order, and a last one for the dates of `year` without a
 /// day type. If any two of the rows' colours look alike to someone, all rows have signs: the
-/// first letter of their name, or else another of it, or any that is free. Rows of one name and
+/// first letter of their name, or else another of it, or any that is free. No sign is a letter that
+/// looks like a digit (I, O) or is broad (M, W). Rows of one name and
 /// colour are one brush, and have equal numbers of days.
 std::vector<LegendEntry> LegendOf(const CalendarMarks& marks, const std::vector<ColouredType>& rows,
                                   int year);
