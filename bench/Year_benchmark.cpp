@@ -3,12 +3,14 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QMouseEvent>
 #include <QPainter>
 #include <string_view>
 #include <vector>
 
 #include "calendar/YearPicture.h"
 #include "calendar/ui/QVCalendar.h"
+#include "calendar/ui/YearView.h"
 #include "toolkit/PaintBox.h"
 #include "toolkit/PainterCanvas.h"
 #include "toolkit/Strings.h"
@@ -39,11 +41,12 @@ class MarkedYears {
 
   qv::CalendarMarks& Marks() { return m_marks; }
   qv::YearLook& Look() { return m_look; }
-
-  void Count(int shown) {
-    m_look.legend = qv::LegendOf(
-        m_marks, {{nullptr, rest.text, rest.colour}, {nullptr, work.text, work.colour}}, shown);
+  const qv::YearLook& Look() const { return m_look; }
+  static std::vector<qv::ColouredType> DayTypes() {
+    return {{nullptr, rest.text, rest.colour}, {nullptr, work.text, work.colour}};
   }
+
+  void Count(int shown) { m_look.legend = qv::LegendOf(m_marks, DayTypes(), shown); }
 
  private:
   static qv::CalendarDate DayBehind(qv::CalendarDate date) {
@@ -189,8 +192,10 @@ void SwitchYearAndBack(benchmark::State& state) {
   }
 }
 
-/// Shows the control, with the texts of the picture.
-void Show(QVCalendar& calendar, const qv::YearStyle& style) {
+/// Shows the control, with the texts and the day types of the picture.
+void Show(QVCalendar& calendar, const MarkedYears& years) {
+  const qv::YearStyle& style = years.Look().style;
+  calendar.SetDayTypes(years.DayTypes());
   for (std::size_t i = 0; i < style.monthNames.size(); ++i) {
     calendar.SetMonthName(static_cast<int>(i), style.monthNames[i]);
   }
@@ -202,11 +207,43 @@ void Show(QVCalendar& calendar, const qv::YearStyle& style) {
   QApplication::processEvents();
 }
 
-/// Each time another year of the control, up to the window's own picture, without signs.
+/// A repaint of the whole year by the control, in its window.
+void ControlRepaints(benchmark::State& state) {
+  MarkedYears years;
+  QVCalendar calendar(nullptr, years.Marks(), qv::ToDateTime({year, 11, 22}));
+  Show(calendar, years);
+  auto* view = calendar.findChild<qv::YearView*>();
+  for (auto _ : state) {
+    view->RepaintAll();
+    QApplication::processEvents();
+  }
+}
+
+/// One more date, or one less, of a stroke that the pointer draws over a month.
+void ControlDragStep(benchmark::State& state) {
+  MarkedYears years;
+  QVCalendar calendar(nullptr, years.Marks(), qv::ToDateTime({year, 11, 22}));
+  Show(calendar, years);
+  auto* view = calendar.findChild<qv::YearView*>();
+  const auto send = [view](QEvent::Type type, int day) {
+    const QPointF place = view->CellOf({year, 1, day}).center();
+    QMouseEvent event(type, place, view->mapToGlobal(place), Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(view, &event);
+    QApplication::processEvents();
+  };
+  send(QEvent::MouseButtonPress, 1);
+  int day = 30;
+  for (auto _ : state) {
+    day = day == 30 ? 31 : 30;
+    send(QEvent::MouseMove, day);
+  }
+}
+
+/// Each time another year of the control, up to the window's own picture.
 void ControlSwitchesYear(benchmark::State& state) {
   MarkedYears years;
   QVCalendar calendar(nullptr, years.Marks(), qv::ToDateTime({year, 11, 22}));
-  Show(calendar, years.Look().style);
+  Show(calendar, years);
   int shown = year;
   for (auto _ : state) {
     shown = shown == year ? year + 1 : year;
@@ -223,6 +260,8 @@ BENCHMARK(Painter)->Apply(InMicroseconds);
 BENCHMARK(Drawing)->Apply(InMicroseconds);
 BENCHMARK(DragStep)->Apply(InMicroseconds);
 BENCHMARK(SwitchYearAndBack)->Apply(InMicroseconds);
+BENCHMARK(ControlRepaints)->Apply(InMicroseconds);
+BENCHMARK(ControlDragStep)->Apply(InMicroseconds);
 BENCHMARK(ControlSwitchesYear)->Apply(InMicroseconds);
 
 }  // namespace

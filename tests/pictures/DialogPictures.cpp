@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QTimer>
+#include <string>
 
 #include "apps/configurator/Theme.h"
 #include "apps/configurator/Workspace.h"
@@ -41,9 +42,13 @@ class Album {
   QDir m_directory;
 };
 
-QString Tariff() {
-  return QStringLiteral(PICTURED_FILE
-                        "9cfc40ad-7433-4b63-9bdc-fddcb544122c.Tariff 3-0TD and 6-1TD 2026.xdct");
+constexpr char tariff2[] =
+    PICTURED_FILE "142ff28b-e7f0-4c2b-9500-df7680b117a7.Tariff 2-0TD 2026.xdct";
+constexpr char tariff3[] =
+    PICTURED_FILE "9cfc40ad-7433-4b63-9bdc-fddcb544122c.Tariff 3-0TD and 6-1TD 2026.xdct";
+
+QVWideString PathOf(const char* tariff) {
+  return QVWideString(QString::fromUtf8(tariff).toStdWString().c_str());
 }
 
 /// Opens the installation as the words of the command line say; false if it can't be opened.
@@ -75,12 +80,20 @@ void AddDayTypes(const Album& album, qv::XmlNode& dayTypes, qv::XmlNode& hourTyp
   album.Add(CDlgAddModifyTimeSlot(nullptr, &hourTypes, day.Node(L"slot"), 0x80CCFF), "time-slot");
 }
 
-void AddCalendar(const Album& album, qv::XmlNode& calendar, qv::XmlNode& dayTypes) {
-  album.Add(CDlgCalendar(nullptr, &calendar, &dayTypes, nullptr), "calendar");
-  album.Add(CDlgCalendar(nullptr, &calendar, &dayTypes, nullptr), "calendar-least", QSize(1, 1));
-  album.Add(CDlgCalendar(nullptr, &calendar, &dayTypes, nullptr), "calendar-large",
-            QSize(1400, 900));
-  album.Add(CDlgFastSelection(nullptr, &dayTypes, 2026), "fast-selection");
+/// The calendar of a tariff at three sizes, under names that begin so.
+void AddCalendar(const Album& album, const char* tariff, const std::string& name) {
+  XmlDocument document;
+  if (!document.Load(PathOf(tariff))) {
+    return;
+  }
+  qv::XmlNode* calendar = document.Root()->Node(L"calendar");
+  qv::XmlNode* dayTypes = document.Root()->Node(L"dayTypes");
+  const auto add = [&](const char* size, QSize pixels) {
+    album.Add(CDlgCalendar(nullptr, calendar, dayTypes, nullptr), (name + size).c_str(), pixels);
+  };
+  add("", {});
+  add("-least", {1, 1});
+  add("-large", {1400, 900});
 }
 
 }  // namespace
@@ -93,7 +106,7 @@ int main(int count, char** arguments) {
   }
   configurator::Workspace workspace(configurator::ProgramDirectories::OfThisProgram());
   XmlDocument document;
-  const QVWideString path(Tariff().toStdWString().c_str());
+  const QVWideString path = PathOf(tariff3);
   if (!Open(workspace, words) || !document.Load(path)) {
     return 1;
   }
@@ -103,6 +116,8 @@ int main(int count, char** arguments) {
   AddHourTypes(album, hourTypes);
   qv::XmlNode& dayTypes = *document.Root()->Node(L"dayTypes");
   AddDayTypes(album, dayTypes, hourTypes);
-  AddCalendar(album, *document.Root()->Node(L"calendar"), dayTypes);
+  album.Add(CDlgFastSelection(nullptr, &dayTypes, 2026), "fast-selection");
+  AddCalendar(album, tariff2, "calendar-2-0TD");
+  AddCalendar(album, tariff3, "calendar");
   return 0;
 }
