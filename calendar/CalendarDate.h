@@ -12,6 +12,7 @@ struct CalendarDate {
   int month = 0;
   int day = 0;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): what the comparison is made of isn't written here
   friend auto operator<=>(const CalendarDate&, const CalendarDate&) = default;
 };
 

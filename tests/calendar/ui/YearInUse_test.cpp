@@ -1,5 +1,8 @@
 // What comes together when a year is used: focus, scrolled months, strokes and undo.
+#include <QPaintEvent>
+#include <QScrollBar>
 #include <QSpinBox>
+#include <utility>
 
 #include "calendar/YearDates.h"
 #include "calendar/ui/LegendView.h"
@@ -19,6 +22,59 @@ class YearInUse : public CalendarOnScreen {
     QApplication::sendEvent(over, &event);
   }
 };
+
+/// What of a widget is painted while it lives.
+class PaintedRegion : public QObject {
+ public:
+  explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
+
+  QRegion Take() {
+    QApplication::processEvents();
+    return std::exchange(m_region, {});
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      m_region += static_cast<QPaintEvent*>(event)->region();
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QRegion m_region;
+};
+
+TEST_F(YearInUse, ARepaintTouchesWhatChanged) {
+  PaintedRegion painted(View());
+  painted.Take();
+  const QRect before = View()->CellOf(Cursor());
+  Key(Qt::Key_Left);
+  const QRegion region = painted.Take();
+  EXPECT_TRUE(region.contains(before));
+  EXPECT_TRUE(region.contains(View()->CellOf(Cursor())));
+  EXPECT_FALSE(region.intersects(View()->CellOf({2026, 1, 1})));
+  calendar->SetYear(2027);
+  EXPECT_TRUE(painted.Take().contains(View()->rect()));
+}
+
+TEST_F(YearInUse, UndoAndRedoAreSeen) {
+  PaintedRegion painted(View());
+  const QImage before = Picture();
+  Key(Qt::Key_Space);
+  const QImage marked = Picture();
+  EXPECT_NE(marked, before);
+  painted.Take();
+  View()->Undo();
+  EXPECT_TRUE(painted.Take().contains(View()->CellOf(Cursor())));
+  EXPECT_EQ(Picture(), before);
+  View()->Redo();
+  EXPECT_EQ(Picture(), marked);
+}
+
+TEST_F(YearInUse, TheMonthsStandClearOfTheHeader) {
+  EXPECT_GE(View()->y(), Year()->geometry().bottom() + Year()->height() / 4);
+}
 
 /// A calendar with less room than a year takes, whose cursor is in January.
 class ScrolledYear : public YearInUse {
@@ -44,6 +100,10 @@ TEST_F(ScrolledYear, TheTabKeyShowsTheCursor) {
   Year()->setFocus();
   View()->setFocus(Qt::TabFocusReason);
   EXPECT_TRUE(View()->Geometry().Shows(1));
+}
+
+TEST_F(ScrolledYear, APageOfTheScrollBarIsWhatIsOnShow) {
+  EXPECT_EQ(calendar->findChild<QScrollBar*>()->pageStep(), View()->Geometry().MonthsShown());
 }
 
 TEST_F(ScrolledYear, AnotherYearKeepsTheMonthsOnShow) {
