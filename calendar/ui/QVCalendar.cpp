@@ -10,6 +10,7 @@
 #include "calendar/ui/YearButton.h"
 #include "calendar/ui/YearField.h"
 #include "calendar/ui/YearMenu.h"
+#include "calendar/ui/YearNews.h"
 #include "calendar/ui/YearView.h"
 #include "calendar/ui/YearWords.h"
 
@@ -127,6 +128,7 @@ void QVCalendar::OnYear(int year) {
 void QVCalendar::ShowMarks() {
   OnMarked();
   m_view->RepaintAll();
+  qv::TellYear(*m_view);
 }
 
 void QVCalendar::OnMarked() {

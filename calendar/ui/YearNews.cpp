@@ -44,6 +44,11 @@ void TellMarks(YearView& view, const std::vector<CalendarDate>& dates) {
   if (!IsHeard()) {
     return;
   }
+  constexpr std::size_t daysOfMonth = 31;
+  if (dates.size() > daysOfMonth) {
+    TellYear(view);
+    return;
+  }
   for (const CalendarDate date : dates) {
     if (date.year == view.Year()) {
       TellOf(view, date, QAccessible::NameChanged);

@@ -20,9 +20,10 @@ void ListenInstead(YearListener listener);
 void TellCursor(YearView& view);
 /// Another range is selected.
 void TellSelection(YearView& view);
-/// Dates of the year have other marks.
+/// Dates of the year have other marks: each is told, or the year as a whole if they are more than
+/// those of a month.
 void TellMarks(YearView& view, const std::vector<CalendarDate>& dates);
-/// Another year is on show.
+/// Another year is on show, or the same one with other marks.
 void TellYear(YearView& view);
 
 }  // namespace qv

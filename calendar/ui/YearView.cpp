@@ -31,14 +31,17 @@ YearView::YearView(QWidget* parent, CalendarMarks& marks, CalendarDate today)
 
 void YearView::GoToYear(int year) {
   const CalendarDate at = m_gestures.Cursor().Date();
-  if (at.year != year) {
+  const bool isLedThere = at.year == year;  // by the cursor, which is told of for itself
+  if (!isLedThere) {
     m_gestures.Cancel();
     m_gestures.Cursor().GoTo(MonthsAfter(at, (year - at.year) * monthsOfYear));
   }
   if (year != Year()) {
     SetYear(year);
     TellYear(*this);
-    TellCursor(*this);
+    if (!isLedThere) {
+      TellCursor(*this);
+    }
   }
   ShowGestures();
 }

@@ -197,6 +197,19 @@ TEST_F(YearNewsTest, NewMarksAreTold) {
             (std::vector{CellOf({2026, 5, 17}), CellOf({2026, 5, 18})}));
 }
 
+TEST_F(YearNewsTest, ManyNewMarksAreToldAsOne) {
+  Drag({2026, 5, 1}, {2026, 6, 1});
+  EXPECT_TRUE(Cells(QAccessible::NameChanged).empty());
+  EXPECT_EQ(Cells(QAccessible::TableModelChanged).size(), 1U);
+  calendar->ShowMarks();
+  EXPECT_EQ(Cells(QAccessible::TableModelChanged).size(), 2U);
+}
+
+TEST_F(YearNewsTest, AKeyThatLeadsToAnotherYearTellsItsDateOnce) {
+  Key(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(Cells(QAccessible::Focus), std::vector{CellOf({2027, 1, 1})});
+}
+
 TEST_F(YearNewsTest, AnotherYearIsTold) {
   calendar->SetYear(2012);
   EXPECT_EQ(Cells(QAccessible::TableModelChanged).size(), 1U);
