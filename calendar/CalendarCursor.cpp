@@ -7,8 +7,6 @@
 namespace qv {
 namespace {
 
-constexpr int monthsOfYear = 12;
-
 CalendarDate LastOfMonth(CalendarDate date) { return DatesOfMonth(date.year, date.month).back(); }
 
 CalendarDate ByYear(CalendarDate date, CursorKey key) {

@@ -28,7 +28,6 @@ DateCoats::DateCoats(const YearLook& look) : m_look(look) {
 }
 
 const DateCoat& DateCoats::Of(CalendarDate date) {
-  constexpr int saturday = 5;
   if (const Brush* brush = BrushOf(date)) {
     return OfBrush(*brush);
   }

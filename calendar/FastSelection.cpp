@@ -24,7 +24,7 @@ bool MatchesFastSelection(const QVDateTime& date, const FastSelection& rule) {
 std::vector<CalendarDate> DatesOfFastSelection(int year, const FastSelection& rule) {
   std::vector<CalendarDate> dates;
   for (int month = 1; month <= 12; ++month) {
-    const int days = DaysOfMonth(ToDateTime({year, month, 1}));
+    const int days = DaysIn(year, month);
     for (int day = 1; day <= days; ++day) {
       const CalendarDate date{year, month, day};
       if (MatchesFastSelection(ToDateTime(date), rule)) {

@@ -3,15 +3,14 @@
 namespace qv {
 namespace {
 
-constexpr int daysOfWeek = 7;
 constexpr int thursday = 3;
 
-bool IsLeapYear(int year) { return DaysOfMonth(ToDateTime({year, 2, 1})) == 29; }
+bool IsLeapYear(int year) { return DaysIn(year, 2) == 29; }
 
 int DayOfYear(CalendarDate date) {
   int day = date.day;
   for (int month = 1; month < date.month; ++month) {
-    day += DaysOfMonth(ToDateTime({date.year, month, 1}));
+    day += DaysIn(date.year, month);
   }
   return day;
 }

@@ -6,8 +6,6 @@
 
 namespace qv {
 
-constexpr int daysOfWeek = 7;
-
 /// The date so many days later, or earlier if `days` is negative. It may lie beyond the years that
 /// are `Valid`.
 CalendarDate DaysAfter(CalendarDate date, int days);

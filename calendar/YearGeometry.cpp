@@ -9,9 +9,6 @@
 namespace qv {
 namespace {
 
-constexpr int monthsOfYear = 12;
-constexpr int daysOfWeek = 7;
-constexpr int saturday = 5;
 constexpr int linesAboveWeeks = 2;  // the month's name and the weekdays
 constexpr int weekLines = 6;
 constexpr int lines = linesAboveWeeks + weekLines;
@@ -91,8 +88,6 @@ std::int64_t SquaredDistance(Point place, const Rect& area) {
   const std::int64_t down = Beyond(place.y, area.top, area.bottom);
   return across * across + down * down;
 }
-
-int DaysIn(int year, int month) { return DaysOfMonth(ToDateTime({year, month, 1})); }
 
 /// The day of a month in a cell below its weekdays; it may be none of the month.
 int DayAt(int year, int month, int column, int line) {

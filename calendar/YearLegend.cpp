@@ -69,7 +69,7 @@ std::vector<wchar_t> SignsOf(const std::vector<ColouredType>& rows) {
   return signs;
 }
 
-int DaysOf(int year) { return 337 + DaysOfMonth(ToDateTime({year, 2, 1})); }
+int DaysOf(int year) { return 337 + DaysIn(year, 2); }
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include "calendar/DateCoats.h"
 #include "calendar/Mixed.h"
 #include "calendar/Weeks.h"
+#include "calendar/YearDates.h"
 
 namespace qv {
 namespace {
@@ -106,9 +107,8 @@ class YearPainter {
   std::vector<CalendarDate> DatesOnShow() const {
     std::vector<CalendarDate> dates;
     ForEachMonth([&](int month) {
-      for (int day = 1; day <= DaysIn(month); ++day) {
-        dates.push_back({m_year.Year(), month, day});
-      }
+      const auto ofMonth = DatesOfMonth(m_year.Year(), month);
+      dates.insert(dates.end(), ofMonth.begin(), ofMonth.end());
     });
     return dates;
   }
@@ -121,12 +121,11 @@ class YearPainter {
     }
   }
 
-  int DaysIn(int month) const { return DaysOfMonth(ToDateTime({m_year.Year(), month, 1})); }
-
   /// The 1st and the Mondays behind it.
   std::vector<CalendarDate> FirstDatesOfWeeks(int month) const {
     std::vector<CalendarDate> dates{{m_year.Year(), month, 1}};
-    for (int day = 8 - WeekdayOf(dates.front()); day <= DaysIn(month); day += 7) {
+    for (int day = 8 - WeekdayOf(dates.front()); day <= DaysIn(m_year.Year(), month);
+         day += daysOfWeek) {
       dates.push_back({m_year.Year(), month, day});
     }
     return dates;

@@ -85,7 +85,7 @@ class CalendarChecker {
 
   void CheckDay(CalendarDate date, const XmlNode& node) {
     // A leap day needs the year as it is written and as it is narrowed.
-    const int days = DaysOfMonth(ToDateTime({m_written, date.month, 1}));
+    const int days = DaysIn(m_written, date.month);
     if (date.day > days || !ToDateTime(date).Valid()) {
       Tell(FindingKind::NoSuchDate, Format(L"calendar/%d-%02d", {date.year, date.month}),
            node.Tag());

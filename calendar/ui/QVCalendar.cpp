@@ -21,7 +21,6 @@ constexpr wchar_t noDayType[] = L"\xFFFF";
 
 constexpr int firstYearOnOffer = 1;
 constexpr int lastYearOnOffer = 9999;
-constexpr int monthsOfYear = 12;
 
 QVDateTime DateOrNone(const std::optional<qv::CalendarDate>& date) {
   return date ? qv::ToDateTime(*date) : QVDateTime();
@@ -160,7 +159,7 @@ void QVCalendar::ShowBrush() {
 void QVCalendar::OnMonths() {
   const qv::YearGeometry geometry = m_view->Geometry();
   const QSignalBlocker quiet(m_months);
-  m_months->setRange(1, monthsOfYear + 1 - geometry.MonthsShown());
+  m_months->setRange(1, qv::monthsOfYear + 1 - geometry.MonthsShown());
   m_months->setPageStep(geometry.MonthsShown());
   m_months->setValue(geometry.FirstMonth());
 }
@@ -187,7 +186,7 @@ void QVCalendar::LayOut() {
 
 void QVCalendar::LayOutYear(const QRect& room) {
   m_view->setGeometry(room);
-  const bool isWhole = m_view->Geometry().MonthsShown() == monthsOfYear;
+  const bool isWhole = m_view->Geometry().MonthsShown() == qv::monthsOfYear;
   m_months->setVisible(!isWhole);
   if (!isWhole) {
     const int breadth = m_months->sizeHint().width();

@@ -16,8 +16,6 @@
 namespace qv {
 namespace {
 
-constexpr int monthsOfYear = 12;
-
 const CalendarDate* DateIn(const std::optional<YearPlace>& place) {
   return place ? std::get_if<CalendarDate>(&*place) : nullptr;
 }
