@@ -28,14 +28,16 @@ std::string PayloadIn(std::string text) {
   for (std::size_t end = text.find(closing); end != std::string::npos;
        end = text.find(closing, from)) {
     const std::size_t start = std::string_view(text).substr(from, end - from).rfind(opening);
-    const std::size_t next = std::min(text.find('>', end), text.size() - 1) + 1;
     if (start != std::string_view::npos) {
+      const std::size_t next = std::min(text.find('>', end), text.size() - 1) + 1;
       std::string element = text.substr(from + start, next - from - start);
       if (HoldsDiscriminators(element)) {
         return element;
       }
     }
-    from = next;
+    // Only behind its name: what ends there may be words that speak of a payload, before the ">" of
+    // one.
+    from = end + closing.size();
   }
   return text;
 }

@@ -57,6 +57,7 @@ TEST_F(MakingTest, APayloadIsFoundInTheTextOfAMail) {
       {"</discriminatorClipboard> <discriminatorClipboard/> <discriminatorClipboard>\n", "\n<b>"},
       {"<discriminatorClipboard><discriminator><main/></discriminatorClipboard>", "<"},
       {"\xff\xfe <p>", "</p>"},
+      {"what I sent is </discriminatorClipboard, see\n", ""},
   };
   for (const auto& [start, end] : mails) {
     EXPECT_EQ(DoJson({"paste"}, start + payload + end)["made"].size(), 1U) << start;
