@@ -1,6 +1,7 @@
 #include "apps/configurator/EntryCommands.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QItemSelectionModel>
 #include <QMenu>
 #include <algorithm>
@@ -30,6 +31,8 @@ EntryCommands::EntryCommands(Workspace& workspace, DeviceTreeView& view, DeviceG
   connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &EntryCommands::ShowState);
   connect(&m_view.Lines(), &QAbstractItemModel::modelReset, this, &EntryCommands::FindMissing);
+  // Other programs may have made or removed files while their user was there.
+  connect(qApp, &QGuiApplication::applicationStateChanged, this, &EntryCommands::FindMissing);
   ShowState();
 }
 
@@ -59,6 +62,7 @@ void EntryCommands::PutIn(const std::vector<std::wstring>& ids) {
 }
 
 void EntryCommands::FillPutIn() {
+  FindMissing();
   m_putIn->clear();
   std::vector<std::wstring> all;
   for (const DiscriminatorOnDisk& missing : m_missing) {

@@ -2,6 +2,10 @@
 // themselves from the tree.
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
 #include <filesystem>
 
 #include "apps/configurator/DiscriminatorEntries.h"
@@ -158,6 +162,21 @@ TEST_F(EntryCommandsTest, AFileWithoutEntryIsPutIntoTheSelectedGroup) {
   EXPECT_FALSE(Command("Add entry for")->isEnabled());
   Undo();
   EXPECT_EQ(Lines(), without);
+  EXPECT_TRUE(Command("Add entry for")->isEnabled());
+}
+
+TEST_F(EntryCommandsTest, FilesThatOtherProgramsMakeOrRemoveAreFollowed) {
+  RemoveTheLastEntries(2);
+  const auto files = QStringList(QDir(workspace.Directory()).entryList({"*Day and night.xdct"}));
+  ASSERT_EQ(files.size(), 1);
+  QFile file(workspace.Directory() + '/' + files[0]);
+  const QString elsewhere = file.fileName() + ".away";
+  ASSERT_TRUE(file.rename(elsewhere));
+  EXPECT_EQ(OffersOf("Add entry for"), QStringList("Tariff 3-0TD and 6-1TD 2026"));
+  Choose("Add entry for", 0);
+  EXPECT_FALSE(Command("Add entry for")->isEnabled());
+  ASSERT_TRUE(QFile::rename(elsewhere, workspace.Directory() + '/' + files[0]));
+  emit qApp->applicationStateChanged(Qt::ApplicationActive);
   EXPECT_TRUE(Command("Add entry for")->isEnabled());
 }
 
