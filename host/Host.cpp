@@ -1,5 +1,8 @@
 #include "host/Host.h"
 
+#include "host/QVDriverSupport.h"
+#include "host/QVInformes.h"
+
 template <class Service>
 static Service*& Installed() {
   static Service* installed = nullptr;
@@ -24,6 +27,8 @@ template class HostService<QVVornelGuids>;
 template class HostService<QVLoadString>;
 template class HostService<CreateDiscriminatorIndex>;
 template class HostService<QVClipboard>;
+template class HostService<QVDriverSupport>;
+template class HostService<QVInformes>;
 
 QVMainCfg::QVMainCfg() = default;
 QVMainCfg::~QVMainCfg() = default;

@@ -1,19 +1,16 @@
 #pragma once
 
-#include "host/Host.h"
-
 namespace qv {
 
-/// Installs the services of a host for as long as this object lives, and takes them out again. The
+/// Installs services of a host for as long as this object lives, and takes them out again. The
 /// services have to outlive it.
+template <class... Services>
 class InstalledServices {
  public:
-  InstalledServices(QVVornelSetup& setup, QVMainCfg& mainCfg, QVVornelGuids& guids,
-                    QVLoadString& loadString, CreateDiscriminatorIndex& createIndex,
-                    QVClipboard& clipboard);
+  explicit InstalledServices(Services&... services) { (Services::Install(&services), ...); }
   InstalledServices(const InstalledServices&) = delete;
   InstalledServices& operator=(const InstalledServices&) = delete;
-  ~InstalledServices();
+  ~InstalledServices() { (Services::Install(nullptr), ...); }
 };
 
 }  // namespace qv

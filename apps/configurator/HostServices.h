@@ -48,7 +48,9 @@ class HostServices {
   qv::LanguageFile m_texts;
   qv::IndexFiles m_indexFiles;
   qv::QtClipboard m_clipboard;
-  qv::InstalledServices m_installed;
+  qv::InstalledServices<QVVornelSetup, QVMainCfg, QVVornelGuids, QVLoadString,
+                        CreateDiscriminatorIndex, QVClipboard>
+      m_installed;
 };
 
 }  // namespace configurator

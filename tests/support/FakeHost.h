@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/Host.h"
+#include "tests/support/ScriptedExpressions.h"
 
 namespace qv {
 
@@ -73,6 +74,8 @@ struct FakeHost {
   NumberTexts loadString;
   RecordingIndex createIndex;
   FakeClipboard clipboard;
+  ScriptedDriverSupport driverSupport;
+  ScriptedInformes informes;
 
   FakeHost();
 
@@ -111,6 +114,8 @@ class InstalledFakeHost {
   Installed<QVLoadString> m_loadString{m_host.loadString};
   Installed<CreateDiscriminatorIndex> m_createIndex{m_host.createIndex};
   Installed<QVClipboard> m_clipboard{m_host.clipboard};
+  Installed<QVDriverSupport> m_driverSupport{m_host.driverSupport};
+  Installed<QVInformes> m_informes{m_host.informes};
 };
 
 }  // namespace qv
