@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace qv {
+
+/// Whether this is a letter, digit, `_` or `$` of which names outside square brackets are made.
+bool IsPlainNameCharacter(wchar_t character);
+
+/// The shortest way to write a variable in an expression: `DEVICE.VARIABLE`, or
+/// `[DEVICE.VARIABLE]` if a name begins with a digit or has a character that isn't plain, with `]`
+/// doubled. Nothing if it can't be written, because the device's name is empty or has a dot, or the
+/// variable's is empty.
+std::optional<std::wstring> WrittenName(std::wstring_view device, std::wstring_view variable);
+
+}  // namespace qv
