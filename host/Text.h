@@ -165,6 +165,48 @@ enum class Text : unsigned {
   ConditionNameMissing = 37014,      ///< editor, message: the name is empty
   ConditionNameTaken = 37013,        ///< editor, message: another condition has this name
 
+  // Expressions over devices' variables
+  NothingBehind = 60120,          ///< fault: behind this piece %s
+  NothingBefore = 60121,          ///< fault: before this operator %s
+  OperatorExpected = 60122,       ///< fault: two values side by side
+  ClosingBracketMissing = 60123,  ///< fault
+  OpeningBracketMissing = 60124,  ///< fault
+  CommaOutsideFunction = 60125,   ///< fault
+  WriteInstead = 60126,           ///< fault: how it has to be written, %s
+  NotANumber = 60127,             ///< fault: a piece %s that begins like one
+  WordUnknown = 60128,            ///< fault: a word %s
+  CharacterUnexpected = 60129,    ///< fault: a character %s
+  FaultOf = 60130,                ///< fault: a code's words %s and the name that it is about, %s
+  VariableUnreadable = 60131,     ///< code: a variable belongs to a module
+  VariableWithoutValue = 60132,   ///< code
+  DeviceUnknown = 60133,          ///< code
+  VariableUnknown = 60134,        ///< code
+  VariableOfOtherClass = 60135,   ///< code
+  DiscriminatorsOff = 60136,      ///< code
+  TypesMixed = 60137,             ///< code
+  ResultNotFinite = 60138,        ///< code
+  ExpressionTooLarge = 60139,     ///< code
+  NumbersNeeded = 60140,          ///< fault: what takes no truth values, %s
+  TruthValuesNeeded = 60141,      ///< fault: what takes no numbers, %s
+  HelpPlus = 60142,               ///< help
+  HelpMinus = 60143,              ///< help
+  HelpTimes = 60144,              ///< help
+  HelpDivided = 60145,            ///< help
+  HelpPower = 60146,              ///< help
+  HelpComparison = 60147,         ///< help
+  HelpAnd = 60148,                ///< help
+  HelpOr = 60149,                 ///< help
+  HelpNot = 60150,                ///< help
+  HelpTruthValue = 60151,         ///< help
+  HelpMin = 60152,                ///< help
+  HelpMax = 60153,                ///< help
+  HelpAbs = 60154,                ///< help
+  HelpRound = 60155,              ///< help
+  HelpFloor = 60156,              ///< help
+  HelpCeil = 60157,               ///< help
+  HelpSqrt = 60158,               ///< help
+  HelpIf = 60159,                 ///< help
+
   // Variable selection
   VariableSelection = 196,    ///< first part of the title
   Discriminator = 32355,      ///< second part of the title; the device's name may follow

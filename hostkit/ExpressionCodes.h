@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "host/QVEvaluator.h"
+#include "host/Text.h"
 
 namespace qv {
 
@@ -19,6 +22,9 @@ enum class ExpressionCode {
   NotFinite = 8,  ///< the result is no finite number, or depends on one that isn't
   Evaluated = QVEvaluator::CodeEvaluated,
 };
+
+/// The text that words a code; nothing for `Evaluated` and for what is no code.
+std::optional<Text> WordingOf(int code);
 
 /// What `Evaluate` gives for `type`.
 enum class ExpressionType { Truth = QVEvaluator::TypeLogical, Number = 2 };

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "host/QVEvaluator.h"
 #include "host/QVLoadString.h"
-#include "tools/Format.h"
 
 namespace qv {
 
@@ -15,11 +15,12 @@ struct ExpressionFlaw {
   std::wstring argument{};  ///< what the text's `%s` is; empty if it has none
 
   /// The same in words.
-  ExpressionFault In(const QVLoadString& texts) const {
-    return {place, Format(texts.Load(text).ToView(), {std::wstring_view(argument)})};
-  }
+  ExpressionFault In(const QVLoadString& texts) const;
 
   friend bool operator==(const ExpressionFlaw&, const ExpressionFlaw&) = default;
 };
+
+/// A piece of an expression as sentences quote it: what would fill a screen is cut.
+std::wstring Quoted(std::wstring_view piece);
 
 }  // namespace qv

@@ -7,12 +7,10 @@
 
 #include "host/QVDriverSupport.h"
 #include "host/QVLoadString.h"
-#include "hostkit/DeviceModel.h"
 #include "hostkit/ExpressionCodes.h"
+#include "hostkit/ExpressionContext.h"
 
 namespace qv {
-
-class ExpressionEngine;
 
 /// The minute of the day, from 00:00, in local time.
 int LocalMinuteOfDay();
@@ -35,7 +33,7 @@ class ExpressionSupport : public QVDriverSupport {
   bool ErrorMsg(int code, QVWideString& text) const override;
   bool isThereAModuleInExpression(const std::wstring& expression) const override;
 
-  const DeviceModel& Devices() const { return m_devices; }
+  const DeviceModel& Devices() const { return m_context.devices; }
 
   /// The value of a variable at the moment; nothing if it has none or can't be read here.
   std::optional<double> ValueOf(const Variable& variable) const;
@@ -44,13 +42,8 @@ class ExpressionSupport : public QVDriverSupport {
   std::wstring ValueText(const Variable& variable) const;
 
  private:
-  const DeviceModel& m_devices;
-  const QVLoadString& m_texts;
-  Clock m_clock;
   std::unique_ptr<ExpressionEngine> m_engine;
+  ExpressionContext m_context;
 };
-
-/// A number as expressions write it, with at most six digits that count.
-std::wstring NumberText(double number);
 
 }  // namespace qv

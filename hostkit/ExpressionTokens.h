@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,17 +36,5 @@ using ExpressionTokens = std::vector<ExpressionToken>;
 
 /// The pieces of any text, in order.
 ExpressionTokens TokensOf(std::wstring_view expression);
-
-/// A bracket and its partner.
-struct ExpressionBrackets {
-  ExpressionPlace opening{};
-  ExpressionPlace closing{};
-
-  friend bool operator==(const ExpressionBrackets&, const ExpressionBrackets&) = default;
-};
-
-/// The bracket beside the cursor with its partner: the one before it, else the one behind it.
-/// Nothing if neither is a bracket or if it has no partner. Square brackets count.
-std::optional<ExpressionBrackets> BracketsAt(std::wstring_view expression, int cursor);
 
 }  // namespace qv
