@@ -219,12 +219,12 @@ enum class Text : unsigned {
   EmptyList = 60042,  ///< in a list without rows: begin with the button %s
 
   // What messages and questions say more, below their texts
-  DiscriminatorToRemove = 60030,  ///< one of those that the question is about: its name %s
-  AndMore = 60031,                ///< after a list that was cut: how many more there are, %d
-  FailedFile = 60032,             ///< the file that could not be had: its path %s
-  FailureReason = 60033,          ///< why not, in the words of the system: %s
-  SlotTold = 60037,               ///< a slot that is at fault: %s from %s to %s
-  GapTold = 60038,                ///< minutes that no slot covers: from %s to %s
+  ItemToRemove = 60030,   ///< one of those that the question is about: its name %s
+  AndMore = 60031,        ///< after a list that was cut: how many more there are, %d
+  FailedFile = 60032,     ///< the file that could not be had: its path %s
+  FailureReason = 60033,  ///< why not, in the words of the system: %s
+  SlotTold = 60037,       ///< a slot that is at fault: %s from %s to %s
+  GapTold = 60038,        ///< minutes that no slot covers: from %s to %s
 
   // Message boxes
   MessageYes = 60001,  ///< button Yes of a question

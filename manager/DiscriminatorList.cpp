@@ -138,7 +138,7 @@ bool DiscriminatorList::AskToRemove(const std::vector<int>& rows) const {
   Addition names;
   for (const int row : rows) {
     const auto& name = m_rows.at(static_cast<std::size_t>(row)).shown.name;
-    names.push_back({Text::DiscriminatorToRemove, {std::wstring(name.ToView())}});
+    names.push_back({Text::ItemToRemove, {std::wstring(name.ToView())}});
   }
   return m_prompter.Ask(Text::RemoveDiscriminatorsQuestion, {}, Shortened(std::move(names)));
 }

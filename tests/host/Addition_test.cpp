@@ -14,7 +14,7 @@ namespace {
 Addition Lines(int count) {
   Addition lines;
   for (int i = 1; i <= count; ++i) {
-    lines.push_back({Text::DiscriminatorToRemove, {std::to_wstring(i)}});
+    lines.push_back({Text::ItemToRemove, {std::to_wstring(i)}});
   }
   return lines;
 }
@@ -58,17 +58,16 @@ TEST(Addition, WhatCanNotBeReadHasAReasonOrAPlaceOrIsBadAsAWhole) {
 
 TEST(Addition, LinesAreWordedOneBelowTheOther) {
   Forms texts;
-  texts.additions = {Text::DiscriminatorToRemove, Text::AndMore};
-  EXPECT_EQ(
-      InWords({{Text::DiscriminatorToRemove, {L"100 %s", L"b"}}, {Text::AndMore, {L"3"}}}, texts),
-      L"60030: 100 %s b\n60031: 3 %d");
+  texts.additions = {Text::ItemToRemove, Text::AndMore};
+  EXPECT_EQ(InWords({{Text::ItemToRemove, {L"100 %s", L"b"}}, {Text::AndMore, {L"3"}}}, texts),
+            L"60030: 100 %s b\n60031: 3 %d");
 }
 
 TEST(Addition, ALineWhoseTextTheLanguageLacksIsLeftOut) {
   NumberTexts texts;
   EXPECT_EQ(InWords(Lines(2), texts), L"");
   texts.additions = {Text::AndMore};
-  EXPECT_EQ(InWords({{Text::DiscriminatorToRemove, {L"a"}}, {Text::AndMore}}, texts), L"[60031]");
+  EXPECT_EQ(InWords({{Text::ItemToRemove, {L"a"}}, {Text::AndMore}}, texts), L"[60031]");
 }
 
 }  // namespace

@@ -80,7 +80,7 @@ constexpr NumberedText table[] = {
     {Text::DiscriminatorNotOpened, 60034},
     {Text::DiscriminatorDamagedAt, 60035},
     {Text::DiscriminatorDamaged, 60036},
-    {Text::DiscriminatorToRemove, 60030},
+    {Text::ItemToRemove, 60030},
     {Text::AndMore, 60031},
     {Text::FailedFile, 60032},
     {Text::FailureReason, 60033},

@@ -105,8 +105,7 @@ TEST_F(RemovalTest, WithoutARowNothingIsAsked) {
 TEST_F(RemovalTest, TheQuestionNamesWhatGoes) {
   EXPECT_EQ(Remove({1, 3}, false).outcome, RemovalOutcome::Declined);
   EXPECT_EQ(prompter.Heard().back().addition,
-            (Addition{{Text::DiscriminatorToRemove, {L"beta"}},
-                      {Text::DiscriminatorToRemove, {L"gamma"}}}));
+            (Addition{{Text::ItemToRemove, {L"beta"}}, {Text::ItemToRemove, {L"gamma"}}}));
 }
 
 TEST_F(RemovalTest, OfManyTheQuestionNamesFiveAndHowManyMore) {
@@ -119,7 +118,7 @@ TEST_F(RemovalTest, OfManyTheQuestionNamesFiveAndHowManyMore) {
   EXPECT_EQ(Remove({0, 1, 2, 3, 4, 5, 6}, false).outcome, RemovalOutcome::Declined);
   const Addition& addition = prompter.Heard().back().addition;
   ASSERT_EQ(addition.size(), 6U);
-  EXPECT_EQ(addition[4], (AddedLine{Text::DiscriminatorToRemove, {L"omega"}}));
+  EXPECT_EQ(addition[4], (AddedLine{Text::ItemToRemove, {L"omega"}}));
   EXPECT_EQ(addition[5], (AddedLine{Text::AndMore, {L"2"}}));
 }
 

@@ -133,9 +133,9 @@ TEST_F(MessageBoxesTest, OneOfTheLibrarysOwnThatTheLanguageLacksIsNotShown) {
 }
 
 TEST_F(MessageBoxesTest, WhatIsAddedStandsBelowTheTextAsItStands) {
-  texts.additions = {Text::DiscriminatorToRemove, Text::AndMore};
-  texts.wordings[Text::DiscriminatorToRemove] = L"- %s";
-  const Addition addition = {{Text::DiscriminatorToRemove, {L"<b>a</b>"}}, {Text::AndMore}};
+  texts.additions = {Text::ItemToRemove, Text::AndMore};
+  texts.wordings[Text::ItemToRemove] = L"- %s";
+  const Addition addition = {{Text::ItemToRemove, {L"<b>a</b>"}}, {Text::AndMore}};
   const auto look = [] {
     EXPECT_EQ(Box()->text(), "[32368]");
     EXPECT_EQ(Box()->informativeText(), "- <b>a</b>\n[60031]");
