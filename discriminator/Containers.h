@@ -21,5 +21,6 @@ class Container {
 using HourTypes = Container<tag::HourTypes>;
 using DayTypes = Container<tag::DayTypes>;
 using Calendar = Container<tag::Calendar>;
+using OrderedConditions = Container<tag::Conditions>;
 
 }  // namespace qv

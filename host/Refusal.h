@@ -16,7 +16,7 @@ enum class Field { Name, Expression };
 
 /// Why a verb refused: what the user is told, and where they can mend it.
 struct Refusal {
-  std::optional<Text> text;               ///< nothing where there are words of another source
+  std::optional<Text> text{};             ///< nothing where there are words of another source
   std::vector<std::wstring> arguments{};  ///< for the placeholders of `text`
   std::wstring words{};                   ///< what is told if there is no `text`
   std::optional<Field> field{};           ///< gets the focus; without one it stays where it is

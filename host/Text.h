@@ -52,7 +52,7 @@ enum class Text : unsigned {
   DiscriminatorNameMissing = 32363,  ///< message: the name is empty
   DiscriminatorNameTaken = 32365,    ///< message: another discriminator has this name
   DescriptionWithQuote = 32366,      ///< message: the description holds a double quote
-  LinkNotReady = 60005,              ///< tooltip of a big button that can't open its part yet
+  LinkNotReady = 60005,              ///< tooltip of a big button that can't open its part here
   DiscriminatorNotSaved = 32362,     ///< message: the file can't be written
   DiscriminatorNotOpened = 60034,    ///< message: the file can't be opened
   DiscriminatorDamagedAt = 60035,    ///< more of it: not readable from line %d, column %d on
@@ -164,6 +164,26 @@ enum class Text : unsigned {
   ExpressionUsesModule = 37540,      ///< editor, status: a module can't be evaluated here
   ConditionNameMissing = 37014,      ///< editor, message: the name is empty
   ConditionNameTaken = 37013,        ///< editor, message: another condition has this name
+  ConditionUp = 60080,               ///< list: name of the button Up, and menu
+  ConditionDown = 60081,             ///< list: name of the button Down, and menu
+  AltUpKey = 60082,                  ///< tooltip of Up: what it does, and the keys for it
+  AltDownKey = 60083,                ///< likewise of Down
+  ComposeExpression = 60084,         ///< editor: name and tooltip of the button of the wizard
+  ResultTrue = 60085,                ///< a present result
+  ResultFalse = 60086,               ///< likewise
+  ResultNoValue = 60087,             ///< why there is no present result: a value is missing
+  PresentResult = 60088,             ///< a present result in these words %s, or why there is none
+  ExpressionFaultTold = 60089,       ///< more of a message: what is wrong with the expression, %s
+  ResultNotLogicalTold = 60090,      ///< likewise: it gives neither true nor false
+  ExpressionKept = 60091,            ///< likewise: of %d characters, all that is kept of it: %s
+  ExpressionNotKept = 60092,         ///< tooltip of a long expression: how many are kept, %d
+  TryConditions = 60093,             ///< list, menu: opens the report of present results
+  TrialTitle = 60094,                ///< report: title
+  TrialResult = 60095,               ///< report: column of the results
+  FirstTrueCondition = 60096,        ///< report: the name %s of the first that is true
+  NoTrueCondition = 60097,           ///< report: none is true
+  CloseReport = 60098,               ///< report: button
+  ExpressionProposals = 60099,       ///< editor: name of the list of what may be written
 
   // Expressions over devices' variables
   NothingBehind = 60120,          ///< fault: behind this piece %s
