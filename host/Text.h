@@ -164,10 +164,10 @@ enum class Text : unsigned {
   ExpressionUsesModule = 37540,      ///< editor, status: a module can't be evaluated here
   ConditionNameMissing = 37014,      ///< editor, message: the name is empty
   ConditionNameTaken = 37013,        ///< editor, message: another condition has this name
-  ConditionUp = 60080,               ///< list: name of the button Up, and menu
-  ConditionDown = 60081,             ///< list: name of the button Down, and menu
-  AltUpKey = 60082,                  ///< tooltip of Up: what it does, and the keys for it
-  AltDownKey = 60083,                ///< likewise of Down
+  ConditionUp = 60080,               ///< list, menu: what the button Up does
+  ConditionDown = 60081,             ///< list, menu: likewise of Down
+  AltUpKey = 60082,                  ///< list: name and tooltip of the button Up, with its keys
+  AltDownKey = 60083,                ///< list: likewise of Down
   ComposeExpression = 60084,         ///< editor: name and tooltip of the button of the wizard
   ResultTrue = 60085,                ///< a present result
   ResultFalse = 60086,               ///< likewise

@@ -19,7 +19,8 @@ class CImageButton : public QPushButton {
   /// Shows `caption`, in which "&" stands before the mnemonic, and makes it the accessible name.
   void SetCaption(const QString& caption);
 
-  /// Shows `hint` in the tooltip, below an elided caption; none for an empty one.
+  /// Shows `hint` in the tooltip, below an elided caption; none for an empty one. It is the
+  /// accessible name of a button without caption.
   void SetHint(const QString& hint);
 
   /// What is to be seen of the caption.

@@ -26,6 +26,11 @@ void DescribeByCaption(QWidget* widget, const QString& caption, int width, const
   lines.removeAll(QString());
   SetPlainToolTip(widget, lines.join(QLatin1Char('\n')));
   widget->setAccessibleName(reading);
+  if (reading.isEmpty()) {
+    // What has a picture alone is called by its hint.
+    widget->setAccessibleName(hint);
+    widget->setAccessibleDescription({});
+  }
 }
 
 void SetPlainToolTip(QWidget* widget, const QString& text) {

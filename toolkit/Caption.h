@@ -20,7 +20,8 @@ QString ElidedCaption(const QString& caption, const QFontMetrics& font, int widt
 int CaptionWidth(const QString& caption, const QFontMetrics& font);
 
 /// Gives `widget` the whole caption, as it reads, for its accessible name, and for its tooltip
-/// exactly if the caption is wider than `width` pixels.
+/// exactly if the caption is wider than `width` pixels. The tooltip also shows `hint`, which is the
+/// accessible name where there is no caption.
 void DescribeByCaption(QWidget* widget, const QString& caption, int width,
                        const QString& hint = {});
 

@@ -22,7 +22,7 @@ void EditingFrame::OnOK() {
     ShowRefusal(*end.refusal);
   }
   if (end.IsDone()) {
-    CDialog::OnOK();
+    Leave(end.outcome);
   }
 }
 

@@ -25,6 +25,8 @@ class EditingFrame : public CDialog {
 
   /// Saves what the controls hold. Without anything to check, what was edited is good as it is.
   virtual SaveEnd Save() { return {SaveOutcome::Saved, {}}; }
+  /// Ends the dialog after a save that is done.
+  virtual void Leave(SaveOutcome /*outcome*/) { CDialog::OnOK(); }
   /// The control that a refusal can be about, or null.
   virtual QWidget* ControlOf(Field /*field*/) const { return nullptr; }
 

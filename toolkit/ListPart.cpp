@@ -27,6 +27,12 @@ QString HowToBegin(const QVLoadString& loadString) {
   return ToQString(Format(loadString.Load(Text::EmptyList).ToView(), {button.c_str()}));
 }
 
+QTreeWidgetItem* NewItem(const ListRow& row) {
+  auto* item = new QTreeWidgetItem(row.texts);
+  item->setIcon(0, row.icon);
+  return item;
+}
+
 void Run(const std::function<void()>& verb) {
   if (verb) {
     verb();
@@ -80,9 +86,7 @@ void ListPart::Show(const std::vector<ListRow>& rows, std::optional<int> select,
                     std::optional<int> current) {
   QList<QTreeWidgetItem*> items;
   for (const ListRow& row : rows) {
-    auto* item = new QTreeWidgetItem(row.texts);
-    item->setIcon(0, row.icon);
-    items.append(item);
+    items.append(NewItem(row));
   }
   {
     // The buttons follow once, when the rows and the selection are there.
@@ -97,6 +101,15 @@ void ListPart::Show(const std::vector<ListRow>& rows, std::optional<int> select,
     }
   }
   EnableDisableButtons();
+}
+
+void ListPart::AppendRow(const ListRow& row) { m_controls.view->addTopLevelItem(NewItem(row)); }
+
+void ListPart::SetTexts(int row, const QStringList& texts) {
+  QTreeWidgetItem* item = m_controls.view->topLevelItem(row);
+  for (int column = 0; column < texts.size(); ++column) {
+    item->setText(column, texts[column]);
+  }
 }
 
 void ListPart::RemoveRow(int row) {

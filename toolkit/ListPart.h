@@ -61,6 +61,10 @@ class ListPart : public QObject {
   /// is the current one, from which the arrow keys go on; without one `current` is, if any.
   void Show(const std::vector<ListRow>& rows, std::optional<int> select,
             std::optional<int> current = std::nullopt);
+  /// Adds a row at the end; what is selected stays so.
+  void AppendRow(const ListRow& row);
+  /// Gives a row these texts.
+  void SetTexts(int row, const QStringList& texts);
   /// Takes a row away. The buttons follow with the next selection, or `EnableDisableButtons`.
   void RemoveRow(int row);
   void Select(int row);
@@ -81,9 +85,11 @@ class ListPart : public QObject {
   /// Modify needs one selected row, Remove at least one. The list takes the focus of a button that
   /// gets disabled.
   void EnableDisableButtons();
+  /// Enables or disables one more button of the dialog, or none for null; the list takes the focus
+  /// of one that gets disabled.
+  void Enable(QAbstractButton* button, bool enabled);
 
  private:
-  void Enable(QAbstractButton* button, bool enabled);
   void OnKeydown(int key);
 
   Controls m_controls;

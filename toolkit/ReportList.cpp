@@ -102,17 +102,25 @@ bool ReportList::viewportEvent(QEvent* event) {
   if (event->type() != QEvent::ToolTip) {
     return QTreeWidget::viewportEvent(event);
   }
-  ShowWholeText(static_cast<const QHelpEvent&>(*event));
+  ShowToolTip(static_cast<const QHelpEvent&>(*event));
   return true;
 }
 
-void ReportList::ShowWholeText(const QHelpEvent& event) {
-  const QModelIndex index = indexAt(event.pos());
-  if (!index.isValid() || sizeHintForIndex(index).width() <= columnWidth(index.column())) {
-    QToolTip::hideText();
-    return;
+QString ReportList::ToolTipOf(const QModelIndex& index) const {
+  if (!index.isValid()) {
+    return {};
   }
-  QToolTip::showText(event.globalPos(), PlainToolTip(index.data().toString()), viewport(),
+  const bool isCut = sizeHintForIndex(index).width() > columnWidth(index.column());
+  QStringList lines = {isCut ? index.data().toString() : QString(),
+                       m_rowHint ? m_rowHint(index.row()) : QString()};
+  lines.removeAll(QString());
+  return lines.join(QLatin1Char('\n'));
+}
+
+void ReportList::ShowToolTip(const QHelpEvent& event) {
+  const QModelIndex index = indexAt(event.pos());
+  // An empty text hides the one before.
+  QToolTip::showText(event.globalPos(), PlainToolTip(ToolTipOf(index)), viewport(),
                      visualRect(index));
 }
 

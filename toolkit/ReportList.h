@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTreeWidget>
+#include <functional>
 #include <vector>
 
 namespace qv {
@@ -18,6 +19,10 @@ class ReportList : public QTreeWidget {
 
   /// The numbers of the selected rows, from the top.
   std::vector<int> SelectedRows() const;
+
+  /// Says more in the tooltip of a row, below a text that is cut: what `hint` gives for the row's
+  /// number, asked anew each time that the tooltip shows. Nothing for an empty text.
+  void SetRowHint(std::function<QString(int row)> hint) { m_rowHint = std::move(hint); }
 
  signals:
   /// Delete, Insert, or a letter with Control was pressed; the list itself does nothing for it.
@@ -40,7 +45,10 @@ class ReportList : public QTreeWidget {
   bool viewportEvent(QEvent* event) override;
 
  private:
-  void ShowWholeText(const QHelpEvent& event);
+  QString ToolTipOf(const QModelIndex& index) const;
+  void ShowToolTip(const QHelpEvent& event);
+
+  std::function<QString(int row)> m_rowHint;
 };
 
 }  // namespace qv
