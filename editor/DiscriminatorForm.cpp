@@ -8,6 +8,7 @@
 #include "discriminator/EditedCopies.h"
 #include "discriminator/Fields.h"
 #include "discriminator/FileNames.h"
+#include "discriminator/NewChildNode.h"
 #include "discriminator/ValueForms.h"
 #include "host/Installation.h"
 #include "tools/Guid.h"
@@ -107,6 +108,21 @@ void DiscriminatorForm::OnDayTypes(
 void DiscriminatorForm::OnCalendar(
     const std::function<EditorEnd(Calendar, DayTypes, HourTypes)>& runCalendar) {
   EditSlotParts(runCalendar);
+}
+
+void DiscriminatorForm::OnConditions(
+    const std::function<EditorEnd(OrderedConditions)>& runConditions) {
+  // A save drops them under a type that is neither of the two, also one that the disk then refuses.
+  std::optional<NewChildNode> made;
+  if (!Content().Node(tag::Conditions)) {
+    made.emplace(Content(), tag::Conditions, std::initializer_list<NewChildNode::Field>{});
+  }
+  XmlNode& conditions = *Content().Node(tag::Conditions);
+  EditedCopies copies({&conditions});
+  if (copies.TakeBack(runConditions(OrderedConditions(copies.Of(conditions))), m_modified) &&
+      made) {
+    made->Keep();
+  }
 }
 
 SaveEnd DiscriminatorForm::Save(const DiscriminatorFields& typed) {

@@ -74,6 +74,10 @@ class DiscriminatorForm {
   /// The same for the dialog of the calendar.
   void OnCalendar(const std::function<EditorEnd(Calendar, DayTypes, HourTypes)>& runCalendar);
 
+  /// The same for the dialog of the conditions. If the document has none any more, since a save
+  /// under an unknown type has dropped them, it begins with an empty list.
+  void OnConditions(const std::function<EditorEnd(OrderedConditions)>& runConditions);
+
   /// Checks what was typed, writes the discriminator's file in place of the old one, and has its
   /// index made. It is written even if it is `Unchanged`, which only means that there was no new
   /// revision.

@@ -1,6 +1,8 @@
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 
 #include "calendar/ui/CDlgCalendar.h"
+#include "conditions/ui/CDlgConditions.h"
+#include "conditions/ui/ExpressionServices.h"
 #include "timestructure/ui/CDlgDayTypes.h"
 #include "timestructure/ui/CDlgHourTypes.h"
 #include "toolkit/DialogColumn.h"
@@ -21,12 +23,10 @@ CDlgAddModifyDiscriminator::CDlgAddModifyDiscriminator(qv::XmlNode* deviceGroups
       {m_ui.linkHourTypes, Text::HourTypesLink, L"CLOCK-32.png", &This::OnHourTypes},
       {m_ui.linkDayTypes, Text::DayTypesLink, L"DAYTYPES-32.png", &This::OnDayTypes},
       {m_ui.linkCalendar, Text::CalendarLink, L"CALENDAR-32.png", &This::OnCalendar},
-      {m_ui.linkConditions, Text::Conditions, L"CONDITIONS-32.png", nullptr},
+      {m_ui.linkConditions, Text::Conditions, L"CONDITIONS-32.png", &This::OnConditions},
   }};
   for (const Link& link : m_links) {
-    if (link.open) {
-      connect(link.control, &QVHyperlink::clicked, this, link.open);
-    }
+    connect(link.control, &QVHyperlink::clicked, this, link.open);
   }
   connect(m_ui.comboType, &QComboBox::activated, this, &This::OnSelchangeType);
 }
@@ -47,8 +47,9 @@ void CDlgAddModifyDiscriminator::OnInitDialog() {
   qv::LimitTyping(m_ui.editDescription, 0);
   InitializeTexts();
   for (const Link& link : m_links) {
-    InitializeLink(link);
+    SetButton(link.control, link.text, link.picture);
   }
+  InitializeConditionsLink();
   InitializeFields();
   InitializeType();
   PositioningControls();
@@ -63,12 +64,11 @@ void CDlgAddModifyDiscriminator::InitializeTexts() {
   SetTitle(m_form->IsNew() ? Text::AddDiscriminatorTitle : Text::ModifyDiscriminatorTitle);
 }
 
-void CDlgAddModifyDiscriminator::InitializeLink(const Link& link) {
-  SetButton(link.control, link.text, link.picture);
-  if (!link.open) {
-    link.control->setEnabled(false);
-    link.control->SetHint(qv::OwnText(Services().loadString, Text::LinkNotReady));
-  }
+void CDlgAddModifyDiscriminator::InitializeConditionsLink() {
+  const bool canEdit = qv::HasExpressionServices();
+  m_ui.linkConditions->setEnabled(canEdit);
+  m_ui.linkConditions->SetHint(canEdit ? QString()
+                                       : qv::OwnText(Services().loadString, Text::LinkNotReady));
 }
 
 void CDlgAddModifyDiscriminator::InitializeFields() {
@@ -119,6 +119,13 @@ void CDlgAddModifyDiscriminator::OnDayTypes() {
 void CDlgAddModifyDiscriminator::OnCalendar() {
   m_form->OnCalendar([this](qv::Calendar calendar, qv::DayTypes dayTypes, qv::HourTypes hourTypes) {
     CDlgCalendar dialog(this, &calendar.Node(), &dayTypes.Node(), &hourTypes.Node());
+    return qv::RunDialog(dialog);
+  });
+}
+
+void CDlgAddModifyDiscriminator::OnConditions() {
+  m_form->OnConditions([this](qv::OrderedConditions conditions) {
+    CDlgConditions dialog(this, &conditions.Node());
     return qv::RunDialog(dialog);
   });
 }

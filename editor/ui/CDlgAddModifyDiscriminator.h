@@ -31,11 +31,11 @@ class CDlgAddModifyDiscriminator : public qv::EditingDialog<qv::DiscriminatorFor
     QVHyperlink* control;
     Text text;
     const wchar_t* picture;
-    void (CDlgAddModifyDiscriminator::*open)();  ///< null while there is nothing to open
+    void (CDlgAddModifyDiscriminator::*open)();
   };
 
   void InitializeTexts();
-  void InitializeLink(const Link& link);
+  void InitializeConditionsLink();
   void InitializeFields();
   void InitializeType();
   bool HasSlots() const;
@@ -46,6 +46,7 @@ class CDlgAddModifyDiscriminator : public qv::EditingDialog<qv::DiscriminatorFor
   void OnHourTypes();
   void OnDayTypes();
   void OnCalendar();
+  void OnConditions();
 
   Ui::Template1301 m_ui;
   std::array<Link, 4> m_links;
