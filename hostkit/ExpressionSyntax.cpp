@@ -1,7 +1,6 @@
 #include "hostkit/ExpressionSyntax.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "tools/Format.h"
@@ -92,7 +91,9 @@ class SyntaxCheck {
 
   /// The library that computes wants a bracket between two of them.
   Flaw Prefix(const ExpressionToken& token) {
-    if (!m_before || m_before != std::exchange(m_prefix, &token)) {
+    const bool isBehindAnother = m_before && m_before == m_prefix;
+    m_prefix = &token;
+    if (!isBehindAnother) {
       return std::nullopt;
     }
     const std::wstring form = Format(L"%s(%s…)", {m_before->word->text, token.word->text});

@@ -7,8 +7,9 @@
 
 namespace qv {
 
-/// The most characters of an expression.
-inline constexpr int longestExpression = 4096;
+/// The most characters of an expression. What muparserx is given of it is up to four times as long,
+/// and it takes 10,000.
+inline constexpr int longestExpression = 2000;
 /// The most brackets, those of functions included, that are open at once.
 inline constexpr int deepestBrackets = 256;
 

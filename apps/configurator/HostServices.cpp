@@ -16,12 +16,16 @@ HostServices::HostServices(std::wstring_view images)
           m_listener(id);
         }
       }),
-      m_installed(*m_setup, m_mainCfg, m_notices, m_texts, m_indexFiles, m_clipboard) {}
+      m_installed(*m_setup, m_mainCfg, m_notices, m_texts, m_indexFiles, m_clipboard,
+                  m_expressions) {}
 
 void HostServices::SetDirectory(std::wstring_view directory) {
   auto setup = std::make_unique<qv::DirectorySetup>(directory, m_images, programIcon);
   QVVornelSetup::Install(setup.get());
   m_setup = std::move(setup);
+  if (const qv::XmlNode* root = m_mainCfg.Root()) {
+    m_devices.Read(*root);
+  }
 }
 
 }  // namespace configurator

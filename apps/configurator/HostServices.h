@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "host/QVMainCfg.h"
+#include "hostkit/DeviceModel.h"
 #include "hostkit/DirectorySetup.h"
+#include "hostkit/ExpressionSupport.h"
 #include "hostkit/GuidNotices.h"
 #include "hostkit/IndexFiles.h"
 #include "hostkit/InstalledServices.h"
@@ -24,7 +26,8 @@ class HostServices {
   HostServices(const HostServices&) = delete;
   HostServices& operator=(const HostServices&) = delete;
 
-  /// From now on the dialogs work on the files of `directory`. Not while one of them is open.
+  /// From now on the dialogs work on the files of `directory`, and on the devices that the main
+  /// configuration has now. Not while one of them is open.
   void SetDirectory(std::wstring_view directory);
 
   /// From now on the dialogs speak as `file` does; false, and they go on as before, if it can't be
@@ -35,6 +38,9 @@ class HostServices {
   void SetListener(qv::GuidNotices::Listener listener) { m_listener = std::move(listener); }
 
   QVMainCfg& MainCfg() { return m_mainCfg; }
+
+  /// The devices of the open installation with their values.
+  const qv::ExpressionSupport& Expressions() const { return m_expressions; }
 
   /// The directory of the open installation and that of the images, each with its separator.
   const QVVornelSetup& Setup() const { return *m_setup; }
@@ -48,8 +54,10 @@ class HostServices {
   qv::LanguageFile m_texts;
   qv::IndexFiles m_indexFiles;
   qv::QtClipboard m_clipboard;
+  qv::DeviceModel m_devices;
+  qv::ExpressionSupport m_expressions{m_devices, m_texts};
   qv::InstalledServices<QVVornelSetup, QVMainCfg, QVVornelGuids, QVLoadString,
-                        CreateDiscriminatorIndex, QVClipboard>
+                        CreateDiscriminatorIndex, QVClipboard, QVDriverSupport>
       m_installed;
 };
 

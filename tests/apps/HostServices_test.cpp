@@ -29,6 +29,7 @@ TEST(HostServices, AreInstalledAsLongAsTheyLive) {
   EXPECT_FALSE(QVLoadString::Get());
   EXPECT_FALSE(CreateDiscriminatorIndex::Get());
   EXPECT_FALSE(QVClipboard::Get());
+  EXPECT_FALSE(QVDriverSupport::Get());
 }
 
 TEST(HostServices, TheDirectoryCanBeChanged) {
@@ -38,6 +39,25 @@ TEST(HostServices, TheDirectoryCanBeChanged) {
   services.SetDirectory(L"/b/");
   EXPECT_EQ(QVVornelSetup::Get()->CfgPath(), L"/b/");
   EXPECT_EQ(services.Setup().CfgPath(), L"/b/");
+}
+
+TEST(HostServices, ExpressionsAreOverTheDevicesOfTheOpenInstallation) {
+  HostServices services(L"/images");
+  const auto code = [](const wchar_t* expression) {
+    double value = 0;
+    int type = 0;
+    return QVDriverSupport::Get()->NewEvaluator(expression)->Evaluate(value, type);
+  };
+  const auto unknown = static_cast<int>(qv::ExpressionCode::UnknownDevice);
+  EXPECT_EQ(code(L"D.V"), unknown);
+  ASSERT_TRUE(services.MainCfg().Parse(
+      "<configuration><commSystem><device><name>D</name><variables><variable><name>V</name>"
+      "<value>1</value></variable></variables></device></commSystem></configuration>"));
+  services.SetDirectory(L"/a");
+  EXPECT_EQ(code(L"D.V"), QVEvaluator::CodeEvaluated);
+  services.MainCfg().Create(L"configuration");
+  services.SetDirectory(L"/b");
+  EXPECT_EQ(code(L"D.V"), unknown);
 }
 
 TEST(HostServices, NoticesReachThePresentListener) {
