@@ -147,6 +147,10 @@ bool IsOperand(const ExpressionToken& token) {
   return token.kind == ExpressionTokenKind::Number || token.kind == ExpressionTokenKind::Variable;
 }
 
+bool Means(const ExpressionToken& token, Meaning meaning) {
+  return token.word && token.word->meaning == meaning;
+}
+
 std::string OperandName(std::size_t number) { return "v" + std::to_string(number); }
 
 std::string PieceOf(const ExpressionToken& token) {
@@ -168,6 +172,10 @@ Composition Composed(const ExpressionTokens& tokens) {
   Composition composition;
   std::size_t operands = 0;
   for (std::size_t i = 0; i < tokens.size(); ++i) {
+    if (i > 0 && Means(tokens[i - 1], Meaning::Not) && Means(tokens[i], Meaning::Minus)) {
+      // The library has no two prefix operators in a row.
+      composition.Add("zero", i);
+    }
     composition.Add(IsOperand(tokens[i]) ? OperandName(operands++) : PieceOf(tokens[i]), i);
   }
   return composition;
@@ -182,6 +190,7 @@ class ExpressionEngine::Parser {
     m_parser.DefineNameChars("abcdefghijklmnopqrstuvwxyz0123456789");
     m_parser.DefineOprtChars("+-*/^<>=!&|");
     m_parser.DefineInfixOprtChars("-!");
+    m_parser.DefineConst("zero", mup::Value(0.0));
     m_parser.DefineConst("true", mup::Value(true));
     m_parser.DefineConst("false", mup::Value(false));
     DefineOperators();

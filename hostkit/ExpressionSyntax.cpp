@@ -16,6 +16,12 @@ bool IsPrefix(const ExpressionToken& token) {
          token.word->meaning == ExpressionMeaning::Not;
 }
 
+/// Whether these are the operators of `not -a`.
+bool IsNegativeInverted(const ExpressionToken& first, const ExpressionToken& second) {
+  return first.word->meaning == ExpressionMeaning::Not &&
+         second.word->meaning == ExpressionMeaning::Minus;
+}
+
 /// How people know the token.
 std::wstring TextOf(const ExpressionToken& token) {
   switch (token.kind) {
@@ -89,11 +95,11 @@ class SyntaxCheck {
     }
   }
 
-  /// The library that computes wants a bracket between two of them.
+  /// `not -a < b` makes sense; any other two of them want a bracket between.
   Flaw Prefix(const ExpressionToken& token) {
     const bool isBehindAnother = m_before && m_before == m_prefix;
     m_prefix = &token;
-    if (!isBehindAnother) {
+    if (!isBehindAnother || IsNegativeInverted(*m_before, token)) {
       return std::nullopt;
     }
     const std::wstring form = Format(L"%s(%s…)", {m_before->word->text, token.word->text});

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "tools/Names.h"
-
 namespace qv {
 namespace {
 
@@ -54,13 +52,23 @@ constexpr ExpressionWord words[] = {
     Function(L"sqrt", L"sqrt(a)", Meaning::Sqrt, Text::HelpSqrt),
 };
 
+constexpr wchar_t Lowered(wchar_t character) {
+  return character >= L'A' && character <= L'Z' ? character - L'A' + L'a' : character;
+}
+
+/// Words are ASCII, and each piece of an expression is looked for among all of them.
+bool IsWrittenAs(std::wstring_view word, std::wstring_view text) {
+  return std::equal(word.begin(), word.end(), text.begin(), text.end(),
+                    [](wchar_t a, wchar_t b) { return a == Lowered(b); });
+}
+
 }  // namespace
 
 std::span<const ExpressionWord> ExpressionVocabulary() { return words; }
 
 const ExpressionWord* FindExpressionWord(std::wstring_view text) {
   const auto found = std::find_if(std::begin(words), std::end(words), [text](const auto& word) {
-    return EqualUppered(word.text, text);
+    return IsWrittenAs(word.text, text);
   });
   return found == std::end(words) ? nullptr : &*found;
 }

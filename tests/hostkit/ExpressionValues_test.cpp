@@ -95,6 +95,8 @@ TEST_F(ExpressionValues, LogicIsWrittenInSignsAndWords) {
              {L"(true or true) and false", 0},
              {L"not 1 > 2", 1},
              {L"!1 > 2", 1},
+             {L"not -1 > 2", 1},
+             {L"!-2*3 + 1 < -4", 0},
              {L"not true or true", 1},
              {L"false == not true", 1},
              {L"!(!true)", 1}},
