@@ -75,4 +75,20 @@ inline constexpr int weekDayChecks[] = {5276, 5277, 5278, 5279, 5280, 5281, 5282
 inline constexpr int monthChecks[] = {5290, 5291, 5292, 5293, 5294, 5295,
                                       5305, 5307, 5309, 5310, 5312, 5314};
 
+// Conditions
+inline constexpr int conditionList = 5004;
+inline constexpr int addCondition = 5400;
+inline constexpr int removeCondition = 5401;
+inline constexpr int modifyCondition = 5402;
+inline constexpr int conditionsBox = 5403;
+inline constexpr int conditionUp = 5407;
+inline constexpr int conditionDown = 5408;
+
+// Editor of a condition
+inline constexpr int expressionLabel = 5404;
+inline constexpr int expressionEdit = 5405;
+inline constexpr int wizardButton = 5406;
+inline constexpr int conditionName = 5407;
+inline constexpr int conditionNameLabel = 5408;
+
 }  // namespace qv

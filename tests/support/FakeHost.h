@@ -91,7 +91,9 @@ struct FakeHost {
 template <class Service>
 class Installed {
  public:
-  explicit Installed(Service& service) : m_before(Service::Install(&service)) {}
+  explicit Installed(Service& service) : Installed(&service) {}
+  /// Null for a host that lacks the service.
+  explicit Installed(Service* service) : m_before(Service::Install(service)) {}
   Installed(const Installed&) = delete;
   Installed& operator=(const Installed&) = delete;
   ~Installed() { Service::Install(m_before); }
