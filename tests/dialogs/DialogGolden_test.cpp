@@ -6,6 +6,8 @@
 
 #include "calendar/ui/CDlgCalendar.h"
 #include "calendar/ui/CDlgFastSelection.h"
+#include "conditions/ui/CDlgConditions.h"
+#include "conditions/ui/CDlgConditionsNewModify.h"
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 #include "manager/ui/CDlgSetupDiscriminators.h"
 #include "tests/support/DialogTest.h"
@@ -125,6 +127,49 @@ TEST_F(DialogGolden, Calendar) {
 }
 
 TEST_F(DialogGolden, FastSelection) { Compare(CDlgFastSelection(nullptr, days.get(), 2026)); }
+
+/// Conditions over a scripted host.
+class ConditionGolden : public DialogGolden {
+ public:
+  ConditionGolden() {
+    host->loadString.additions = {Text::AltUpKey,      Text::AltDownKey, Text::ComposeExpression,
+                                  Text::PresentResult, Text::ResultTrue, Text::ExpressionNotKept};
+    host->driverSupport.script[L"M.U > 20"] = {};
+    host->driverSupport.script[L"M.U >"] = {
+        .analysis = 0, .fault = ExpressionFault{{5, 0}, L"a value is missing"}};
+    host->driverSupport.script[std::wstring(80, L'1')] = {.type = 0};
+  }
+
+  /// The editor of a condition with this expression.
+  void CompareExpression(const std::wstring& expression) {
+    XmlNode& condition = *conditions->Node(L"condition");
+    condition.SetValue(L"exp", expression.c_str());
+    Compare(CDlgConditionsNewModify(nullptr, &condition, conditions.get()));
+  }
+
+  const std::unique_ptr<XmlNode> conditions = Parsed(
+      "<conditions><condition><name>cold</name><exp>M.U &lt;= 20</exp></condition>"
+      "<condition><name>warm &amp; dry</name><exp>M.U &gt; 20</exp></condition>"
+      "<condition><name>other</name><exp>1 = 1</exp></condition></conditions>");
+};
+
+TEST_F(ConditionGolden, Conditions) { Compare(CDlgConditions(nullptr, conditions.get())); }
+
+TEST_F(ConditionGolden, NoConditions) {
+  XmlNode none(L"conditions");
+  Compare(CDlgConditions(nullptr, &none));
+}
+
+TEST_F(ConditionGolden, NewCondition) {
+  XmlNode scratch(L"condition");
+  Compare(CDlgConditionsNewModify(nullptr, &scratch, conditions.get()));
+}
+
+TEST_F(ConditionGolden, Condition) { CompareExpression(L"M.U > 20"); }
+
+TEST_F(ConditionGolden, ConditionWithAFault) { CompareExpression(L"M.U >"); }
+
+TEST_F(ConditionGolden, ConditionThatIsTooLong) { CompareExpression(std::wstring(80, L'1')); }
 
 }  // namespace
 }  // namespace qv

@@ -40,12 +40,16 @@ int RunModule(QLibrary& module) {
   Texts texts;
   Index index;
   NoClipboard clipboard;
+  Drivers drivers;
+  Informes informes;
   QVVornelSetup::Install(&setup);
   QVMainCfg::Install(&mainCfg);
   QVVornelGuids::Install(&guids);
   QVLoadString::Install(&texts);
   CreateDiscriminatorIndex::Install(&index);
   QVClipboard::Install(&clipboard);
+  QVDriverSupport::Install(&drivers);
+  QVInformes::Install(&informes);
   return Call(module, "RunExportedClasses") == 0 ? 0 : Fail("an exported class ended wrongly");
 }
 

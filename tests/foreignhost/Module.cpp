@@ -16,6 +16,9 @@ namespace {
 
 constexpr int addButton = 5348;
 constexpr int calendarLink = 5004;
+constexpr int conditionsLink = 5008;
+constexpr int addCondition = 5400;
+constexpr int wizardButton = 5406;
 
 QAbstractButton* ButtonOf(const QWidget& window, int id) {
   const auto buttons = window.findChildren<QAbstractButton*>();
@@ -59,6 +62,20 @@ bool RunManager() {
   return manager.DoModal() == IDCANCEL && tellsAYear;
 }
 
+/// Whether the editor of a condition is reached, and has asked for the wizard, which gave nothing.
+bool RunConditions() {
+  CDlgSetupDiscriminators manager(nullptr, nullptr);
+  bool isThere = false;
+  Visit({addButton, conditionsLink, addCondition}, [&isThere](const QWidget& window) {
+    QAbstractButton* wizard = ButtonOf(window, wizardButton);
+    isThere = wizard != nullptr;
+    if (isThere) {
+      wizard->click();
+    }
+  });
+  return manager.DoModal() == IDCANCEL && isThere;
+}
+
 bool RunFastSelection() {
   std::vector<DWORD> colours = {0x0000FF, 0x00FF00};
   std::vector<QVWideString> names = {L"Work", L"Rest"};
@@ -92,7 +109,8 @@ bool PaintsADay() {
 
 /// Runs each exported class once; the number of those that didn't end as they should.
 extern "C" Q_DECL_EXPORT int RunExportedClasses() {
-  return (RunManager() ? 0 : 1) + (PaintsADay() ? 0 : 1) + (RunFastSelection() ? 0 : 1);
+  return (RunManager() ? 0 : 1) + (RunConditions() ? 0 : 1) + (PaintsADay() ? 0 : 1) +
+         (RunFastSelection() ? 0 : 1);
 }
 
 /// Runs the manager while the host has nothing installed; what the dial does, which needs nothing,

@@ -50,7 +50,8 @@ TEST_F(Editor, LabelsNameTheirControls) {
   });
 }
 
-TEST_F(Editor, LinksThatCannotBeOpenedYetSayWhy) {
+TEST_F(Editor, WithoutTheServicesOfExpressionsTheLinkOfConditionsSaysWhyItIsDisabled) {
+  const Installed<QVDriverSupport> none(nullptr);
   host->loadString.additions = {Text::LinkNotReady};
   Add([] {
     EXPECT_TRUE(TopControl(calendarLink)->isEnabled());

@@ -7,6 +7,8 @@
 
 #include "calendar/ui/CDlgCalendar.h"
 #include "calendar/ui/CDlgFastSelection.h"
+#include "conditions/ui/CDlgConditions.h"
+#include "conditions/ui/CDlgConditionsNewModify.h"
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 #include "hostkit/LanguageFile.h"
 #include "manager/ui/CDlgSetupDiscriminators.h"
@@ -103,6 +105,15 @@ TEST_P(Mnemonics, AreUnequalInTheCalendarAndTheFastSelection) {
   ExpectOneForEach(calendar, 1);
   CDlgFastSelection fastSelection(nullptr, Part(L"dayTypes"), 2026);
   ExpectOneForEach(fastSelection, 20);
+}
+
+TEST_P(Mnemonics, AreUnequalInTheDialogsOfConditions) {
+  XmlNode conditions(L"conditions");
+  CDlgConditions list(nullptr, &conditions);
+  ExpectOneForEach(list, 3);
+  XmlNode condition(L"condition");
+  CDlgConditionsNewModify editor(nullptr, &condition, &conditions);
+  ExpectOneForEach(editor, 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, Mnemonics, testing::Values("en.txt", "es.txt"),
