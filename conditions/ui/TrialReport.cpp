@@ -18,7 +18,7 @@ namespace qv {
 namespace {
 
 constexpr std::size_t mostRowsAtStart = 15;
-constexpr int charactersAcross = 90;
+constexpr int charactersAcross = 120;
 
 /// What is told of the condition that comes first, or of there being none.
 QString FirstInWords(const std::vector<TriedCondition>& tried, const QVLoadString& loadString) {

@@ -1,6 +1,8 @@
 #include "conditions/ui/CDlgConditionsNewModify.h"
 
+#include <QHelpEvent>
 #include <QMessageBox>
+#include <QToolTip>
 
 #include "tests/conditions/ui/ConditionsFixture.h"
 #include "toolkit/QVLayout.h"
@@ -327,6 +329,23 @@ TEST_F(ConditionEditor, NeedsTheServicesOfExpressions) {
     const Installed<QVInformes> none(nullptr);
     EXPECT_EQ(editor.DoModal(), -1);
   }
+}
+
+TEST_F(ConditionEditor, AStatusWithoutEnoughRoomIsWholeInItsToolTip) {
+  host->driverSupport.words[9] = std::wstring(300, L'w');
+  host->driverSupport.script[L"odd"] = {.code = 9};
+  Modify([] {
+    const auto hint = [] {
+      QWidget* label = TopControl(expressionLabel);
+      QHelpEvent event(QEvent::ToolTip, {1, 1}, label->mapToGlobal(QPoint(1, 1)));
+      QApplication::sendEvent(label, &event);
+      return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    EXPECT_EQ(hint(), "");
+    Type(expressionEdit, "odd");
+    EXPECT_EQ(hint(), "<p>" + Status(QString(300, 'w')) + "</p>");
+    Click(IDCANCEL);
+  });
 }
 
 TEST_F(ConditionEditor, TheHeightFitsItsContent) {
