@@ -111,7 +111,13 @@ void ExpressionEdit::mousePressEvent(QMouseEvent* event) {
 
 void ExpressionEdit::focusOutEvent(QFocusEvent* event) {
   m_list->Close();
+  const int start = selectionStart();
+  const int length = selectionLength();
+  const bool isForward = cursorPosition() > start;
   QLineEdit::focusOutEvent(event);
+  if (length > 0) {
+    setSelection(isForward ? start : start + length, isForward ? length : -length);
+  }
   m_composing =
       false;  // a composition doesn't outlive the focus, and not all of them tell their end
   ShowMarks();

@@ -11,7 +11,8 @@ namespace qv {
 
 class ProposalList;
 
-/// An edit for an expression: it marks places of its text, and completes what is written.
+/// An edit for an expression: it marks places of its text, and completes what is written. Its
+/// selection stays when it loses the focus, so that others can work on it.
 ///
 /// All places are in characters of the text as the rules have it (`toolkit/WidePlaces.h` turns
 /// those of `QLineEdit`).

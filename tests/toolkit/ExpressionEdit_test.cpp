@@ -111,6 +111,18 @@ TEST_F(ExpressionEditTest, PlacesCountCharactersBeyondTheBasicPlaneOnce) {
   EXPECT_EQ(edit.Selection(), (ExpressionPlace{7, 0}));
 }
 
+TEST_F(ExpressionEditTest, TheSelectionStaysWhenTheFocusGoes) {
+  edit.setText(QStringLiteral("abcd"));
+  for (const int length : {2, -2}) {
+    edit.setFocus();
+    edit.setSelection(2, length);
+    const int cursor = edit.cursorPosition();
+    edit.clearFocus();
+    EXPECT_EQ(edit.selectedText().size(), 2);
+    EXPECT_EQ(edit.cursorPosition(), cursor);
+  }
+}
+
 /// Lets an input method show `preedit` in the edit and put `commit` into it.
 void Compose(QWidget& edit, const QString& preedit, const QString& commit = {}) {
   QInputMethodEvent event(preedit, {});
