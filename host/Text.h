@@ -227,6 +227,27 @@ enum class Text : unsigned {
   HelpSqrt = 60158,               ///< help
   HelpIf = 60159,                 ///< help
 
+  // Wizard of expressions
+  Proposals = 60100,             ///< name of the list that drops down from an expression
+  WizardTitle = 60160,           ///< title
+  WizardConditionTitle = 60161,  ///< title, for a condition
+  WizardFind = 60162,            ///< label of the search field
+  WizardFindHint = 60163,        ///< in the empty search field
+  WizardVariables = 60164,       ///< label of the tree
+  WizardUnit = 60165,            ///< heading in the tree
+  WizardValue = 60166,           ///< heading in the tree
+  WizardNothingToShow = 60167,   ///< in the empty tree
+  WizardNothingFound = 60168,    ///< in the tree that a search emptied
+  WizardVocabulary = 60169,      ///< label of the second list
+  WizardForm = 60170,            ///< heading of the second list: how a word is used
+  WizardMeaning = 60171,         ///< heading of the second list: what it does
+  WizardExpression = 60172,      ///< label of the edit
+  WizardLength = 60173,          ///< beside it: characters in use %d, most that are kept %d
+  WizardEmpty = 60174,           ///< in place of the result: nothing is written
+  WizardTrue = 60175,            ///< result
+  WizardFalse = 60176,           ///< result
+  WizardNotCondition = 60177,    ///< result %s that is a number
+
   // Variable selection
   VariableSelection = 196,    ///< first part of the title
   Discriminator = 32355,      ///< second part of the title; the device's name may follow

@@ -28,7 +28,8 @@ bool IsOneOf(std::wstring_view characters, wchar_t character) {
 
 /// Whether a value or a word behind `before` has to be kept apart from it.
 bool TouchesBefore(std::wstring_view before) {
-  return !before.empty() && (IsPlainNameCharacter(before.back()) || IsOneOf(L".)],", before.back()));
+  return !before.empty() &&
+         (IsPlainNameCharacter(before.back()) || IsOneOf(L".)],", before.back()));
 }
 
 bool TouchesAfter(std::wstring_view after) {

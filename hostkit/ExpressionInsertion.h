@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/QVEvaluator.h"
 #include "hostkit/ExpressionVocabulary.h"
 
 namespace qv {

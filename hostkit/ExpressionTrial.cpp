@@ -43,12 +43,13 @@ ExpressionTrial Failure(const QVDriverSupport& support, const QVEvaluator& evalu
 
 ExpressionTrial Result(const QVLoadString& texts, double value, int type, bool isCondition) {
   if (type == QVEvaluator::TypeLogical) {
-    return {std::wstring(texts.Load(value != 0 ? Text::ResultTrue : Text::ResultFalse).ToView()),
+    return {std::wstring(texts.Load(value != 0 ? Text::WizardTrue : Text::WizardFalse).ToView()),
             std::nullopt};
   }
   const std::wstring number = NumberText(value);
-  const QVWideString complaint = texts.Load(Text::ResultIsNumber);
-  return {isCondition ? Format(complaint.ToView(), {std::wstring_view(number)}) : number, std::nullopt};
+  const QVWideString complaint = texts.Load(Text::WizardNotCondition);
+  return {isCondition ? Format(complaint.ToView(), {std::wstring_view(number)}) : number,
+          std::nullopt};
 }
 
 }  // namespace
@@ -73,9 +74,8 @@ ExpressionTrial TryExpression(const QVDriverSupport& support, const QVLoadString
   const int code = evaluator->AnalizeExpression() == 1
                        ? evaluator->Evaluate(value, type)
                        : static_cast<int>(ExpressionCode::NotWellFormed);
-  return code == QVEvaluator::CodeEvaluated
-             ? Result(texts, value, type, demand.isCondition)
-             : Failure(support, *evaluator, code);
+  return code == QVEvaluator::CodeEvaluated ? Result(texts, value, type, demand.isCondition)
+                                            : Failure(support, *evaluator, code);
 }
 
 }  // namespace qv

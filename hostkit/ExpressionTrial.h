@@ -18,7 +18,7 @@ struct ExpressionDemand {
 
 /// How the evaluation of an expression ends at the moment, in the words of the user.
 struct ExpressionTrial {
-  std::wstring words{};                     ///< the result, or why there is none
+  std::wstring words{};                    ///< the result, or why there is none
   std::optional<ExpressionPlace> wrong{};  ///< where it is wrong, if it is
 
   friend bool operator==(const ExpressionTrial&, const ExpressionTrial&) = default;
