@@ -14,6 +14,8 @@ bool IsReturn(const QKeyEvent& key) {
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
+QString TextOf(const QTreeWidgetItem& entry) { return entry.data(0, textRole).toString(); }
+
 }  // namespace
 
 EntryTree::EntryTree(QWidget* parent) : QTreeWidget(parent) {
@@ -29,15 +31,6 @@ void EntryTree::MakeEntry(QTreeWidgetItem& item, const QString& text) {
   item.setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
                 Qt::ItemNeverHasChildren);
   item.setData(0, textRole, text);
-}
-
-QTreeWidgetItem* EntryTree::CurrentEntry() const {
-  QTreeWidgetItem* item = currentItem();
-  return item && item->flags().testFlag(Qt::ItemIsDragEnabled) ? item : nullptr;
-}
-
-QString EntryTree::TextOf(const QTreeWidgetItem& entry) {
-  return entry.data(0, textRole).toString();
 }
 
 void EntryTree::keyPressEvent(QKeyEvent* event) {
@@ -58,14 +51,24 @@ void EntryTree::mouseDoubleClickEvent(QMouseEvent* event) {
   }
 }
 
-QStringList EntryTree::mimeTypes() const { return {QStringLiteral("text/plain")}; }
-
-QMimeData* EntryTree::mimeData(const QList<QTreeWidgetItem*>& items) const {
-  auto* data = new QMimeData;
-  data->setText(items.isEmpty() ? QString() : TextOf(*items.front()));
-  return data;
+QStringList EntryTree::mimeTypes() const {
+  return {QString::fromLatin1(Format), QStringLiteral("text/plain")};
 }
 
-void EntryTree::Choose() { emit Chosen(currentItem()); }
+QMimeData* EntryTree::mimeData(const QList<QTreeWidgetItem*>& items) const {
+  auto* dragged = new QMimeData;
+  const QString text = items.isEmpty() ? QString() : TextOf(*items.front());
+  dragged->setText(text);
+  dragged->setData(QString::fromLatin1(Format), text.toUtf8());
+  return dragged;
+}
+
+void EntryTree::Choose() { emit Chosen(TextOf(*currentItem())); }
+
+/// The current item if it is an entry, else null.
+QTreeWidgetItem* EntryTree::CurrentEntry() const {
+  QTreeWidgetItem* item = currentItem();
+  return item && item->flags().testFlag(Qt::ItemIsDragEnabled) ? item : nullptr;
+}
 
 }  // namespace qv

@@ -12,18 +12,16 @@ class EntryTree : public QTreeWidget {
  public:
   explicit EntryTree(QWidget* parent = nullptr);
 
-  /// Makes `item` an entry, of which `text` is what other programs get when it is dragged there.
+  /// The format of what is dragged from such a tree: its entry's text in UTF-8. Elsewhere than in a
+  /// wizard it is a plain text.
+  static constexpr char Format[] = "application/x-expression-entry";
+
+  /// Makes `item` the entry of `text`, a variable or a word of expressions.
   static void MakeEntry(QTreeWidgetItem& item, const QString& text);
 
-  /// The current entry, or null.
-  QTreeWidgetItem* CurrentEntry() const;
-
-  /// The text of an entry.
-  static QString TextOf(const QTreeWidgetItem& entry);
-
  signals:
-  /// The user wants this entry in the expression.
-  void Chosen(QTreeWidgetItem* entry);
+  /// The user wants the entry of this text in the expression.
+  void Chosen(const QString& text);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -33,6 +31,7 @@ class EntryTree : public QTreeWidget {
 
  private:
   void Choose();
+  QTreeWidgetItem* CurrentEntry() const;
 };
 
 }  // namespace qv

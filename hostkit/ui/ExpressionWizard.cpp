@@ -1,13 +1,15 @@
 #include "hostkit/ui/ExpressionWizard.h"
 
 #include <QDropEvent>
-#include <QHBoxLayout>
 #include <QFocusEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTimerEvent>
 #include <QVBoxLayout>
+#include <initializer_list>
 
 #include "hostkit/ExpressionBrackets.h"
 #include "hostkit/ExpressionInsertion.h"
@@ -26,8 +28,9 @@ namespace {
 
 constexpr int refreshInterval = 1000;  // milliseconds
 constexpr int resultLines = 2;
-constexpr QSize openingSize(860, 560);
-constexpr QSize leastList(160, 120);
+constexpr QSize openingSize(960, 560);
+constexpr QSize leastTree(340, 140);
+constexpr QSize leastVocabulary(220, 140);
 
 /// The part of a column with a label above what it is for.
 QVBoxLayout* Labelled(QLabel* label, QWidget* control) {
@@ -44,13 +47,19 @@ QWidget* Pane(QLabel* label, QWidget* control) {
   return pane;
 }
 
+void PutInTabOrder(std::initializer_list<QWidget*> widgets) {
+  for (const auto* next = widgets.begin() + 1; next != widgets.end(); ++next) {
+    QWidget::setTabOrder(*(next - 1), *next);
+  }
+}
+
 }  // namespace
 
 ExpressionWizard::ExpressionWizard(const WizardServices& services, const ExpressionDemand& demand,
                                    QWidget* parent)
     : QDialog(parent), m_services(services), m_demand(demand) {
-  setWindowTitle(HostText(services.texts, demand.isCondition ? Text::WizardConditionTitle
-                                                             : Text::WizardTitle));
+  setWindowTitle(HostText(services.texts,
+                          demand.isCondition ? Text::WizardConditionTitle : Text::WizardTitle));
   setSizeGripEnabled(true);
   MakeControls();
   LayOut();
@@ -99,10 +108,10 @@ void ExpressionWizard::MakeControls() {
   m_words->setClearButtonEnabled(true);
   m_words->installEventFilter(this);
   m_variables = new VariableTree(m_services.expressions, texts, m_demand.variables, this);
-  m_variables->setMinimumSize(leastList);
+  m_variables->setMinimumSize(leastTree);
   m_noVariables = new EmptyHint(*m_variables);
   m_vocabulary = new VocabularyList(texts, this);
-  m_vocabulary->setMinimumSize(leastList);
+  m_vocabulary->setMinimumSize(leastVocabulary);
   m_expression = new ExpressionEdit(this);
   LimitTyping(m_expression, 0);
   m_expression->installEventFilter(this);
@@ -142,6 +151,7 @@ void ExpressionWizard::LayOut() {
   column->addWidget(m_expression);
   column->addWidget(m_result);
   column->addLayout(buttons);
+  PutInTabOrder({m_words, m_variables, m_vocabulary, m_expression, ok, cancel});
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -163,12 +173,10 @@ CImageButton* ExpressionWizard::NewButton(Text text, const wchar_t* picture) {
 
 void ExpressionWizard::Connect() {
   connect(m_words, &QLineEdit::textChanged, this, &ExpressionWizard::Find);
-  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
-    m_words->setFocus(Qt::ShortcutFocusReason);
-  });
-  for (EntryTree* entries : {static_cast<EntryTree*>(m_variables), static_cast<EntryTree*>(m_vocabulary)}) {
-    connect(entries, &EntryTree::Chosen, this, [this, entries] { InsertFrom(*entries); });
-  }
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+          [this] { m_words->setFocus(Qt::ShortcutFocusReason); });
+  connect(m_variables, &EntryTree::Chosen, this, &ExpressionWizard::Insert);
+  connect(m_vocabulary, &EntryTree::Chosen, this, &ExpressionWizard::Insert);
   connect(m_expression, &QLineEdit::textChanged, this, &ExpressionWizard::Try);
   connect(m_expression, &QLineEdit::cursorPositionChanged, this, &ExpressionWizard::Mark);
   m_expression->SetProposals(
@@ -191,15 +199,14 @@ void ExpressionWizard::GoToVariables() {
   m_variables->setFocus();
 }
 
-/// Puts the current entry into the expression, in place of what is selected there.
-void ExpressionWizard::InsertFrom(const EntryTree& entries) {
-  const QTreeWidgetItem& entry = *entries.CurrentEntry();
+/// Puts a variable or a word into the expression, in place of what is selected there.
+void ExpressionWizard::Insert(const QString& entry) {
   const std::wstring expression = Expression().toStdWString();
+  const std::wstring text = entry.toStdWString();
   const ExpressionPlace replaced = m_expression->Selection();
+  const ExpressionWord* word = FindExpressionWord(text);
   const ExpressionInsertion inserted =
-      &entries == m_vocabulary
-          ? InsertedWord(expression, replaced, m_vocabulary->WordOf(entry))
-          : InsertedValue(expression, replaced, EntryTree::TextOf(entry).toStdWString());
+      word ? InsertedWord(expression, replaced, *word) : InsertedValue(expression, replaced, text);
   m_expression->Replace(replaced, ToQString(inserted.text), inserted.cursor);
   m_expression->setFocus();
 }
@@ -207,13 +214,12 @@ void ExpressionWizard::InsertFrom(const EntryTree& entries) {
 /// Takes an entry of the lists as if it had been chosen with the cursor there; false for what comes
 /// from elsewhere.
 bool ExpressionWizard::Drop(QDropEvent& event) {
-  const auto* entries = qobject_cast<const EntryTree*>(event.source());
-  if (!entries || !entries->CurrentEntry()) {
+  const QString format = QString::fromLatin1(EntryTree::Format);
+  if (!event.mimeData()->hasFormat(format)) {
     return false;
   }
-  m_expression->setCursorPosition(
-      m_expression->cursorPositionAt(event.position().toPoint()));
-  InsertFrom(*entries);
+  m_expression->setCursorPosition(m_expression->cursorPositionAt(event.position().toPoint()));
+  Insert(QString::fromUtf8(event.mimeData()->data(format)));
   event.acceptProposedAction();
   return true;
 }

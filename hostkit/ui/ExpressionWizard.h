@@ -16,7 +16,6 @@ class CImageButton;
 namespace qv {
 
 class EmptyHint;
-class EntryTree;
 class VariableTree;
 class VocabularyList;
 
@@ -55,7 +54,7 @@ class ExpressionWizard : public QDialog {
   void Connect();
   void Find(const QString& words);
   void GoToVariables();
-  void InsertFrom(const EntryTree& entries);
+  void Insert(const QString& entry);
   bool Drop(QDropEvent& event);
   bool Enter(const QFocusEvent& event);
   void Try();

@@ -59,9 +59,8 @@ class VariableRow : public QTreeWidgetItem {
 bool HasAll(const QStringList& words, const Device& device, const Variable& variable) {
   const QString text =
       ToQString(device.Name() + L'.' + variable.name + L' ' + variable.description);
-  return std::ranges::all_of(words, [&text](const QString& word) {
-    return text.contains(word, Qt::CaseInsensitive);
-  });
+  return std::ranges::all_of(
+      words, [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
 /// The rows of those variables of `device` that may stand in an expression and have the words.
@@ -95,7 +94,7 @@ void VariableTree::Find(const QString& words) {
   QList<QTreeWidgetItem*> devices;
   for (const Device& device : m_support.Devices().Devices()) {
     const auto rows = m_allowed.Allows(device) ? RowsOf(device, m_support, m_allowed, all)
-                                              : QList<QTreeWidgetItem*>();
+                                               : QList<QTreeWidgetItem*>();
     if (!rows.isEmpty()) {
       devices.append(new QTreeWidgetItem({ToQString(device.Name())}));
       devices.back()->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
@@ -142,8 +141,8 @@ void VariableTree::SizeColumns() {
   constexpr std::array shares{std::pair{NameColumn, 35}, std::pair{UnitColumn, 12},
                               std::pair{ValueColumn, 25}};  // per cent of the width
   for (const auto& [column, share] : shares) {
-    const int wanted = std::max(sizeHintForColumn(column) + aroundText,
-                                header()->sectionSizeHint(column));
+    const int wanted =
+        std::max(sizeHintForColumn(column) + aroundText, header()->sectionSizeHint(column));
     setColumnWidth(column, std::min(wanted, viewport()->width() * share / 100));
   }
 }

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 
+#include "hostkit/ExpressionVocabulary.h"
 #include "toolkit/Caption.h"
 #include "toolkit/Strings.h"
 #include "toolkit/Texts.h"
@@ -18,11 +19,6 @@ VocabularyList::VocabularyList(const QVLoadString& texts, QWidget* parent) : Ent
     MakeEntry(*row, QString::fromWCharArray(word.text));
   }
   resizeColumnToContents(0);
-}
-
-const ExpressionWord& VocabularyList::WordOf(const QTreeWidgetItem& entry) const {
-  const int row = indexFromItem(&entry).row();
-  return ExpressionVocabulary()[static_cast<std::size_t>(row)];
 }
 
 }  // namespace qv

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/QVLoadString.h"
-#include "hostkit/ExpressionVocabulary.h"
 #include "hostkit/ui/EntryTree.h"
 
 namespace qv {
@@ -12,9 +11,6 @@ class VocabularyList : public EntryTree {
 
  public:
   explicit VocabularyList(const QVLoadString& texts, QWidget* parent = nullptr);
-
-  /// The word that an entry of this list stands for.
-  const ExpressionWord& WordOf(const QTreeWidgetItem& entry) const;
 };
 
 }  // namespace qv

@@ -45,7 +45,7 @@ const std::map<std::string, Folders>& AllowedFolders() {
     add("variables/ui", {"variables", "toolkit"});
     add("editor/ui", {"editor", "timestructure/ui", "calendar/ui", "conditions/ui", "toolkit"});
     add("manager/ui", {"manager", "editor/ui", "toolkit"});
-    add("hostkit/ui", {"hostkit"});
+    add("hostkit/ui", {"hostkit", "toolkit"});
     add("library", {"manager/ui", "calendar/ui", "variables/ui", "timestructure/ui"});
     add("apps/commandline", {"hostkit"});
     add("apps/configurator", {"library", "hostkit/ui", "apps/commandline"});
