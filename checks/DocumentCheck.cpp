@@ -1,6 +1,7 @@
 #include "checks/DocumentCheck.h"
 
 #include "checks/CalendarCheck.h"
+#include "checks/ConditionCheck.h"
 #include "checks/PartCheck.h"
 #include "checks/SlotCheck.h"
 #include "discriminator/Fields.h"
@@ -8,7 +9,7 @@
 
 namespace qv {
 
-Findings CheckDocument(const XmlNode& root) {
+Findings CheckDocument(const XmlNode& root, const QVDriverSupport* drivers) {
   Findings findings;
   const PartIds hourTypes = CheckParts(root, tag::HourTypes, tag::Hour, findings);
   const PartIds dayTypes = CheckParts(root, tag::DayTypes, tag::Day, findings);
@@ -17,6 +18,9 @@ Findings CheckDocument(const XmlNode& root) {
     CheckSlots(day, hourTypes, findings);
   }
   CheckCalendar(root.Node(tag::Calendar), dayTypes, findings);
+  if (drivers) {
+    CheckConditions(root.Node(tag::Conditions), *drivers, findings);
+  }
   return findings;
 }
 

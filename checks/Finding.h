@@ -34,6 +34,11 @@ enum class FindingKind {
   NoSuchMonth,
   NoSuchDate,
   DatesBeyondWalk,
+  ConditionMalformed,
+  ConditionNotLogical,
+  ConditionFails,
+  ConditionsAlike,
+  ConditionTooLong,
 
   Count
 };
@@ -51,7 +56,8 @@ struct Finding {
   /// Whether something has to be mended; any other finding is a note, which only explains.
   bool IsFault() const {
     return kind != FindingKind::HiddenType && kind != FindingKind::DayGaps &&
-           kind != FindingKind::DatesBeyondWalk;
+           kind != FindingKind::DatesBeyondWalk && kind != FindingKind::ConditionsAlike &&
+           kind != FindingKind::ConditionTooLong;
   }
   /// Whether it is why the list leaves the file out.
   bool LeavesOut() const { return kind <= FindingKind::NameDiffers; }

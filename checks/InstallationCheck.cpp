@@ -64,7 +64,7 @@ class InstallationCheck {
     } else {
       m_indexes.LeaveAlone(file);
     }
-    for (Finding& finding : CheckDocument(*root)) {
+    for (Finding& finding : CheckDocument(*root, m_installation.drivers)) {
       finding.file = file;
       m_findings.push_back(std::move(finding));
     }

@@ -5,6 +5,7 @@
 
 #include "checks/Finding.h"
 #include "host/Progress.h"
+#include "host/QVDriverSupport.h"
 #include "tools/Files.h"
 #include "tools/QVBasicString.h"
 #include "tools/XmlNode.h"
@@ -25,6 +26,7 @@ struct InstallationToCheck {
   ConfigurationState configuration = ConfigurationState::Good;
   bool isEmbedded = false;                ///< whether discriminators of type CONDITIONS are hidden
   const XmlNode* deviceGroups = nullptr;  ///< of the main configuration; null if there are none
+  const QVDriverSupport* drivers = nullptr;  ///< evaluates conditions; without it none is tried
 };
 
 /// What a check has found.
@@ -43,9 +45,10 @@ struct CheckedInstallation {
 /// Looks at every discriminator file of the directory, at their index files, and at the entries of
 /// discriminators in the device groups, unless the configuration isn't good.
 ///
-/// Told is which files the list leaves out and why, slots and dates that lead nowhere, parts, ids
-/// and names that come twice, index files that are missing, out of date or of no use, and entries
-/// that don't fit the files. Nothing is changed. `progress` watches the reading; it can't stop it.
+/// Told is which files the list leaves out and why, slots and dates that lead nowhere, conditions
+/// that are none, parts, ids and names that come twice, index files that are missing, out of date
+/// or of no use, and entries that don't fit the files. Nothing is changed. `progress` watches the
+/// reading; it can't stop it.
 [[nodiscard]] CheckedInstallation CheckInstallation(const InstallationToCheck& installation,
                                                     Progress& progress);
 
