@@ -11,6 +11,7 @@
 #include "apps/commandline/CommandLine.h"
 #include "apps/qvdisc/CallDescription.h"
 #include "apps/qvdisc/CallOptions.h"
+#include "apps/qvdisc/ConditionArguments.h"
 #include "apps/qvdisc/MarkArguments.h"
 #include "apps/qvdisc/TypeArguments.h"
 #include "apps/qvdisc/Words.h"
@@ -70,10 +71,17 @@ Arguments ReadTexts(const CLI::App& app, const OptionTexts& texts) {
                        IsFirst(texts.type, "SLOTS"), IsFirst(texts.zero, "yes")};
   if (const auto actions = verb.get_subcommands(); !actions.empty()) {
     arguments.verbName += " " + actions.front()->get_name();
-    arguments.type = ReadTypeCall(*actions.front(), texts.types);
+    if (arguments.verb == Verb::Condition) {
+      arguments.condition = ReadConditionCall(*actions.front(), texts.conditions);
+    } else {
+      arguments.type = ReadTypeCall(*actions.front(), texts.types);
+    }
   }
   if (arguments.verb == Verb::Mark || arguments.verb == Verb::Unmark) {
     arguments.mark = ReadMarkCall(verb, texts.marks);
+  }
+  if (arguments.verb == Verb::Eval) {
+    arguments.expression = qv::FromUtf8(texts.conditions.expression);
   }
   return arguments;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "apps/commandline/CommandLine.h"
+#include "apps/qvdisc/ConditionCall.h"
 #include "apps/qvdisc/MarkCall.h"
 #include "apps/qvdisc/TypeCall.h"
 #include "hostkit/Language.h"
@@ -23,10 +24,12 @@ enum class Verb {
   Modify,
   HourType,
   DayType,
+  Condition,
   Mark,
   Unmark,
   Remove,
   Check,
+  Eval,
   Names
 };
 
@@ -54,6 +57,8 @@ struct Arguments {
   FieldChanges changes;
   TypeCall type;
   MarkCall mark;
+  ConditionCall condition;
+  std::wstring expression;  ///< to be evaluated
 };
 
 /// Reads the command line, of which the first is the program's name. A call that can't be carried

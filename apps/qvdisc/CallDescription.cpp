@@ -6,6 +6,7 @@
 #include <climits>
 
 #include "apps/commandline/CommandLine.h"
+#include "apps/qvdisc/ConditionArguments.h"
 #include "apps/qvdisc/HelpSections.h"
 #include "apps/qvdisc/MarkArguments.h"
 #include "apps/qvdisc/Meaning.h"
@@ -99,6 +100,13 @@ constexpr std::array verbs = {
             {"Lista, crea, cambia o elimina tipos de día con sus franjas",
              "Lists, adds, modifies or removes day types with their slots"},
             "qvdisc day-type list 'Day and night' --json"},
+    VerbRow{"condition",
+            Verb::Condition,
+            noStems,
+            AddConditionVerbs,
+            {"Lista, crea, cambia, elimina u ordena condiciones",
+             "Lists, adds, modifies, removes or orders conditions"},
+            "qvdisc condition list 'Transformer station state'"},
     VerbRow{"mark",
             Verb::Mark,
             oneStem,
@@ -132,6 +140,14 @@ constexpr std::array verbs = {
              "Tells what is wrong with the files and entries of discriminators"},
             "qvdisc check --strict\n"
             "qvdisc check 'Day and night' --json"},
+    VerbRow{"eval",
+            Verb::Eval,
+            noStems,
+            AddEvaluated,
+            {"Evalúa una expresión con los valores actuales de la instalación",
+             "Evaluates an expression on the present values of the installation"},
+            "qvdisc eval '[TS1.S] > 630'\n"
+            "qvdisc eval 'max(TS1.VL1, TS1.VL2) - 230' --json"},
     VerbRow{"names",
             Verb::Names,
             noStems,

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/qvdisc/ConditionTexts.h"
 #include "apps/qvdisc/MarkTexts.h"
 #include "apps/qvdisc/TypeTexts.h"
 #include "hostkit/Language.h"
@@ -32,6 +33,7 @@ struct OptionTexts {
   bool dryRun = false;
   TypeTexts types;
   MarkTexts marks;
+  ConditionTexts conditions;
 };
 
 /// How many STEMs a verb takes.

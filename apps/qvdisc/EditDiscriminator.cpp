@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "apps/qvdisc/ConditionWords.h"
 #include "apps/qvdisc/TypeWords.h"
 #include "discriminator/DiscriminatorFile.h"
 #include "manager/ClipboardPayload.h"
@@ -69,12 +70,18 @@ bool Finish(const EditorEnd& end, const Edited& edited) {
   return end.confirmed;
 }
 
-bool HasTimeSlots(const DiscriminatorForm& form, Outcome& outcome) {
-  const bool hasSlots = form.Type() == qv::DiscriminatorType::Slots;
-  if (!hasSlots) {
-    Fail(outcome, TypeWord::NoTimeSlots, {form.InitialFields().name});
+/// Whether the discriminator has the parts of this type; the outcome tells if not.
+bool HasParts(const DiscriminatorForm& form, qv::DiscriminatorType type, Outcome& outcome) {
+  if (form.Type() == type) {
+    return true;
   }
-  return hasSlots;
+  const QVWideString name = form.InitialFields().name;
+  if (type == qv::DiscriminatorType::Slots) {
+    Fail(outcome, TypeWord::NoTimeSlots, {name});
+  } else {
+    Fail(outcome, ConditionWord::NoConditions, {name});
+  }
+  return false;
 }
 
 }  // namespace
@@ -87,17 +94,17 @@ bool ModifyDiscriminator(const Edited& edited, const UseEditor& use) {
   return Finish(edited.list.OnModify(edited.rows, EditorOf(edited, use)), edited);
 }
 
-bool ModifyParts(const Edited& edited, const UseParts& use) {
+bool ModifyParts(const Edited& edited, qv::DiscriminatorType type, const UseParts& use) {
   return ModifyDiscriminator(edited, [&](DiscriminatorForm& form) {
-    const bool isConfirmed = HasTimeSlots(form, edited.outcome) && use(form);
+    const bool isConfirmed = HasParts(form, type, edited.outcome) && use(form);
     return isConfirmed ? std::optional(form.InitialFields()) : std::nullopt;
   });
 }
 
-bool ReadParts(const Edited& edited, const UseParts& use) {
+bool ReadParts(const Edited& edited, qv::DiscriminatorType type, const UseParts& use) {
   const QVWideString path = edited.list.PathOf(edited.rows.front());
   const auto form = Open(edited, nullptr, &path);
-  return form && HasTimeSlots(*form, edited.outcome) && use(*form);
+  return form && HasParts(*form, type, edited.outcome) && use(*form);
 }
 
 }  // namespace qvdisc

@@ -31,12 +31,12 @@ bool ModifyDiscriminator(const Edited& edited, const UseEditor& use);
 /// opens. Whether that was confirmed; if not, the outcome tells why.
 using UseParts = std::function<bool(qv::DiscriminatorForm&)>;
 
-/// The same for a discriminator of time slots whose fields stay as they are while `use` works on
-/// copies of its hour types, day types or calendar. One of conditions is refused.
-bool ModifyParts(const Edited& edited, const UseParts& use);
+/// The same for a discriminator whose fields stay as they are while `use` works on copies of its
+/// parts. One that isn't of this type is refused.
+bool ModifyParts(const Edited& edited, qv::DiscriminatorType type, const UseParts& use);
 
-/// Lets `use` see the parts of a discriminator of time slots, of which nothing is saved. Whether
+/// Lets `use` see the parts of a discriminator of this type, of which nothing is saved. Whether
 /// that was possible; the outcome tells why not.
-bool ReadParts(const Edited& edited, const UseParts& use);
+bool ReadParts(const Edited& edited, qv::DiscriminatorType type, const UseParts& use);
 
 }  // namespace qvdisc

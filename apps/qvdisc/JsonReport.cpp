@@ -1,5 +1,6 @@
 #include <nlohmann/json.hpp>
 
+#include "apps/qvdisc/ConditionReport.h"
 #include "apps/qvdisc/DocumentJson.h"
 #include "apps/qvdisc/FindingWords.h"
 #include "apps/qvdisc/Reports.h"
@@ -79,6 +80,12 @@ void AddVerbsOwn(Json& json, const Arguments& arguments, const Outcome& outcome)
   }
   if (arguments.verb == Verb::HourType || arguments.verb == Verb::DayType) {
     json[arguments.verb == Verb::HourType ? "hourTypes" : "dayTypes"] = TypesAsJson(outcome.types);
+  }
+  if (arguments.verb == Verb::Condition) {
+    json["conditions"] = ConditionsAsJson(outcome.conditions);
+  }
+  if (outcome.evaluated) {
+    json["evaluated"] = EvaluatedAsJson(*outcome.evaluated);
   }
   if (arguments.verb == Verb::Mark || arguments.verb == Verb::Unmark) {
     json["marked"] = outcome.marked ? MarkedAsJson(*outcome.marked) : Json(nullptr);

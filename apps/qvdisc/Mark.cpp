@@ -119,8 +119,8 @@ void Mark(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editi
           Outcome& outcome) {
   const Edited edited{list, rows, editing, outcome};
   MarkedDates marked;
-  if (!ModifyParts(
-          edited, [&](qv::DiscriminatorForm& form) { return RunCalendar(edited, form, marked); })) {
+  const auto use = [&](qv::DiscriminatorForm& form) { return RunCalendar(edited, form, marked); };
+  if (!ModifyParts(edited, qv::DiscriminatorType::Slots, use)) {
     return;
   }
   if (!marked.beyondWalk.empty()) {

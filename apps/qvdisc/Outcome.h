@@ -7,8 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "apps/qvdisc/EvaluatedExpression.h"
 #include "apps/qvdisc/MarkedDates.h"
 #include "apps/qvdisc/RehearsedFiles.h"
+#include "apps/qvdisc/ToldConditions.h"
 #include "apps/qvdisc/ToldTypes.h"
 #include "apps/qvdisc/Words.h"
 #include "checks/InstallationCheck.h"
@@ -51,8 +53,10 @@ struct Outcome {
   std::optional<std::string> unsaved;     ///< a discriminator that could not be saved, as payload
   std::optional<std::string> unsavedConfiguration;  ///< the text of its file
   std::vector<IndexEnd> indexes;
-  std::vector<std::wstring> made;     ///< the stems of the discriminators that are new
-  ToldTypes types;                    ///< of a call that works on hour types or day types
+  std::vector<std::wstring> made;  ///< the stems of the discriminators that are new
+  ToldTypes types;                 ///< of a call that works on hour types or day types
+  ToldConditions conditions;       ///< of a call that works on conditions
+  std::optional<EvaluatedExpression> evaluated;
   std::optional<MarkedDates> marked;  ///< nothing if the calendar wasn't saved
   qv::CheckedInstallation checked;    ///< what `check` found
   std::vector<std::wstring> names;    ///< by which discriminators can be called

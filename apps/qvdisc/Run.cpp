@@ -27,7 +27,8 @@ void Perform(const Arguments& arguments, const Terminal& terminal, const System&
 void Rehearse(const Arguments& arguments, const Terminal& terminal, const System& system,
               Outcome& outcome) {
   RehearsedFiles files(system.files);
-  Perform(arguments, terminal, {system.language, system.languageDirectory, files}, outcome);
+  Perform(arguments, terminal,
+          {system.language, system.languageDirectory, files, system.minuteOfDay}, outcome);
   outcome.changes = files.Changes();
 }
 

@@ -50,6 +50,7 @@ Session::Session(const Arguments& arguments, const Terminal& terminal, const Sys
       m_configuration(m_mainCfg, system.files),
       m_notices([&outcome](int id) { outcome.notices.push_back(id); }),
       m_indexFiles(system.files),
+      m_expressions(m_devices, m_texts, system.minuteOfDay),
       m_clipboard(terminal.in),
       m_prompter(terminal, m_texts, arguments.answer, outcome),
       m_view(terminal, outcome.language),
@@ -79,6 +80,7 @@ bool Session::LoadLanguage() {
 bool Session::LoadConfiguration() {
   m_loaded = m_configuration.Load(m_setup.CfgPath().ToView());
   const bool isGood = m_loaded == Loaded::FromFile || m_loaded == Loaded::New;
+  m_devices.Read(*m_mainCfg.Root());
   if (isGood || m_arguments.verb == Verb::Check) {
     return true;
   }
@@ -93,7 +95,8 @@ qv::InstallationToCheck Session::ToCheck() const {
           .files = m_system.files,
           .configuration = StateAfter(m_loaded),
           .isEmbedded = m_configuration.IsEmbedded(),
-          .deviceGroups = m_configuration.DeviceGroups()};
+          .deviceGroups = m_configuration.DeviceGroups(),
+          .drivers = &m_expressions};
 }
 
 void Session::Perform() {
@@ -124,12 +127,14 @@ void Session::PerformOn(const std::vector<int>& rows) {
   const qv::DiscriminatorDirectory directory(m_setup.CfgPath(), m_system.files);
   qv::DiscriminatorClipboard clipboard(m_host, m_system.files, *m_list);
   const auto stems = [&] { return StemsOf(m_list->Rows(), rows); };
-  const Editing editing{m_host, m_system.files, m_prompter, m_arguments};
+  const Editing editing{m_host, m_system.files, m_prompter, m_expressions, m_arguments};
   switch (m_arguments.verb) {
     case Verb::List:
     case Verb::Check:
     case Verb::Names:
       return;
+    case Verb::Eval:
+      return Eval(m_arguments.expression, m_expressions, m_texts, m_outcome);
     case Verb::Show:
       return Show(directory, stems().front(), m_outcome);
     case Verb::Index:
@@ -146,6 +151,8 @@ void Session::PerformOn(const std::vector<int>& rows) {
       return HourTypes(*m_list, rows, editing, m_outcome);
     case Verb::DayType:
       return DayTypes(*m_list, rows, editing, m_outcome);
+    case Verb::Condition:
+      return Conditions(*m_list, rows, editing, m_outcome);
     case Verb::Mark:
     case Verb::Unmark:
       return Mark(*m_list, rows, editing, m_outcome);

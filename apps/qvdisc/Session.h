@@ -11,7 +11,9 @@
 #include "apps/qvdisc/TerminalView.h"
 #include "apps/qvdisc/UserPrompter.h"
 #include "hostkit/Configuration.h"
+#include "hostkit/DeviceModel.h"
 #include "hostkit/DirectorySetup.h"
+#include "hostkit/ExpressionSupport.h"
 #include "hostkit/GuidNotices.h"
 #include "hostkit/IndexFiles.h"
 #include "hostkit/LanguageFile.h"
@@ -59,6 +61,8 @@ class Session {
   qv::GuidNotices m_notices;
   qv::LanguageFile m_texts;
   qv::IndexFiles m_indexFiles;
+  qv::DeviceModel m_devices;
+  qv::ExpressionSupport m_expressions;
   StreamClipboard m_clipboard;
   UserPrompter m_prompter;
   TerminalView m_view;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "hostkit/ExpressionSupport.h"
 #include "hostkit/Language.h"
 #include "tools/Files.h"
 
@@ -12,6 +13,7 @@ struct System {
   qv::Language language = qv::Language::English;  ///< of its user, unless the call names one
   std::wstring languageDirectory;                 ///< of the language files; ends in its separator
   qv::Files& files = qv::Files::Disk();
+  qv::ExpressionSupport::Clock minuteOfDay = qv::LocalMinuteOfDay;  ///< of the present values
 };
 
 }  // namespace qvdisc

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "apps/qvdisc/CalendarReport.h"
+#include "apps/qvdisc/ConditionReport.h"
 #include "apps/qvdisc/FindingWords.h"
 #include "apps/qvdisc/Reports.h"
 #include "apps/qvdisc/TypeReport.h"
@@ -248,6 +249,12 @@ std::string TextReport(const Arguments& arguments, const Outcome& outcome, bool 
   WriteMade(writer, outcome);
   for (const std::wstring& line : TypesAsLines(outcome.types, outcome.language)) {
     writer.Write(OneLine(line));
+  }
+  for (const std::wstring& line : ConditionsAsLines(outcome.conditions, outcome.language)) {
+    writer.Write(OneLine(line));
+  }
+  if (outcome.evaluated && outcome.evaluated->value) {
+    writer.Write(EvaluatedAsLine(*outcome.evaluated, outcome.language));
   }
   if (outcome.marked) {
     writer.Write(OneLine(MarkedAsLine(*outcome.marked, outcome.language)));

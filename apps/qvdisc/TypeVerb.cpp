@@ -124,7 +124,7 @@ void TypeVerb(const TypeDialogs& dialogs, const Edited& edited) {
     return RunList(dialogs, edited, form, told);
   };
   const bool isList = edited.editing.call.type.action == TypeAction::List;
-  if (isList ? ReadParts(edited, use) : ModifyParts(edited, use)) {
+  if ((isList ? ReadParts : ModifyParts)(edited, qv::DiscriminatorType::Slots, use)) {
     edited.outcome.types = std::move(told);
   }
 }

@@ -11,6 +11,7 @@
 #include "host/Host.h"
 #include "host/Progress.h"
 #include "host/Prompter.h"
+#include "host/QVDriverSupport.h"
 #include "manager/DiscriminatorClipboard.h"
 #include "manager/DiscriminatorList.h"
 #include "tools/Files.h"
@@ -41,6 +42,7 @@ struct Editing {
   const qv::Host& host;
   qv::Files& files;
   qv::Prompter& prompter;
+  const QVDriverSupport& drivers;
   const Arguments& call;
 };
 
@@ -59,6 +61,10 @@ void HourTypes(qv::DiscriminatorList& list, const std::vector<int>& rows, const 
 void DayTypes(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
               Outcome& outcome);
 
+/// Lists, changes or orders the conditions of the first of the rows, as the call says.
+void Conditions(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
+                Outcome& outcome);
+
 /// Gives dates of the calendar of the first of the rows a day type, or takes it from them, as the
 /// call says.
 void Mark(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editing& editing,
@@ -67,6 +73,10 @@ void Mark(qv::DiscriminatorList& list, const std::vector<int>& rows, const Editi
 /// Removes the discriminators of the rows, after the question of the rules.
 void Remove(qv::DiscriminatorList& list, const std::vector<int>& rows, qv::Prompter& prompter,
             Outcome& outcome);
+
+/// Evaluates the expression, as a condition is; the outcome tells the result, or why there is none.
+void Eval(const std::wstring& expression, const QVDriverSupport& drivers, const QVLoadString& texts,
+          Outcome& outcome);
 
 /// Tells what is wrong with the installation, or with those of its files that the call names.
 void Check(const qv::InstallationToCheck& installation, const Arguments& call,

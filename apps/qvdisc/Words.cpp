@@ -153,6 +153,17 @@ constexpr qv::EnumTable texts(std::array{
             L"que el último",
             L"%s: %s dates are lost when the calendar is confirmed: the day of the month of the "
             L"first marked date is greater than that of the last"},
+    WordRow{Word::ConditionMalformed, L"%s: la expresión no se puede analizar: %s",
+            L"%s: the expression does not parse: %s"},
+    WordRow{Word::ConditionNotLogical, L"%s: la expresión no da verdadero ni falso",
+            L"%s: the expression gives neither true nor false"},
+    WordRow{Word::ConditionFails, L"%s: la expresión no se puede evaluar: %s",
+            L"%s: the expression cannot be evaluated: %s"},
+    WordRow{Word::ConditionsAlike, L"%s: misma expresión que «%s», que va antes",
+            L"%s: same expression as “%s”, which comes before"},
+    WordRow{Word::ConditionTooLong,
+            L"%s: %s caracteres; al aceptarla en su ventana se conservan los primeros 64",
+            L"%s: %s characters; its window keeps the first 64 when it is confirmed"},
 });
 
 }  // namespace

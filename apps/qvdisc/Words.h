@@ -88,19 +88,24 @@ enum class Word {
   IndexWithoutUse,
   EntryWithoutDiscriminator,  ///< place, id
   DiscriminatorWithoutEntry,
-  DuplicateEntry,   ///< place, id
-  DuplicateId,      ///< the id
-  DuplicateName,    ///< the name
-  DuplicatePart,    ///< tag of the field, place, value
-  MalformedTime,    ///< place, the text
-  TimeOutOfRange,   ///< place, the text
-  StartAfterEnd,    ///< place
-  SlotsOverlap,     ///< place, the other slot
-  DayGaps,          ///< place, how many minutes
-  WrongYear,        ///< the text, the year as which it is read
-  NoSuchMonth,      ///< place, tag
-  NoSuchDate,       ///< place, tag
-  DatesBeyondWalk,  ///< place, how many dates
+  DuplicateEntry,       ///< place, id
+  DuplicateId,          ///< the id
+  DuplicateName,        ///< the name
+  DuplicatePart,        ///< tag of the field, place, value
+  MalformedTime,        ///< place, the text
+  TimeOutOfRange,       ///< place, the text
+  StartAfterEnd,        ///< place
+  SlotsOverlap,         ///< place, the other slot
+  DayGaps,              ///< place, how many minutes
+  WrongYear,            ///< the text, the year as which it is read
+  NoSuchMonth,          ///< place, tag
+  NoSuchDate,           ///< place, tag
+  DatesBeyondWalk,      ///< place, how many dates
+  ConditionMalformed,   ///< place, why
+  ConditionNotLogical,  ///< place
+  ConditionFails,       ///< place, why
+  ConditionsAlike,      ///< place, the name of the other
+  ConditionTooLong,     ///< place, how many characters
 
   Count
 };
