@@ -132,8 +132,7 @@ void ExpressionWizard::LayOut() {
   lists->addWidget(Pane(NewLabel(Text::WizardVariables, m_variables), m_variables));
   lists->addWidget(Pane(NewLabel(Text::WizardVocabulary, m_vocabulary), m_vocabulary));
   lists->setChildrenCollapsible(false);
-  lists->setStretchFactor(0, 3);
-  lists->setStretchFactor(1, 2);
+  lists->setSizes({4, 3});  // their proportion
   auto* caption = new QHBoxLayout;
   caption->addWidget(NewLabel(Text::WizardExpression, m_expression), 1);
   caption->addWidget(m_length);

@@ -138,7 +138,7 @@ void VariableTree::timerEvent(QTimerEvent* event) {
 
 /// Columns as wide as their texts, but so that none of them takes the room of the others.
 void VariableTree::SizeColumns() {
-  constexpr std::array shares{std::pair{NameColumn, 35}, std::pair{UnitColumn, 12},
+  constexpr std::array shares{std::pair{NameColumn, 35}, std::pair{UnitColumn, 15},
                               std::pair{ValueColumn, 25}};  // per cent of the width
   for (const auto& [column, share] : shares) {
     const int wanted =

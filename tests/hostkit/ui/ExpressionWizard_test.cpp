@@ -4,10 +4,12 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QKeySequence>
 #include <QMimeData>
 #include <QTest>
 #include <QTreeWidgetItemIterator>
 
+#include "hostkit/LanguageFile.h"
 #include "hostkit/ui/VariableTree.h"
 #include "hostkit/ui/VocabularyList.h"
 #include "hostkit/ui/WizardSupport.h"
@@ -341,6 +343,25 @@ TEST_F(ExpressionWizardTest, EveryControlHasANameForAssistiveTechnology) {
     }
     Key(Qt::Key_Escape);
   });
+}
+
+TEST_F(ExpressionWizardTest, MnemonicsDifferInEachLanguage) {
+  for (const wchar_t* file : {L"/en.txt", L"/es.txt"}) {
+    LanguageFile texts;
+    ASSERT_TRUE(texts.Load(QStringLiteral(LANGUAGES_FOLDER).toStdWString() + file));
+    QVLoadString::Install(&texts);
+    Run(L"", 0, 0, [] {
+      QStringList letters;
+      for (const auto* label : TopWindow()->findChildren<QLabel*>()) {
+        const QString letter = QKeySequence::mnemonic(label->text()).toString();
+        EXPECT_FALSE(letters.contains(letter)) << label->text().toStdString();
+        letters += letter.isEmpty() ? QStringList() : QStringList(letter);
+      }
+      EXPECT_EQ(letters.size(), 4);
+      Key(Qt::Key_Escape);
+    });
+  }
+  QVLoadString::Install(&host->loadString);
 }
 
 TEST_F(ExpressionWizardTest, SixtyDevicesWithLongNamesFitIn) {
