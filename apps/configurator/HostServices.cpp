@@ -16,8 +16,8 @@ HostServices::HostServices(std::wstring_view images)
           m_listener(id);
         }
       }),
-      m_installed(*m_setup, m_mainCfg, m_notices, m_texts, m_indexFiles, m_clipboard,
-                  m_expressions) {}
+      m_installed(*m_setup, m_mainCfg, m_notices, m_texts, m_indexFiles, m_clipboard, m_expressions,
+                  m_wizards) {}
 
 void HostServices::SetDirectory(std::wstring_view directory) {
   auto setup = std::make_unique<qv::DirectorySetup>(directory, m_images, programIcon);

@@ -14,6 +14,7 @@
 #include "hostkit/InstalledServices.h"
 #include "hostkit/LanguageFile.h"
 #include "hostkit/ui/QtClipboard.h"
+#include "hostkit/ui/WizardSupport.h"
 
 namespace configurator {
 
@@ -42,6 +43,9 @@ class HostServices {
   /// The devices of the open installation with their values.
   const qv::ExpressionSupport& Expressions() const { return m_expressions; }
 
+  /// The texts in which the dialogs speak.
+  const QVLoadString& Texts() const { return m_texts; }
+
   /// The directory of the open installation and that of the images, each with its separator.
   const QVVornelSetup& Setup() const { return *m_setup; }
 
@@ -56,8 +60,9 @@ class HostServices {
   qv::QtClipboard m_clipboard;
   qv::DeviceModel m_devices;
   qv::ExpressionSupport m_expressions{m_devices, m_texts};
+  qv::WizardSupport m_wizards{m_expressions};
   qv::InstalledServices<QVVornelSetup, QVMainCfg, QVVornelGuids, QVLoadString,
-                        CreateDiscriminatorIndex, QVClipboard, QVDriverSupport>
+                        CreateDiscriminatorIndex, QVClipboard, QVDriverSupport, QVInformes>
       m_installed;
 };
 

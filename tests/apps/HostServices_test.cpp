@@ -22,6 +22,8 @@ TEST(HostServices, AreInstalledAsLongAsTheyLive) {
     EXPECT_EQ(&host->mainCfg, &services.MainCfg());
     EXPECT_EQ(host->setup.getImageFilePath(), L"/images/");
     EXPECT_EQ(host->setup.ProgramIDResource(), 1U);
+    EXPECT_TRUE(QVDriverSupport::Get());
+    EXPECT_TRUE(QVInformes::Get());
   }
   EXPECT_FALSE(QVVornelSetup::Get());
   EXPECT_FALSE(QVMainCfg::Get());
@@ -30,6 +32,7 @@ TEST(HostServices, AreInstalledAsLongAsTheyLive) {
   EXPECT_FALSE(CreateDiscriminatorIndex::Get());
   EXPECT_FALSE(QVClipboard::Get());
   EXPECT_FALSE(QVDriverSupport::Get());
+  EXPECT_FALSE(QVInformes::Get());
 }
 
 TEST(HostServices, TheDirectoryCanBeChanged) {
