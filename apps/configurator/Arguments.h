@@ -12,7 +12,7 @@
 namespace configurator {
 
 /// A window that can be shown alone.
-enum class ShownWindow { Main, Discriminators, FastSelection, Start };
+enum class ShownWindow { Main, Discriminators, FastSelection, Wizard, Start };
 
 /// What the command line calls a window.
 struct WindowName {
@@ -29,6 +29,7 @@ inline constexpr std::array windowNames = {
                "the manager of the installation's discriminators", true},
     WindowName{"fast-selection", ShownWindow::FastSelection,
                "the choice of dates by a rule, March to June", false},
+    WindowName{"wizard", ShownWindow::Wizard, "the wizard of expressions, on a condition", false},
     WindowName{"start", ShownWindow::Start, "what is shown if there is no installation to open",
                false},
 };

@@ -14,6 +14,7 @@
 #include "apps/configurator/Settings.h"
 #include "apps/configurator/StartWindow.h"
 #include "apps/configurator/Theme.h"
+#include "apps/configurator/WizardWindow.h"
 #include "apps/configurator/Workspace.h"
 
 namespace configurator {
@@ -140,6 +141,13 @@ Workspace::Problem ShowFastSelection(Workspace& workspace, Presenter& presenter,
   return end.problem;
 }
 
+void ShowWizard(Workspace& workspace, Presenter& presenter, const Arguments& arguments) {
+  const QString result = RunWizard(workspace, [&](QWidget& window) { presenter.Present(window); });
+  if (!arguments.EndsByItself()) {
+    std::puts(result.toUtf8().constData());
+  }
+}
+
 /// Shows the window on the open installation.
 Workspace::Problem ShowWindow(Workspace& workspace, Settings& settings, Presenter& presenter,
                               const Arguments& arguments) {
@@ -151,6 +159,10 @@ Workspace::Problem ShowWindow(Workspace& workspace, Settings& settings, Presente
   }
   if (arguments.show == ShownWindow::FastSelection) {
     return ShowFastSelection(workspace, presenter, arguments);
+  }
+  if (arguments.show == ShownWindow::Wizard) {
+    ShowWizard(workspace, presenter, arguments);
+    return std::nullopt;
   }
   ShowMain(workspace, settings, presenter, arguments);
   return std::nullopt;

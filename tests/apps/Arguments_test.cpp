@@ -201,7 +201,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "fr is none of: es, en"},
         BadCall{"UnknownWindow",
                 {"--installation", ".", "--show", "dial"},
-                "dial is none of: main, discriminators, fast-selection, start"},
+                "dial is none of: main, discriminators, fast-selection, wizard, start"},
         BadCall{"UnknownLanguageBeforeAGoodOne",
                 {"--installation", ".", "--language", "fr", "--language", "es"},
                 "fr is none of: es, en"},

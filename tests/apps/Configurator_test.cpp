@@ -103,6 +103,10 @@ TEST_F(ConfiguratorTest, PicturesTheFastSelectionAlone) {
   EXPECT_THAT(ended.errors, HasSubstr("time slots"));
 }
 
+TEST_F(ConfiguratorTest, PicturesTheWizardAlone) {
+  EXPECT_FALSE(Picture({"--show", "wizard"}).isNull());
+}
+
 TEST_F(ConfiguratorTest, ListsTheDiscriminatorsSortedByName) {
   const Ended ended = RunOnCopy({"--show", "discriminators", "--list", "--language", "es"});
   EXPECT_EQ(ended.status, 0) << ended.errors;
