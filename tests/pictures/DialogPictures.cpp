@@ -3,12 +3,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QTimer>
+#include <iterator>
 #include <string>
 
 #include "apps/configurator/Theme.h"
 #include "apps/configurator/Workspace.h"
 #include "calendar/ui/CDlgCalendar.h"
 #include "calendar/ui/CDlgFastSelection.h"
+#include "conditions/ui/CDlgConditions.h"
+#include "conditions/ui/CDlgConditionsNewModify.h"
 #include "editor/ui/CDlgAddModifyDiscriminator.h"
 #include "timestructure/ui/CDlgAddModifyDayType.h"
 #include "timestructure/ui/CDlgAddModifyHourType.h"
@@ -96,6 +99,20 @@ void AddCalendar(const Album& album, const char* tariff, const std::string& name
   add("-large", {1400, 900});
 }
 
+/// Conditions over the devices of the installation, if the host has evaluators.
+void AddConditions(const Album& album) {
+  XmlDocument document;
+  if (!document.Parse("<conditions><condition><name>Peak</name><exp>1 &lt; 2</exp></condition>"
+                      "<condition><name>Rest</name><exp>1 &gt;</exp></condition></conditions>")) {
+    return;
+  }
+  qv::XmlNode& conditions = *document.Root();
+  album.Add(CDlgConditions(nullptr, &conditions), "conditions");
+  album.Add(CDlgConditionsNewModify(nullptr, *conditions.ChildsBegin(), &conditions), "condition");
+  album.Add(CDlgConditionsNewModify(nullptr, *std::prev(conditions.ChildsEnd()), &conditions),
+            "condition-fault");
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -117,6 +134,7 @@ int main(int count, char** arguments) {
   qv::XmlNode& dayTypes = *document.Root()->Node(L"dayTypes");
   AddDayTypes(album, dayTypes, hourTypes);
   album.Add(CDlgFastSelection(nullptr, &dayTypes, 2026), "fast-selection");
+  AddConditions(album);
   AddCalendar(album, tariff2, "calendar-2-0TD");
   AddCalendar(album, tariff3, "calendar");
   return 0;
