@@ -18,7 +18,7 @@ namespace {
 using Controls = std::map<int, QWidget*>;
 
 constexpr int enlargedBy = 150;
-constexpr int moreThanAnyLimit = 300;
+constexpr int moreThanAnyLimit = 600;
 
 Controls ControlsOf(const QWidget& window) {
   Controls controls;
