@@ -31,7 +31,7 @@ Addition WhyInvalid(const ConditionEvaluation& evaluation) {
 /// A text that was cut before it was checked may look right.
 void TellCut(Refusal& refusal, const QVWideString& typed, const QVWideString& kept) {
   const bool isCut = refusal.field == Field::Expression && typed != kept;
-  if (isCut && refusal.text) {
+  if (isCut) {
     refusal.addition.push_back(
         {Text::ExpressionKept,
          {std::to_wstring(ConditionForm::longestKept), std::wstring(kept.ToView())}});
@@ -77,7 +77,10 @@ std::optional<Refusal> ConditionForm::Fault(const QVWideString& expression) cons
     return std::nullopt;
   }
   if (evaluation.state == ConditionState::Failed) {
-    return Refusal{.words = evaluation.words, .field = Field::Expression, .selectsAll = true};
+    return Refusal{.words = evaluation.words,
+                   .field = Field::Expression,
+                   .selectsAll = true,
+                   .addition = WhyInvalid(evaluation)};
   }
   return OfExpression(WhyInvalid(evaluation));
 }

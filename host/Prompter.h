@@ -24,8 +24,8 @@ class QVHOST_EXPORT Prompter {
   virtual void Show(Text text, const Arguments& arguments = {}, const Addition& addition = {}) = 0;
   /// Asks the text as a question, likewise; true for Yes.
   virtual bool Ask(Text text, const Arguments& arguments = {}, const Addition& addition = {}) = 0;
-  /// Shows a text that has no number, as it stands.
-  virtual void ShowText(std::wstring_view text) = 0;
+  /// Shows a text that has no number, as it stands, and below it what there is to add.
+  virtual void ShowText(std::wstring_view text, const Addition& addition = {}) = 0;
 };
 
 }  // namespace qv

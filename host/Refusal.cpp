@@ -7,7 +7,7 @@ void Tell(Prompter& prompter, const Refusal& refusal) {
     const std::vector<FormatArgument> arguments(refusal.arguments.begin(), refusal.arguments.end());
     prompter.Show(*refusal.text, arguments, refusal.addition);
   } else {
-    prompter.ShowText(refusal.words);
+    prompter.ShowText(refusal.words, refusal.addition);
   }
 }
 

@@ -43,9 +43,10 @@ bool MessageBoxes::Ask(Text text, const Arguments& arguments, const Addition& ad
   return box.exec() == QMessageBox::Yes;
 }
 
-void MessageBoxes::ShowText(std::wstring_view text) {
+void MessageBoxes::ShowText(std::wstring_view text, const Addition& addition) {
   QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, VisibleWindow());
   Prepare(box, ToQString(text), warningPicture);
+  Add(box, addition);
   box.exec();
 }
 

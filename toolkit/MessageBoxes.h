@@ -21,7 +21,7 @@ class MessageBoxes : public Prompter {
   void Show(Text text, const Arguments& arguments = {}, const Addition& addition = {}) override;
   /// Anything but Yes counts as No, closing the box included.
   bool Ask(Text text, const Arguments& arguments = {}, const Addition& addition = {}) override;
-  void ShowText(std::wstring_view text) override;
+  void ShowText(std::wstring_view text, const Addition& addition = {}) override;
 
  private:
   QString Worded(Text text, const Arguments& arguments) const;

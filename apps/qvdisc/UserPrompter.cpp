@@ -25,9 +25,10 @@ void UserPrompter::Show(Text text, const Arguments& arguments, const qv::Additio
   m_terminal.err << Utf8(WithAddition(message, addition)) << '\n';
 }
 
-void UserPrompter::ShowText(std::wstring_view text) {
-  m_outcome.texts.push_back({0, std::wstring(text), false, std::nullopt});
-  m_terminal.err << Utf8(text) << '\n';
+void UserPrompter::ShowText(std::wstring_view text, const qv::Addition& addition) {
+  const std::wstring message(text);
+  m_outcome.texts.push_back({0, message, false, std::nullopt, qv::InWords(addition, m_texts)});
+  m_terminal.err << Utf8(WithAddition(message, addition)) << '\n';
 }
 
 bool UserPrompter::Ask(Text text, const Arguments& arguments, const qv::Addition& addition) {

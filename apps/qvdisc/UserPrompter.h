@@ -22,7 +22,7 @@ class UserPrompter : public qv::Prompter {
 
   void Show(Text text, const Arguments& arguments = {}, const qv::Addition& addition = {}) override;
   bool Ask(Text text, const Arguments& arguments = {}, const qv::Addition& addition = {}) override;
-  void ShowText(std::wstring_view text) override;
+  void ShowText(std::wstring_view text, const qv::Addition& addition = {}) override;
 
  private:
   std::wstring Worded(Text text, const Arguments& arguments) const;

@@ -230,6 +230,17 @@ TEST_F(ConditionFormTest, WhatIsLeftOfACutExpressionIsToldIfItIsRefused) {
   EXPECT_EQ(form.Save(L"Day", Times(L'1', 64)), (SaveEnd{SaveOutcome::Refused, OfExpression()}));
 }
 
+TEST_F(ConditionFormTest, WhatIsLeftOfACutExpressionIsToldInTheWordsOfTheHostAsWell) {
+  const std::wstring kept(64, L'1');
+  drivers.script[kept] = {.code = 9, .fault = ExpressionFault{{0, 1}, L"no device"}};
+  const Refusal told{.words = L"nine",
+                     .field = Field::Expression,
+                     .selectsAll = true,
+                     .addition = {{Text::ExpressionFaultTold, {L"no device"}},
+                                  {Text::ExpressionKept, {L"64", kept}}}};
+  EXPECT_EQ(form.Save(L"Day", Times(L'1', 65)), (SaveEnd{SaveOutcome::Refused, told}));
+}
+
 TEST_F(ConditionFormTest, AnExpressionThatIsOnlyTooLongIsSavedWhenItsBeginningIsStoredAlready) {
   const std::wstring kept(64, L'1');
   drivers.script[kept] = {};

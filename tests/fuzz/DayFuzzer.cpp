@@ -25,7 +25,7 @@ class Silent : public qv::Prompter {
  public:
   void Show(Text, const Arguments&, const qv::Addition&) override {}
   bool Ask(Text, const Arguments&, const qv::Addition&) override { return true; }
-  void ShowText(std::wstring_view) override {}
+  void ShowText(std::wstring_view, const qv::Addition&) override {}
 };
 
 void DemandDialInside(const XmlNode& day, const XmlNode& hourTypes) {

@@ -60,8 +60,8 @@ bool ScriptedPrompter::Ask(Text text, const Arguments& arguments, const Addition
   return Hear({text, true, Shown(arguments), {}, addition});
 }
 
-void ScriptedPrompter::ShowText(std::wstring_view words) {
-  Hear({std::nullopt, false, {}, std::wstring(words)});
+void ScriptedPrompter::ShowText(std::wstring_view words, const Addition& addition) {
+  Hear({std::nullopt, false, {}, std::wstring(words), addition});
 }
 
 /// Compares with the next step of the script, which is used up either way, and gives its answer.

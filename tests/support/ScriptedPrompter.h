@@ -44,7 +44,7 @@ class ScriptedPrompter : public Prompter {
   void Show(Text text, const Arguments& arguments = {}, const Addition& addition = {}) override;
   /// Answers as the script says, and No to what it doesn't expect.
   bool Ask(Text text, const Arguments& arguments = {}, const Addition& addition = {}) override;
-  void ShowText(std::wstring_view words) override;
+  void ShowText(std::wstring_view words, const Addition& addition = {}) override;
 
   /// All that was said, expected or not, in order.
   const std::vector<Said>& Heard() const { return m_heard; }
