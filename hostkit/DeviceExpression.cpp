@@ -1,6 +1,7 @@
 #include "hostkit/DeviceExpression.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <limits>
 
@@ -23,6 +24,12 @@ bool IsTooLong(std::wstring_view expression) {
 
 /// The place of the token that gave no finite result, if there is one such.
 ExpressionPlace PlaceOfNotFinite(const ExpressionOutcome& outcome, const ExpressionTokens& tokens) {
+  const auto huge = std::find_if(tokens.begin(), tokens.end(), [](const ExpressionToken& token) {
+    return token.kind == ExpressionTokenKind::Number && !std::isfinite(token.number);
+  });
+  if (huge != tokens.end()) {
+    return huge->place;
+  }
   if (outcome.notFinite.size() == 1) {
     return tokens[outcome.notFinite.front()].place;
   }
@@ -154,8 +161,13 @@ ExpressionCode DeviceExpression::CheckOutcome(const ExpressionOutcome& outcome) 
   if (!outcome.result) {
     return Blame(Code::NotWellFormed, {0, static_cast<int>(m_expression.Length())});
   }
-  return outcome.result->IsKnown() ? Code::Evaluated
-                                   : Blame(Code::NotFinite, PlaceOfNotFinite(outcome, m_tokens));
+  if (outcome.result->IsKnown()) {
+    return Code::Evaluated;
+  }
+  Blame(Code::NotFinite, PlaceOfNotFinite(outcome, m_tokens));
+  // With variables it may be finite at another moment.
+  return std::any_of(m_tokens.begin(), m_tokens.end(), IsVariable) ? Code::NoValue
+                                                                   : Code::NotFinite;
 }
 
 /// What numbers and variables are worth, in the place of their token.

@@ -1,11 +1,13 @@
 #include "hostkit/DeviceReader.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
 
+#include "discriminator/DayMinutes.h"
 #include "discriminator/Fields.h"
 #include "discriminator/ValueForms.h"
 #include "hostkit/DecimalNumber.h"
@@ -39,20 +41,35 @@ VariableClasses ClassesOf(std::wstring_view text) {
   return classes;
 }
 
+/// The minute of a day that "hh:mm" writes, up to 24:00.
+std::optional<int> MinuteOf(std::wstring_view text) {
+  constexpr std::wstring_view digits = L"0123456789";
+  constexpr std::size_t colon = 2;
+  const bool hasForm = text.size() == 5 && text[colon] == L':' &&
+                       text.find_first_not_of(digits) == colon &&
+                       text.find_first_not_of(digits, colon + 1) == std::wstring_view::npos;
+  const TimeOfDay time = hasForm ? TimeOf(QVWideString(text)) : TimeOfDay{hoursOfDay + 1, 0};
+  const bool isTime = time.minutes < minutesOfHour && time.Minutes() <= hoursOfDay * minutesOfHour;
+  return isTime ? std::optional(time.Minutes()) : std::nullopt;
+}
+
 /// Pairs of a time and the value that it has then.
 DailyCurve CurveOf(std::wstring_view text) {
   const auto words = WordsOf(text);
   std::vector<DailyCurve::Point> points;
   for (std::size_t i = 0; i + 1 < words.size(); i += 2) {
-    if (const auto value = DecimalNumber(words[i + 1])) {
-      points.push_back({TimeOf(QVWideString(words[i])).Minutes(), *value});
+    const auto minute = MinuteOf(words[i]);
+    const auto value = DecimalNumber(words[i + 1]);
+    if (minute && value) {
+      points.push_back({*minute, *value});
     }
   }
   return DailyCurve(points);
 }
 
 DailyCurve ValuesOf(const XmlNode& variable) {
-  if (const auto value = DecimalNumber(FieldOf(variable, tag::Value))) {
+  const auto value = DecimalNumber(FieldOf(variable, tag::Value));
+  if (value && std::isfinite(*value)) {
     return DailyCurve({{0, *value}});
   }
   return CurveOf(FieldOf(variable, L"curve"));

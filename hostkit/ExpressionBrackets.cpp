@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "hostkit/ExpressionSyntax.h"
 #include "hostkit/ExpressionTokens.h"
 
 namespace qv {
@@ -31,6 +32,9 @@ std::vector<ExpressionBrackets> PairsOf(std::wstring_view expression) {
 }  // namespace
 
 std::optional<ExpressionBrackets> BracketsAt(std::wstring_view expression, int cursor) {
+  if (expression.size() > static_cast<std::size_t>(longestExpression)) {
+    return std::nullopt;
+  }
   const auto pairs = PairsOf(expression);
   for (const int at : {cursor - 1, cursor}) {
     for (const ExpressionBrackets& pair : pairs) {

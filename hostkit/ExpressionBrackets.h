@@ -16,7 +16,8 @@ struct ExpressionBrackets {
 };
 
 /// The bracket beside the cursor with its partner: the one before it, else the one behind it.
-/// Nothing if neither is a bracket or if it has no partner. Square brackets count.
+/// Nothing if neither is a bracket or if it has no partner, or if the expression is too long to be
+/// one. Square brackets count.
 std::optional<ExpressionBrackets> BracketsAt(std::wstring_view expression, int cursor);
 
 }  // namespace qv

@@ -8,7 +8,8 @@
 namespace qv {
 
 /// The codes that `Evaluate` gives here. If several hold, it is the one that stands first here; of
-/// the wrong names of an expression the first one decides. `type` is set from `Unreadable` on.
+/// the flaws in the form of an expression, brackets too deep among them, and of its wrong names the
+/// first one decides. `type` is set from `Unreadable` on.
 enum class ExpressionCode {
   TooLarge = 9,  ///< too long, or brackets too deep in each other
   NotWellFormed = 2,
@@ -19,7 +20,7 @@ enum class ExpressionCode {
   TypesMixed = 7,       ///< a truth value where a number has to be, or the reverse
   Unreadable = QVEvaluator::CodeUnreadable,  ///< a variable belongs to a module
   NoValue = QVEvaluator::CodeNoValue,        ///< a variable has no value at the moment
-  NotFinite = 8,  ///< the result is no finite number, or depends on one that isn't
+  NotFinite = 8,  ///< no finite result, or one that depends on such; with variables it is `NoValue`
   Evaluated = QVEvaluator::CodeEvaluated,
 };
 

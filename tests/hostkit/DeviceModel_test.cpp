@@ -40,7 +40,8 @@ TEST(DeviceModel, ReadsACurveOfTimes) {
 TEST(DeviceModel, PassesOverWhatMakesNoSense) {
   const Variable variable = ReadVariable(
       "<classes>-1 34 4 x 1.5 99999999999999999999 nan</classes><value>NaN</value>"
-      "<curve>00:00 inf 12:00 3 25:00 4 18:00</curve><module>yes</module>");
+      "<value>1e999</value><curve>00:00 inf noon 5 12:99 6 1:00 7 24:30 8 12:00 3 25:00 4 "
+      "18:00</curve><module>yes</module>");
   EXPECT_EQ(variable.classes, ClassAlone(VariableClass::Expression));
   EXPECT_FALSE(variable.isOfModule);
   EXPECT_EQ(variable.values, DailyCurve({{720, 3}}));

@@ -165,7 +165,10 @@ TEST_F(ExpressionFaults, OfResultsStandAtWhatHasNone) {
   ExpectAll(ExpressionCode::NotFinite, {{L"2 + 1/0", {5, 1}, words},
                                         {L" 1/0 + sqrt(-1)", {1, 14}, words},
                                         {L"1 < sqrt(-1)", {4, 4}, words},
-                                        {L"1e999", {0, 5}, words}});
+                                        {L"1e999", {0, 5}, words},
+                                        {L"1e999 > 0", {0, 5}, words},
+                                        {L"if(true, 1e999, 1/0)", {9, 5}, words}});
+  ExpectAll(ExpressionCode::NoValue, {{L"1/(TS1.VL2 - TS1.VL2) > 2", {1, 1}, words}});
 }
 
 TEST_F(ExpressionFaults, OfAnEarlierCheckAreForgotten) {

@@ -131,6 +131,8 @@ TEST_F(ExpressionValues, WhatHasNoFiniteResultIsToldWithItsType) {
     EXPECT_EQ(result.code, ExpressionCode::NotFinite) << expression;
     EXPECT_EQ(result.type, number) << expression;
   }
+  EXPECT_EQ(Evaluate(L"1/(TS1.VL2 - TS1.VL2) > 2").code, ExpressionCode::NoValue);
+  EXPECT_EQ(Evaluate(L"1/(TS1.VL2 - TS1.VL2) > 2").type, truth);
   for (const wchar_t* expression :
        {L"1/0 > 5", L"true and 1/0 > 5", L"1/0 == 1/0", L"!(1/0 > 1)"}) {
     const Evaluation result = Evaluate(expression);

@@ -186,6 +186,11 @@ class Maker {
   std::mt19937 m_random;
 };
 
+/// Whether one of the leaves is a variable.
+bool HasVariable(const std::wstring& text) {
+  return text.find(L"TS1.") != std::wstring::npos || text.find(L"min.and") != std::wstring::npos;
+}
+
 class RandomExpressions : public ExpressionTest {};
 
 TEST_F(RandomExpressions, GiveWhatTheyWereMadeFor) {
@@ -197,8 +202,9 @@ TEST_F(RandomExpressions, GiveWhatTheyWereMadeFor) {
       continue;
     }
     const Evaluation result = Evaluate(made.text);
-    ASSERT_EQ(result.code,
-              std::isnan(made.value) ? ExpressionCode::NotFinite : ExpressionCode::Evaluated)
+    const auto unknown =
+        HasVariable(made.text) ? ExpressionCode::NoValue : ExpressionCode::NotFinite;
+    ASSERT_EQ(result.code, std::isnan(made.value) ? unknown : ExpressionCode::Evaluated)
         << made.text << ": " << (result.fault ? result.fault->words : L"");
     ASSERT_EQ(result.type, made.isTruth ? truth : number) << made.text;
     if (!std::isnan(made.value)) {
