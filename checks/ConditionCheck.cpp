@@ -15,6 +15,7 @@ namespace {
 std::optional<FindingKind> FaultOf(ConditionState state) {
   switch (state) {
     case ConditionState::Missing:
+      return FindingKind::ConditionMissing;
     case ConditionState::Invalid:
       return FindingKind::ConditionMalformed;
     case ConditionState::NotLogical:
@@ -41,7 +42,8 @@ void CheckConditions(const XmlNode* conditions, const QVDriverSupport& drivers,
                           .place = place,
                           .value = result.fault ? result.fault->words : result.words});
     }
-    if (const auto [known, isNew] = names.try_emplace(expression, name); !isNew) {
+    const auto [known, isNew] = names.try_emplace(expression, name);
+    if (!isNew && !expression.empty()) {
       findings.push_back(
           {.kind = FindingKind::ConditionsAlike, .place = place, .value = known->second});
     }

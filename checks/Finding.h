@@ -34,6 +34,7 @@ enum class FindingKind {
   NoSuchMonth,
   NoSuchDate,
   DatesBeyondWalk,
+  ConditionMissing,
   ConditionMalformed,
   ConditionNotLogical,
   ConditionFails,

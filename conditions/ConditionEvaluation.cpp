@@ -46,7 +46,10 @@ ConditionEvaluation EvaluateCondition(const QVDriverSupport& drivers,
   if (evaluator->AnalizeExpression() == wellFormed) {
     evaluation = Evaluate(drivers, *evaluator);
   }
-  evaluation.fault = evaluator->Fault();
+  // What a host says of a missing value doesn't make a number true or false.
+  if (evaluation.state != ConditionState::NotLogical) {
+    evaluation.fault = evaluator->Fault();
+  }
   return evaluation;
 }
 

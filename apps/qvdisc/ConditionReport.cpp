@@ -83,7 +83,7 @@ bool IsLogical(const EvaluatedExpression& evaluated) {
 }
 
 /// The shortest text that is read as this number again.
-std::wstring NumberText(double number) {
+std::wstring ExactNumberText(double number) {
   std::array<char, 32> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
   return {digits.data(), end};
@@ -137,7 +137,7 @@ std::wstring EvaluatedAsLine(const EvaluatedExpression& evaluated, qv::Language 
   if (IsLogical(evaluated)) {
     return Words(*evaluated.value != 0 ? ConditionWord::True : ConditionWord::False, language);
   }
-  return NumberText(*evaluated.value);
+  return ExactNumberText(*evaluated.value);
 }
 
 }  // namespace qvdisc

@@ -136,11 +136,25 @@ class CalledConditions {
     const bool isNew = fate == ConditionFate::Made;
     const QVWideString name =
         isNew ? QVWideString(Call().condition) : Given(Call().name, form.Name());
-    const qv::SaveEnd end = form.Save(name, Given(Call().expression, form.Expression()));
+    const QVWideString expression = Given(Call().expression, form.Expression());
+    if (!IsKept(name) || !IsKept(expression)) {
+      return {};
+    }
+    const qv::SaveEnd end = form.Save(name, expression);
     const bool isUnchanged = end.outcome == qv::SaveOutcome::Unchanged;
     m_told.fate = isUnchanged ? ConditionFate::Unchanged : fate;
     const EditorEnd editorEnd = EndOf(end, form.IsModified(), m_edited.editing.prompter);
     return isUnchanged ? EditorEnd{} : editorEnd;
+  }
+
+  /// Whether all of a stored text would be kept, which the call doesn't change; the outcome tells
+  /// if not.
+  bool IsKept(const QVWideString& text) const {
+    const bool isKept = qv::ConditionForm::Kept(text) == text;
+    if (!isKept) {
+      Fail(m_edited.outcome, ConditionWord::WouldBeCut, {qv::ConditionForm::longestKept, text});
+    }
+    return isKept;
   }
 
   static QVWideString Given(const std::optional<std::wstring>& text, const QVWideString& opened) {

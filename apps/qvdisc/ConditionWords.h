@@ -13,8 +13,8 @@ enum class ConditionWord {
   NoConditions,       ///< name of the discriminator
   NoSuchCondition,    ///< the text of the call
   SeveralConditions,  ///< the text of the call
-  NotEvaluated,       ///< why
   NotEvaluatedAt,     ///< the place, from 1, and why
+  WouldBeCut,         ///< how many characters are kept, and the text
 
   // What became of one
   Made,         ///< name

@@ -37,7 +37,8 @@ void TellWhyNot(const EvaluatedExpression& evaluated, const QVDriverSupport& dri
   if (evaluated.code) {
     drivers.ErrorMsg(*evaluated.code, words);
   }
-  Fail(outcome, ConditionWord::NotEvaluated, {words});
+  outcome.errors.emplace_back(words.ToView());
+  outcome.status = 1;
 }
 
 }  // namespace

@@ -79,8 +79,8 @@ bool Session::LoadLanguage() {
 
 bool Session::LoadConfiguration() {
   m_loaded = m_configuration.Load(m_setup.CfgPath().ToView());
-  const bool isGood = m_loaded == Loaded::FromFile || m_loaded == Loaded::New;
   m_devices.Read(*m_mainCfg.Root());
+  const bool isGood = m_loaded == Loaded::FromFile || m_loaded == Loaded::New;
   if (isGood || m_arguments.verb == Verb::Check) {
     return true;
   }
@@ -96,7 +96,7 @@ qv::InstallationToCheck Session::ToCheck() const {
           .configuration = StateAfter(m_loaded),
           .isEmbedded = m_configuration.IsEmbedded(),
           .deviceGroups = m_configuration.DeviceGroups(),
-          .drivers = &m_expressions};
+          .drivers = m_loaded == Loaded::FromFile ? &m_expressions : nullptr};
 }
 
 void Session::Perform() {

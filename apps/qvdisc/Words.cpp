@@ -153,6 +153,7 @@ constexpr qv::EnumTable texts(std::array{
             L"que el último",
             L"%s: %s dates are lost when the calendar is confirmed: the day of the month of the "
             L"first marked date is greater than that of the last"},
+    WordRow{Word::ConditionMissing, L"%s: no tiene expresión", L"%s: has no expression"},
     WordRow{Word::ConditionMalformed, L"%s: la expresión no se puede analizar: %s",
             L"%s: the expression does not parse: %s"},
     WordRow{Word::ConditionNotLogical, L"%s: la expresión no da verdadero ni falso",

@@ -101,6 +101,7 @@ enum class Word {
   NoSuchMonth,          ///< place, tag
   NoSuchDate,           ///< place, tag
   DatesBeyondWalk,      ///< place, how many dates
+  ConditionMissing,     ///< place
   ConditionMalformed,   ///< place, why
   ConditionNotLogical,  ///< place
   ConditionFails,       ///< place, why

@@ -62,7 +62,7 @@ TEST_F(ConditionCheckTest, OnesThatTheirEditorWouldRefuseAreTold) {
   Add(L"E", L"placed");
   EXPECT_THAT(Found(),
               ElementsAre(Of(FindingKind::ConditionMalformed, L"conditions/A"),
-                          Of(FindingKind::ConditionMalformed, L"conditions/B"),
+                          Of(FindingKind::ConditionMissing, L"conditions/B"),
                           Of(FindingKind::ConditionNotLogical, L"conditions/C"),
                           Of(FindingKind::ConditionFails, L"conditions/D", L"An unknown name"),
                           Of(FindingKind::ConditionFails, L"conditions/E", L"No device X")));
@@ -78,6 +78,20 @@ TEST_F(ConditionCheckTest, TheSecondOfTwoAlikeIsNoted) {
   EXPECT_THAT(found, ElementsAre(Of(FindingKind::ConditionsAlike, L"conditions/C", L"A"),
                                  Of(FindingKind::ConditionsAlike, L"conditions/D", L"A")));
   EXPECT_FALSE(found.front().IsFault());
+}
+
+TEST_F(ConditionCheckTest, OnesWithoutExpressionAreNotAlike) {
+  Add(L"A", L"");
+  Add(L"B", L"");
+  EXPECT_THAT(Found(), ElementsAre(Of(FindingKind::ConditionMissing, L"conditions/A"),
+                                   Of(FindingKind::ConditionMissing, L"conditions/B")));
+}
+
+TEST_F(ConditionCheckTest, ANumberWithoutAValueIsToldAsANumber) {
+  drivers.script[L"absent"] = {
+      .code = QVEvaluator::CodeNoValue, .type = 2, .fault = ExpressionFault{{0, 6}, L"No value"}};
+  Add(L"A", L"absent");
+  EXPECT_THAT(Found(), ElementsAre(Of(FindingKind::ConditionNotLogical, L"conditions/A")));
 }
 
 TEST_F(ConditionCheckTest, OnesThatWouldBeCutAreNoted) {

@@ -331,7 +331,8 @@ TEST_F(CheckTest, IdsOfPartsThatComeTwiceAreTold) {
        "<conditions><condition><id>1</id><name>a</name></condition><condition><id>1</id><name>a</"
        "name></condition>");
   const auto findings = Findings();
-  ASSERT_EQ(Kinds(findings), "duplicate-part\nduplicate-part\n");
+  ASSERT_EQ(Kinds(findings),
+            "duplicate-part\nduplicate-part\ncondition-missing\ncondition-missing\n");
   EXPECT_EQ(findings[0]["expected"], "id");
   EXPECT_EQ(findings[0]["place"], "conditions");
 }

@@ -159,6 +159,24 @@ TEST_F(ConditionsTest, WhatTheFieldsCannotHoldIsAWrongCall) {
             0);
 }
 
+TEST_F(ConditionsTest, AStoredTextIsNotCutByTheWay) {
+  const std::string blanks(64, ' ');
+  Edit(station + ".xdct", "[TS1.THDV] &gt; 8", "[TS1.THDV] &gt; 8" + blanks);
+  const Contents edited = All();
+  const Ended ended =
+      Do({"condition", "modify", station, "Distorted or unbalanced", "--name", "Distorted"});
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_THAT(ended.errors, HasSubstr("Only the first 64 characters of"));
+  EXPECT_EQ(All(), edited);
+}
+
+TEST_F(ConditionsTest, ACheckWithoutAGoodConfigurationLeavesExpressionsAlone) {
+  Write("configuration.xml", "<configuration");
+  for (const auto& finding : DoJson({"check"})["findings"]) {
+    EXPECT_NE(finding["kind"], "condition-fails") << finding;
+  }
+}
+
 TEST_F(ConditionsTest, OneThatIsNotThereIsToldOfByItsName) {
   for (const char* action : {"modify", "remove", "up", "down"}) {
     const Ended ended = Do({"condition", action, station, "overload"});
