@@ -228,7 +228,6 @@ enum class Text : unsigned {
   HelpIf = 60159,                 ///< help
 
   // Wizard of expressions
-  Proposals = 60100,             ///< name of the list that drops down from an expression
   WizardTitle = 60160,           ///< title
   WizardConditionTitle = 60161,  ///< title, for a condition
   WizardFind = 60162,            ///< label of the search field
@@ -244,8 +243,6 @@ enum class Text : unsigned {
   WizardExpression = 60172,      ///< label of the edit
   WizardLength = 60173,          ///< beside it: characters in use %d, most that are kept %d
   WizardEmpty = 60174,           ///< in place of the result: nothing is written
-  WizardTrue = 60175,            ///< result
-  WizardFalse = 60176,           ///< result
   WizardNotCondition = 60177,    ///< result %s that is a number
 
   // Variable selection

@@ -43,7 +43,7 @@ ExpressionTrial Failure(const QVDriverSupport& support, const QVEvaluator& evalu
 
 ExpressionTrial Result(const QVLoadString& texts, double value, int type, bool isCondition) {
   if (type == QVEvaluator::TypeLogical) {
-    return {std::wstring(texts.Load(value != 0 ? Text::WizardTrue : Text::WizardFalse).ToView()),
+    return {std::wstring(texts.Load(value != 0 ? Text::ResultTrue : Text::ResultFalse).ToView()),
             std::nullopt};
   }
   const std::wstring number = NumberText(value);

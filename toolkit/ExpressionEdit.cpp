@@ -109,6 +109,12 @@ void ExpressionEdit::mousePressEvent(QMouseEvent* event) {
   QLineEdit::mousePressEvent(event);
 }
 
+void ExpressionEdit::focusInEvent(QFocusEvent* event) {
+  // Tab and mnemonics would select all, and what is inserted next would replace it.
+  QFocusEvent plain(event->type(), Qt::OtherFocusReason);
+  QLineEdit::focusInEvent(&plain);
+}
+
 void ExpressionEdit::focusOutEvent(QFocusEvent* event) {
   m_list->Close();
   const int start = selectionStart();

@@ -12,7 +12,8 @@ namespace qv {
 class ProposalList;
 
 /// An edit for an expression: it marks places of its text, and completes what is written. Its
-/// selection stays when it loses the focus, so that others can work on it.
+/// selection stays when it loses the focus, so that others can work on it, and keys that lead to it
+/// select nothing.
 ///
 /// All places are in characters of the text as the rules have it (`toolkit/WidePlaces.h` turns
 /// those of `QLineEdit`).
@@ -26,7 +27,7 @@ class ExpressionEdit : public QLineEdit {
   explicit ExpressionEdit(QWidget* parent = nullptr);
 
   /// Shows these marks in place of all others. They stay at their places, whatever becomes of the
-  /// text; an edit that is read-only shows none. Nothing is told of it, and undo, selection and
+  /// text. Nothing is told of it, and undo, selection and
   /// cursor stay.
   void SetMarks(std::vector<ExpressionMark> marks);
   const std::vector<ExpressionMark>& Marks() const { return m_marks; }
@@ -53,6 +54,7 @@ class ExpressionEdit : public QLineEdit {
   void inputMethodEvent(QInputMethodEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void changeEvent(QEvent* event) override;

@@ -103,7 +103,11 @@ void ListPart::Show(const std::vector<ListRow>& rows, std::optional<int> select,
   EnableDisableButtons();
 }
 
-void ListPart::AppendRow(const ListRow& row) { m_controls.view->addTopLevelItem(NewItem(row)); }
+void ListPart::AppendRow(const ListRow& row) {
+  QTreeWidgetItem* item = NewItem(row);
+  m_controls.view->addTopLevelItem(item);
+  m_controls.view->scrollToItem(item);
+}
 
 void ListPart::SetTexts(int row, const QStringList& texts) {
   QTreeWidgetItem* item = m_controls.view->topLevelItem(row);

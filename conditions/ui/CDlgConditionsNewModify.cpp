@@ -63,6 +63,7 @@ void CDlgConditionsNewModify::InitializeTexts() {
 
 void CDlgConditionsNewModify::InitializeData() {
   qv::SetLoadedText(m_ui.editExpression, qv::ToQString(m_form->Expression()));
+  m_ui.editExpression->end(false);  // where the wizard goes on
   qv::SetLoadedName(m_ui.editName, qv::ToQString(m_form->Name()));
 }
 
@@ -99,7 +100,7 @@ int CDlgConditionsNewModify::NotKept() const {
 void CDlgConditionsNewModify::ShowMarks(const qv::ConditionEvaluation& evaluation) {
   using Kind = qv::ExpressionMark::Kind;
   std::vector<qv::ExpressionMark> marks;
-  if (evaluation.fault) {
+  if (evaluation.fault && !qv::IsCondition(evaluation.state)) {
     marks.push_back({evaluation.fault->place, Kind::Fault});
   }
   if (NotKept() > 0) {
@@ -126,8 +127,18 @@ void CDlgConditionsNewModify::OnWizzard() {
   wizzard->SetExpression(qv::ToWide(m_ui.editExpression->text()), selection.start,
                          selection.start + selection.length);
   if (wizzard->DoModal() == IDOK) {
-    qv::SetLoadedText(m_ui.editExpression, qv::ToQString(wizzard->m_expression));
+    TakeComposed(qv::ToQString(wizzard->m_expression));
   }
+}
+
+/// Takes all of a text, as one step of undo, and lets the user go on in it.
+void CDlgConditionsNewModify::TakeComposed(const QString& expression) {
+  auto* edit = m_ui.editExpression;
+  const QValidator* limit = edit->validator();
+  edit->setValidator(nullptr);
+  edit->Replace({0, qv::WideLength(edit->text())}, expression, qv::WideLength(expression));
+  edit->setValidator(limit);
+  edit->setFocus();
 }
 
 QWidget* CDlgConditionsNewModify::ControlOf(qv::Field field) const {

@@ -33,6 +33,7 @@ class CDlgConditionsNewModify : public qv::EditingDialog<qv::ConditionForm> {
   void ShowHint(const qv::ConditionEvaluation& evaluation);
   int NotKept() const;
   void OnWizzard();
+  void TakeComposed(const QString& expression);
 
   Ui::Template1311 m_ui;
   qv::XmlNode& m_condition;

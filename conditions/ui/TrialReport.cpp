@@ -26,7 +26,8 @@ QString FirstInWords(const std::vector<TriedCondition>& tried, const QVLoadStrin
   if (!first) {
     return OwnText(loadString, Text::NoTrueCondition);
   }
-  const QVWideString& name = tried[static_cast<std::size_t>(*first)].name;
+  const TriedCondition& one = tried[static_cast<std::size_t>(*first)];
+  const QVWideString& name = one.name.Empty() ? one.expression : one.name;
   const QVWideString wording = ToWide(OwnText(loadString, Text::FirstTrueCondition));
   return ToQString(Format(wording.ToView(), {name}));
 }

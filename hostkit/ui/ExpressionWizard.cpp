@@ -1,7 +1,6 @@
 #include "hostkit/ui/ExpressionWizard.h"
 
 #include <QDropEvent>
-#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -79,9 +78,6 @@ void ExpressionWizard::SetExpression(const QString& text, ExpressionPlace select
 bool ExpressionWizard::eventFilter(QObject* watched, QEvent* event) {
   if (watched == m_expression && event->type() == QEvent::Drop) {
     return Drop(static_cast<QDropEvent&>(*event));
-  }
-  if (watched == m_expression && event->type() == QEvent::FocusIn) {
-    return Enter(static_cast<const QFocusEvent&>(*event));
   }
   if (watched == m_words && event->type() == QEvent::KeyPress) {
     const int key = static_cast<const QKeyEvent*>(event)->key();
@@ -183,7 +179,7 @@ void ExpressionWizard::Connect() {
         return EvaluatorFor(m_services.expressions, text.toStdWString(), m_demand)
             ->ProposalsAt(place);
       },
-      OwnText(m_services.texts, Text::Proposals));
+      OwnText(m_services.texts, Text::ExpressionProposals));
 }
 
 void ExpressionWizard::Find(const QString& words) {
@@ -221,16 +217,6 @@ bool ExpressionWizard::Drop(QDropEvent& event) {
   Insert(QString::fromUtf8(event.mimeData()->data(format)));
   event.acceptProposedAction();
   return true;
-}
-
-/// Gives the expression the focus and leaves its cursor where it is: by Tab or mnemonic an edit
-/// selects all, which the next entry would replace.
-bool ExpressionWizard::Enter(const QFocusEvent& event) {
-  if (event.reason() == Qt::OtherFocusReason) {
-    return false;
-  }
-  QFocusEvent entered(QEvent::FocusIn, Qt::OtherFocusReason);
-  return static_cast<QObject*>(m_expression)->event(&entered);
 }
 
 /// Shows the result of the moment.

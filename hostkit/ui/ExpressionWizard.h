@@ -56,7 +56,6 @@ class ExpressionWizard : public QDialog {
   void GoToVariables();
   void Insert(const QString& entry);
   bool Drop(QDropEvent& event);
-  bool Enter(const QFocusEvent& event);
   void Try();
   void Mark();
 

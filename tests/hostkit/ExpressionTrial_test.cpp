@@ -35,14 +35,14 @@ class ExpressionTrialTest : public testing::Test {
 
 TEST_F(ExpressionTrialTest, AResultIsShownAsItIs) {
   EXPECT_EQ(Try(L"M.T"), (ExpressionTrial{L"21.4", {}}));
-  EXPECT_EQ(Try(L"M.V > 200"), (ExpressionTrial{L"[60175]", {}}));
-  EXPECT_EQ(Try(L"M.V < 200"), (ExpressionTrial{L"[60176]", {}}));
+  EXPECT_EQ(Try(L"M.V > 200"), (ExpressionTrial{L"[60085]", {}}));
+  EXPECT_EQ(Try(L"M.V < 200"), (ExpressionTrial{L"[60086]", {}}));
 }
 
 TEST_F(ExpressionTrialTest, AConditionWithANumberIsToldSo) {
   demand.isCondition = true;
   EXPECT_EQ(Try(L"M.T").words, L"[60177]");
-  EXPECT_EQ(Try(L"M.T > 1").words, L"[60175]");
+  EXPECT_EQ(Try(L"M.T > 1").words, L"[60085]");
 }
 
 TEST_F(ExpressionTrialTest, WhatIsWrongIsToldWithItsPlace) {

@@ -50,6 +50,9 @@ constexpr char tariff2[] =
 constexpr char tariff3[] =
     PICTURED_FILE "9cfc40ad-7433-4b63-9bdc-fddcb544122c.Tariff 3-0TD and 6-1TD 2026.xdct";
 
+constexpr char station[] =
+    PICTURED_FILE "b4f5b7a3-3a57-4f3e-92cb-dab16be737f9.Transformer station state.xdct";
+
 QVWideString PathOf(const char* tariff) {
   return QVWideString(QString::fromUtf8(tariff).toStdWString().c_str());
 }
@@ -99,18 +102,18 @@ void AddCalendar(const Album& album, const char* tariff, const std::string& name
   add("-large", {1400, 900});
 }
 
-/// Conditions over the devices of the installation, if the host has evaluators.
+/// The conditions of the transformer station, and one of them with a fault.
 void AddConditions(const Album& album) {
   XmlDocument document;
-  if (!document.Parse("<conditions><condition><name>Peak</name><exp>1 &lt; 2</exp></condition>"
-                      "<condition><name>Rest</name><exp>1 &gt;</exp></condition></conditions>")) {
+  if (!document.Load(PathOf(station))) {
     return;
   }
-  qv::XmlNode& conditions = *document.Root();
+  qv::XmlNode& conditions = *document.Root()->Node(L"conditions");
   album.Add(CDlgConditions(nullptr, &conditions), "conditions");
-  album.Add(CDlgConditionsNewModify(nullptr, *conditions.ChildsBegin(), &conditions), "condition");
-  album.Add(CDlgConditionsNewModify(nullptr, *std::prev(conditions.ChildsEnd()), &conditions),
-            "condition-fault");
+  qv::XmlNode& last = **std::prev(conditions.ChildsEnd());
+  album.Add(CDlgConditionsNewModify(nullptr, &last, &conditions), "condition");
+  last.SetValue(L"exp", L"[TS1.S] > 630 || [TS1_TEMP.OIL] >");
+  album.Add(CDlgConditionsNewModify(nullptr, &last, &conditions), "condition-fault");
 }
 
 }  // namespace

@@ -255,6 +255,61 @@ TEST_F(ConditionEditor, TheFaultIsMarkedAndTold) {
   });
 }
 
+TEST_F(ConditionEditor, WhatMayBeStoredHasNoMark) {
+  const ExpressionFault fault{{0, 1}, L"no value"};
+  host->driverSupport.script[L"later"] = {.code = QVEvaluator::CodeNoValue, .fault = fault};
+  host->driverSupport.script[L"module"] = {
+      .code = QVEvaluator::CodeUnreadable, .hasModule = true, .fault = fault};
+  Modify([] {
+    for (const char* expression : {"later", "module"}) {
+      Type(expressionEdit, expression);
+      EXPECT_TRUE(Marks().empty()) << expression;
+      EXPECT_EQ(ExpressionHint(), "no value") << expression;
+    }
+    Click(IDCANCEL);
+  });
+}
+
+TEST_F(ConditionEditor, ALongExpressionThatLookedRightIsRefusedForWhatIsKeptOfIt) {
+  host->driverSupport.script[std::wstring(100, L'1')] = {};
+  Modify([] {
+    Type(expressionEdit, QString(100, '1'));
+    EXPECT_EQ(Caption(expressionLabel), TitleOf(Text::Condition));
+    AnswerNextBox(Text::ExpressionInvalid, QMessageBox::Ok);
+    Click(IDOK);
+    ExpectFocus(expressionEdit, QString(100, '1'));
+    Click(IDCANCEL);
+  });
+  EXPECT_EQ(*conditions, before);
+}
+
+TEST_F(ConditionEditor, ByKeyboardTheWizardGetsTheCursorAndGivesTheFocusBack) {
+  host->informes.composed = L"b";
+  Modify([] {
+    EXPECT_EQ(Edit(expressionEdit)->cursorPosition(), 1) << "behind what is there";
+    QTest::keyClick(Edit(conditionName), Qt::Key_Tab);
+    EXPECT_FALSE(Edit(expressionEdit)->hasSelectedText());
+    TopControl(wizardButton)->setFocus();
+    QTest::keyClick(TopControl(wizardButton), Qt::Key_Space);
+    EXPECT_TRUE(Edit(expressionEdit)->hasFocus());
+    EXPECT_EQ(Edit(expressionEdit)->cursorPosition(), 1);
+    Edit(expressionEdit)->undo();
+    EXPECT_EQ(Edit(expressionEdit)->text(), "a");
+    Click(IDCANCEL);
+  });
+  EXPECT_EQ(host->informes.runs.front().selectionStart, 1);
+  EXPECT_EQ(host->informes.runs.front().selectionEnd, 1);
+}
+
+TEST_F(ConditionEditor, AComposedExpressionIsTakenWhole) {
+  host->informes.composed = std::wstring(600, L'1');
+  Modify([] {
+    Click(wizardButton);
+    EXPECT_EQ(Edit(expressionEdit)->text().size(), 600);
+    Click(IDCANCEL);
+  });
+}
+
 TEST_F(ConditionEditor, ThePresentResultIsTold) {
   host->loadString.additions = {Text::PresentResult, Text::ResultTrue};
   Modify([] {

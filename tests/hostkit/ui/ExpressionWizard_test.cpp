@@ -46,7 +46,7 @@ class ExpressionWizardTest : public testing::Test {
     for (Device* device : {&station, &lights, &tariff}) {
       model.Add(std::move(*device));
     }
-    host->loadString.additions.insert(Text::Proposals);
+    host->loadString.additions.insert(Text::ExpressionProposals);
   }
 
   /// Runs a wizard on this text while `script` plays its user, and gives its result.
@@ -286,12 +286,12 @@ TEST_F(ExpressionWizardTest, SaysSoIfThereIsNothingToShow) {
 
 TEST_F(ExpressionWizardTest, ResultAndValuesFollowTheClock) {
   Run(L"TS1.OIL > 30", 0, 0, [this] {
-    EXPECT_TRUE(Told().contains(TitleOf(Text::WizardFalse)));
+    EXPECT_TRUE(Told().contains(TitleOf(Text::ResultFalse)));
     EXPECT_EQ(Row(Variables(), QStringLiteral("OIL")).text(3), QStringLiteral("20"));
     minute = 720;
     EXPECT_EQ(Row(Variables(), QStringLiteral("OIL")).text(3), QStringLiteral("60"));
-    EXPECT_TRUE(QTest::qWaitFor([] { return Told().contains(TitleOf(Text::WizardTrue)); }, 3000));
-    EXPECT_EQ(Expression().accessibleDescription(), TitleOf(Text::WizardTrue));
+    EXPECT_TRUE(QTest::qWaitFor([] { return Told().contains(TitleOf(Text::ResultTrue)); }, 3000));
+    EXPECT_EQ(Expression().accessibleDescription(), TitleOf(Text::ResultTrue));
     Key(Qt::Key_Escape);
   });
 }
@@ -326,7 +326,7 @@ TEST_F(ExpressionWizardTest, NamesComplete) {
   Run(L"", 0, 0, [] {
     Keys("TS1.");
     ASSERT_TRUE(The<ProposalList>().isVisible());
-    EXPECT_EQ(The<ProposalList>().accessibleName(), TitleOf(Text::Proposals));
+    EXPECT_EQ(The<ProposalList>().accessibleName(), TitleOf(Text::ExpressionProposals));
     Keys("oi");
     Key(Qt::Key_Return);
     EXPECT_EQ(Expression().text(), QStringLiteral("TS1.OIL"));
